@@ -1,0 +1,78 @@
+#include <cstdlib>
+#include <cstring>
+
+#include "api/Jobs.h"
+#include "api/esp_flasher.h"
+#include "serial/PortDiscovery.h"
+
+namespace {
+
+char* dupString(const std::string& text) {
+    auto* copy = static_cast<char*>(std::malloc(text.size() + 1));
+    if (copy != nullptr) {
+        std::memcpy(copy, text.c_str(), text.size() + 1);
+    }
+    return copy;
+}
+
+void logLine(esp_log_cb log, const char* line) {
+    if (log != nullptr) {
+        log(line);
+    }
+}
+
+}  // namespace
+
+extern "C" {
+
+esp_error_t esp_flash_firmware(const char* port, const uint8_t* firmware, size_t firmwareLen,
+                               const uint8_t* bootloader, size_t bootloaderLen,
+                               const uint8_t* partitions, size_t partitionsLen,
+                               const uint8_t* bootApp, size_t bootAppLen, const uint8_t* stub,
+                               size_t stubLen, int fullFlash, int eraseAll,
+                               const char* expectedVersion, esp_progress_cb progress,
+                               esp_log_cb log) {
+    logLine(log, (std::string("Opening port: ") + port).c_str());
+    SerialPort serial;
+    if (!serial.open(port)) {
+        logLine(log, "Failed to open port");
+        return 2;
+    }
+    esp::FlashRequest request{
+        firmware,   firmwareLen, bootloader, bootloaderLen,  partitions,    partitionsLen,  bootApp,
+        bootAppLen, stub,        stubLen,    fullFlash != 0, eraseAll != 0, expectedVersion};
+    return esp::runFlashJob(serial, request, progress, log);
+}
+
+esp_error_t esp_upload_config(const char* port, const uint8_t* data, size_t length,
+                              esp_progress_cb progress, esp_log_cb /*log*/) {
+    SerialPort serial;
+    if (!serial.open(port)) {
+        return 2;
+    }
+    return esp::runUploadConfigJob(serial, data, length, progress);
+}
+
+char* esp_query_version(const char* port) {
+    SerialPort serial;
+    if (!serial.open(port)) {
+        return nullptr;
+    }
+    auto version = esp::runQueryVersionJob(serial);
+    return version ? dupString(*version) : nullptr;
+}
+
+char* esp_detect_device(uint16_t vendorId, uint16_t productId) {
+    auto ports = listESPPorts(vendorId, productId);
+    return ports.empty() ? nullptr : dupString(ports.front().calloutPath);
+}
+
+int esp_probe_partition_table(const char* port, const uint8_t* stub, size_t stubLen) {
+    SerialPort serial;
+    if (!serial.open(port)) {
+        return -1;
+    }
+    return esp::runProbePartitionTableJob(serial, stub, stubLen);
+}
+
+}  // extern "C"

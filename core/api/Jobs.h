@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "api/esp_flasher.h"
+#include "serial/SerialPort.h"
+
+/// The bodies of the library's jobs, run on a port that is already open. The
+/// `esp_*` entry points open the port by path and call these; tests and the
+/// simulator run them over the loopback back end as well.
+namespace esp {
+
+/// The images and options of one flashing job; every buffer is borrowed.
+struct FlashRequest {
+    const uint8_t* firmware = nullptr;
+    size_t firmwareLen = 0;
+    const uint8_t* bootloader = nullptr;
+    size_t bootloaderLen = 0;
+    const uint8_t* partitions = nullptr;
+    size_t partitionsLen = 0;
+    const uint8_t* bootApp = nullptr;
+    size_t bootAppLen = 0;
+    const uint8_t* stub = nullptr;
+    size_t stubLen = 0;
+    bool fullFlash = false;
+    bool eraseAll = false;
+    const char* expectedVersion = nullptr;
+};
+
+/// The flashing job after the port has been opened (from the 500 ms settle on).
+esp_error_t runFlashJob(SerialPort& port, const FlashRequest& request, esp_progress_cb progress,
+                        esp_log_cb log);
+
+/// The configuration upload after the port has been opened; 0 or 8.
+esp_error_t runUploadConfigJob(SerialPort& port, const uint8_t* data, size_t length,
+                               esp_progress_cb progress);
+
+/// The version query after the port has been opened.
+std::optional<std::string> runQueryVersionJob(SerialPort& port);
+
+/// The partition-table probe after the port has been opened: 1, 0 or -1.
+int runProbePartitionTableJob(SerialPort& port, const uint8_t* stub, size_t stubLen);
+
+/// True when the table holds at least one 0xAA entry and an application
+/// partition at 0x10000 before the first entry without the 0xAA mark.
+bool isPartitionTableValid(const uint8_t* data, size_t size);
+
+}  // namespace esp

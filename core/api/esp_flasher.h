@@ -1,0 +1,61 @@
+#ifndef ESP_FLASHER_H
+#define ESP_FLASHER_H
+
+/*
+ * The flasher library's flat interface. Every entry point blocks its calling
+ * thread for one whole job and calls its callbacks synchronously on that
+ * thread. Buffers and texts passed in are borrowed for the call; texts
+ * returned are malloc'd copies that the caller releases with free(). At most
+ * one job may run at a time.
+ */
+
+#include <stddef.h>
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Result code: 0 success, 2 port not opened, 3 no sync, 4 wrong chip or
+ * secure boot, 5 stub failed, 6 erase or write failed, 7 MD5 mismatch,
+ * 8 configuration upload failed. 1, 9 and 10 are reserved for the application. */
+typedef uint32_t esp_error_t;
+
+/* Progress callback: fraction 0..1 and a short stage text. May be null. */
+typedef void (*esp_progress_cb)(float progress, const char* stage);
+
+/* Log callback: one line without line ending. May be null. */
+typedef void (*esp_log_cb)(const char* line);
+
+/* Writes the flash plan (bootloader 0x0 and partitions 0x8000 when fullFlash,
+ * boot-app 0xE000 when given, application 0x10000), verifies each region by MD5,
+ * restarts the chip and, when expectedVersion is neither null nor empty, asks the
+ * firmware for its version. Returns 0, 2, 3, 4, 5, 6 or 7. */
+esp_error_t esp_flash_firmware(const char* port, const uint8_t* firmware, size_t firmwareLen,
+                               const uint8_t* bootloader, size_t bootloaderLen,
+                               const uint8_t* partitions, size_t partitionsLen,
+                               const uint8_t* bootApp, size_t bootAppLen, const uint8_t* stub,
+                               size_t stubLen, int fullFlash, int eraseAll,
+                               const char* expectedVersion, esp_progress_cb progress,
+                               esp_log_cb log);
+
+/* Uploads a configuration file as config.yaml over XModem and restarts the
+ * firmware. Never logs. Returns 0, 2 or 8. */
+esp_error_t esp_upload_config(const char* port, const uint8_t* data, size_t length,
+                              esp_progress_cb progress, esp_log_cb log);
+
+/* Version text of the running firmware (possibly empty), or null. */
+char* esp_query_version(const char* port);
+
+/* Path of the first USB serial port with these ids, or null. Opens nothing. */
+char* esp_detect_device(uint16_t vendorId, uint16_t productId);
+
+/* Reads the partition table through the flasher stub: 1 valid, 0 not valid,
+ * -1 could not be read. */
+int esp_probe_partition_table(const char* port, const uint8_t* stub, size_t stubLen);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
