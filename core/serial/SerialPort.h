@@ -13,7 +13,7 @@
 /// One thread at a time; every blocking call runs on the caller's thread.
 /// Destroying the handle closes the device.
 class SerialPort {
-public:
+  public:
     /// Turns written bytes into the reply bytes that later reads hand out.
     using Handler = std::function<std::vector<uint8_t>(const uint8_t*, size_t)>;
 
@@ -23,9 +23,17 @@ public:
     /// (handshake bytes, boot text) and to let virtual time pass while it is silent.
     using IdleSource = std::function<std::vector<uint8_t>(int timeoutMs)>;
 
+    /// The two modem-control lines.
+    enum class Line { DTR, RTS };
+
+    /// Optional watcher that a loopback tells of every `setDTR` and `setRTS` call, in
+    /// call order, with the level recorded. A simulated chip uses it to react to the
+    /// reset sequences as the real one does; tests use it to check those sequences.
+    using LineWatcher = std::function<void(Line line, bool level)>;
+
     /// The back end interface; every back end overrides every operation.
     class Impl {
-    public:
+      public:
         virtual ~Impl() = default;
         virtual bool isOpen() const = 0;
         virtual void close() = 0;
@@ -47,8 +55,10 @@ public:
     /// back end held before. False when the node cannot be opened or configured.
     bool open(const std::string& path);
 
-    /// Installs an open loopback back end driven by `handler`; always true.
-    bool openLoopback(Handler handler, IdleSource idle = {});
+    /// Installs an open loopback back end driven by `handler`; always true. The
+    /// handler, idle source and line watcher run on the thread that writes, reads or
+    /// sets a line.
+    bool openLoopback(Handler handler, IdleSource idle = {}, LineWatcher lines = {});
 
     /// Closes the device; the back end stays in the handle, closed.
     void close();
@@ -69,6 +79,6 @@ public:
     /// Discards received bytes not yet read.
     void flush();
 
-private:
+  private:
     std::unique_ptr<Impl> impl_;
 };

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+#include "SerialPort.h"
+
+/// A device node driven through the POSIX terminal interface. Owns its descriptor
+/// and closes it when destroyed. One thread at a time.
+class PosixImpl final : public SerialPort::Impl {
+  public:
+    PosixImpl() = default;
+    ~PosixImpl() override;
+    PosixImpl(const PosixImpl&) = delete;
+    PosixImpl& operator=(const PosixImpl&) = delete;
+
+    /// Opens `path` and configures it raw at 115200 baud without flow control;
+    /// on failure the descriptor is closed again and the result is false.
+    bool open(const std::string& path);
+
+    bool isOpen() const override { return fd_ >= 0; }
+    void close() override;
+    bool write(const uint8_t* data, size_t len) override;
+    size_t read(uint8_t* buf, size_t len, int timeoutMs) override;
+    bool setDTR(bool level) override;
+    bool setRTS(bool level) override;
+    void flush() override;
+
+  private:
+    bool configure();
+    bool setModemBit(int bit, bool level);
+
+    int fd_ = -1;
+};
