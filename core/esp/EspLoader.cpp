@@ -1,0 +1,175 @@
+#include "EspLoader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "Hex.h"
+#include "Packet.h"
+#include "Slip.h"
+#include "serial/Clock.h"
+
+namespace esp {
+
+namespace {
+
+constexpr size_t kReadSlice = 256;
+constexpr int kMaxReadWaitMs = 100;
+constexpr int kLineHoldMs = 100;
+constexpr int kSyncTimeoutMs = 500;
+constexpr int kDrainTimeoutMs = 50;
+// The ROM may answer one SYNC several times; more than this many extras are left.
+constexpr int kMaxDrainedReplies = 7;
+constexpr int kRegTimeoutMs = 3000;
+constexpr size_t kChipIdOffset = 12;
+
+CommandResult failed() {
+    return CommandResult{};
+}
+
+}  // namespace
+
+EspLoader::EspLoader(SerialPort& port, LogFn log) : port_(port), log_(std::move(log)) {}
+
+void EspLoader::log(const std::string& line) const {
+    if (log_) {
+        log_(line);
+    }
+}
+
+bool EspLoader::sendFrame(const std::vector<uint8_t>& packet) {
+    return port_.write(slip::encode(packet));
+}
+
+std::vector<uint8_t> EspLoader::receiveFrame(int timeoutMs) {
+    std::vector<uint8_t> buffer;
+    buffer.reserve(kReadSlice);
+    const mono::Deadline deadline(timeoutMs);
+    if (deadline.expired()) {
+        return {};
+    }
+    uint8_t slice[kReadSlice];
+    for (;;) {
+        const int remaining = deadline.remainingMs();
+        if (remaining <= 0) {
+            return {};
+        }
+        const size_t n = port_.read(slice, kReadSlice, std::min(remaining, kMaxReadWaitMs));
+        if (n > 0) {
+            buffer.insert(buffer.end(), slice, slice + n);
+            if (auto frame = slip::readFrame(buffer.data(), buffer.size())) {
+                return std::move(frame->first);
+            }
+        }
+        if (deadline.expired()) {
+            return {};
+        }
+    }
+}
+
+CommandResult EspLoader::sendCommand(uint8_t op, const std::vector<uint8_t>& payload,
+                                     uint32_t checksum, int timeoutMs) {
+    const std::string name = cmdName(op);
+    if (!sendFrame(buildCommandPacket(op, payload, checksum))) {
+        log("SEND FAIL: " + name);
+        return failed();
+    }
+    const std::vector<uint8_t> frame = receiveFrame(timeoutMs);
+    if (frame.empty()) {
+        log("NO RESPONSE: " + name);
+        return failed();
+    }
+    auto response = parseResponsePacket(frame, stubRunning_);
+    if (!response) {
+        log("PARSE FAIL: " + name + " payload_size=" + std::to_string(frame.size()));
+        return failed();
+    }
+    if (response->op != op) {
+        log("CMD MISMATCH: sent " + name + " got " + cmdName(response->op));
+        return failed();
+    }
+    CommandResult result{response->status == 0, response->value, std::move(response->data)};
+    if (!result.ok) {
+        log("ERROR: " + name + " status=" + std::to_string(response->status) +
+            " error=" + std::to_string(response->error));
+    }
+    return result;
+}
+
+bool EspLoader::enterBootloader() {
+    // Each step sets the two lines in this order: the auto-reset circuit sees the
+    // short-lived combination between the calls, so the order is part of the sequence.
+    struct Step {
+        bool firstIsRts;
+        bool first;
+        bool second;
+    };
+    static constexpr Step kSteps[] = {
+        {true, false, false}, {false, true, false}, {true, true, false},
+        {true, true, true},   {true, false, false},
+    };
+    for (const Step& step : kSteps) {
+        if (step.firstIsRts) {
+            port_.setRTS(step.first);
+            port_.setDTR(step.second);
+        } else {
+            port_.setDTR(step.first);
+            port_.setRTS(step.second);
+        }
+        mono::sleepMs(kLineHoldMs);
+    }
+    // Drop the boot text the chip printed while it restarted.
+    port_.flush();
+    return true;
+}
+
+bool EspLoader::sync(int attempts) {
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        if (sendCommand(SYNC, buildSyncPayload(), 0, kSyncTimeoutMs).ok) {
+            for (int extra = 0; extra < kMaxDrainedReplies; ++extra) {
+                if (receiveFrame(kDrainTimeoutMs).empty()) {
+                    break;
+                }
+            }
+            return true;
+        }
+    }
+    return false;
+}
+
+uint32_t EspLoader::readChipId() {
+    const CommandResult result = sendCommand(GET_SECURITY_INFO, {}, 0, kRegTimeoutMs);
+    if (!result.ok || result.data.size() < kChipIdOffset + 2) {
+        return 0;
+    }
+    return readLE16(result.data, kChipIdOffset);
+}
+
+uint32_t EspLoader::readReg(uint32_t address) {
+    std::vector<uint8_t> payload;
+    packLE32(payload, address);
+    const CommandResult result = sendCommand(READ_REG, payload, 0, kRegTimeoutMs);
+    return result.ok ? result.value : 0;
+}
+
+bool EspLoader::checkSecurityFuses() {
+    const uint32_t fuses = readReg(SECURITY_FUSE_REG);
+    log("Security fuses: " + hexStr(fuses));
+    // Bit 2 alone is tolerated; any other bit may stand for secure boot or flash encryption.
+    if ((fuses & ~uint32_t{4}) == 0) {
+        log("Security check OK - no secure boot or flash encryption");
+        return true;
+    }
+    log("WARNING: Unexpected security fuse value! Secure boot or flash encryption may be "
+        "enabled.");
+    return false;
+}
+
+void EspLoader::hardReset() {
+    port_.setRTS(true);
+    mono::sleepMs(kLineHoldMs);
+    port_.setRTS(false);
+    mono::sleepMs(kLineHoldMs);
+    stubRunning_ = false;
+}
+
+}  // namespace esp
