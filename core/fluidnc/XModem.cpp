@@ -1,0 +1,173 @@
+#include "fluidnc/XModem.h"
+
+#include <algorithm>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace fluidnc {
+namespace {
+
+constexpr uint8_t STX = 0x02;
+constexpr uint8_t EOT = 0x04;
+constexpr uint8_t ACK = 0x06;
+constexpr uint8_t NAK = 0x15;
+constexpr uint8_t CAN = 0x18;
+constexpr uint8_t CRC_REQUEST = 'C';
+constexpr uint8_t PADDING = 0x1A;
+
+constexpr size_t kBlockData = 1024;
+constexpr int kDrainMs = 500;
+constexpr int kHandshakeTries = 30;
+constexpr int kHandshakeTryMs = 1000;
+constexpr int kMaxTransmissions = 25;
+constexpr int kReplyMs = 5000;
+
+constexpr std::array<uint16_t, 256> makeCrcTable() {
+    std::array<uint16_t, 256> table{};
+    for (unsigned i = 0; i < 256; ++i) {
+        unsigned crc = i << 8;
+        for (int bit = 0; bit < 8; ++bit) {
+            crc = (crc & 0x8000) != 0 ? (crc << 1) ^ 0x1021 : crc << 1;
+        }
+        table[i] = static_cast<uint16_t>(crc);
+    }
+    return table;
+}
+
+enum class Mode { Checksum, Crc };
+
+std::optional<uint8_t> readControlByte(SerialPort& port, int timeoutMs) {
+    uint8_t byte = 0;
+    if (port.read(&byte, 1, timeoutMs) == 1) {
+        return byte;
+    }
+    return std::nullopt;
+}
+
+void report(void (*progress)(float, const char*), float fraction, const char* stage) {
+    if (progress != nullptr) {
+        progress(fraction, stage);
+    }
+}
+
+bool startReceiver(SerialPort& port) {
+    constexpr std::string_view command = "$Xmodem/Receive=config.yaml\n";
+    if (!port.write(reinterpret_cast<const uint8_t*>(command.data()), command.size())) {
+        return false;
+    }
+    // The console echoes and comments the command before the receiver starts.
+    uint8_t scratch[256];
+    while (port.read(scratch, sizeof scratch, kDrainMs) > 0) {
+    }
+    return true;
+}
+
+std::optional<Mode> awaitHandshake(SerialPort& port) {
+    for (int attempt = 0; attempt < kHandshakeTries; ++attempt) {
+        const auto byte = readControlByte(port, kHandshakeTryMs);
+        if (byte == NAK) {
+            return Mode::Checksum;
+        }
+        if (byte == CRC_REQUEST) {
+            return Mode::Crc;
+        }
+    }
+    return std::nullopt;
+}
+
+std::vector<uint8_t> buildBlock(uint8_t number, const uint8_t* chunk, size_t chunkLen, Mode mode) {
+    std::vector<uint8_t> block;
+    block.reserve(3 + kBlockData + 2);
+    block.push_back(STX);
+    block.push_back(number);
+    block.push_back(static_cast<uint8_t>(255 - number));
+    block.insert(block.end(), chunk, chunk + chunkLen);
+    block.resize(3 + kBlockData, PADDING);
+    const uint8_t* body = block.data() + 3;
+    if (mode == Mode::Crc) {
+        const uint16_t crc = crc16(body, kBlockData);
+        block.push_back(static_cast<uint8_t>(crc >> 8));
+        block.push_back(static_cast<uint8_t>(crc & 0xFF));
+    } else {
+        uint8_t sum = 0;
+        for (size_t i = 0; i < kBlockData; ++i) {
+            sum = static_cast<uint8_t>(sum + body[i]);
+        }
+        block.push_back(sum);
+    }
+    return block;
+}
+
+bool transmitBlock(SerialPort& port, const std::vector<uint8_t>& block) {
+    for (int attempt = 0; attempt < kMaxTransmissions; ++attempt) {
+        if (!port.write(block)) {
+            return false;
+        }
+        const auto reply = readControlByte(port, kReplyMs);
+        if (reply == ACK) {
+            return true;
+        }
+        if (reply == CAN) {
+            return false;
+        }
+    }
+    return false;
+}
+
+bool sendBlocks(SerialPort& port, const uint8_t* data, size_t length, Mode mode,
+                void (*progress)(float, const char*)) {
+    uint8_t number = 1;
+    for (size_t offset = 0; offset < length; ++number) {
+        const size_t chunk = std::min(kBlockData, length - offset);
+        if (!transmitBlock(port, buildBlock(number, data + offset, chunk, mode))) {
+            return false;
+        }
+        offset += chunk;
+        report(progress, static_cast<float>(offset) / static_cast<float>(length),
+               "Uploading config file...");
+    }
+    return true;
+}
+
+bool endTransmission(SerialPort& port) {
+    for (int attempt = 0; attempt < kMaxTransmissions; ++attempt) {
+        port.write(&EOT, 1);
+        if (readControlByte(port, kReplyMs) == ACK) {
+            return true;
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
+const std::array<uint16_t, 256> crc16tab = makeCrcTable();
+
+uint16_t crc16(const uint8_t* data, size_t len) {
+    uint16_t crc = 0;
+    for (size_t i = 0; i < len; ++i) {
+        crc = static_cast<uint16_t>(crc16tab[((crc >> 8) ^ data[i]) & 0xFF] ^ (crc << 8));
+    }
+    return crc;
+}
+
+// The handshake wait is fixed at 30 one-second tries: the receiver repeats its
+// request about once a second, and the failure text promises 30 s.
+bool uploadConfig(SerialPort& port, const uint8_t* data, size_t length,
+                  void (*progress)(float, const char*), int /*timeoutMs*/) {
+    if (!startReceiver(port)) {
+        return false;
+    }
+    const auto mode = awaitHandshake(port);
+    if (!mode) {
+        report(progress, 0.0f, "XModem: no handshake received (30s timeout)");
+        return false;
+    }
+    if (length > 0 && !sendBlocks(port, data, length, *mode, progress)) {
+        return false;
+    }
+    return endTransmission(port);
+}
+
+}  // namespace fluidnc
