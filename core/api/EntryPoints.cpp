@@ -1,5 +1,6 @@
 #include <cstdlib>
 #include <cstring>
+#include <string>
 
 #include "api/Jobs.h"
 #include "api/esp_flasher.h"
@@ -15,10 +16,8 @@ char* dupString(const std::string& text) {
     return copy;
 }
 
-void logLine(esp_log_cb log, const char* line) {
-    if (log != nullptr) {
-        log(line);
-    }
+bool openPort(SerialPort& serial, const char* path) {
+    return path != nullptr && serial.open(path);
 }
 
 }  // namespace
@@ -32,13 +31,17 @@ esp_error_t esp_flash_firmware(const char* port, const uint8_t* firmware, size_t
                                size_t stubLen, int fullFlash, int eraseAll,
                                const char* expectedVersion, esp_progress_cb progress,
                                esp_log_cb log) {
-    logLine(log, (std::string("Opening port: ") + port).c_str());
-    SerialPort serial;
-    if (!serial.open(port)) {
-        logLine(log, "Failed to open port");
-        return 2;
+    if (log != nullptr) {
+        log((std::string("Opening port: ") + (port != nullptr ? port : "")).c_str());
     }
-    esp::FlashRequest request{
+    SerialPort serial;
+    if (!openPort(serial, port)) {
+        if (log != nullptr) {
+            log("Failed to open port");
+        }
+        return esp::result::PortOpenFailed;
+    }
+    const esp::FlashRequest request{
         firmware,   firmwareLen, bootloader, bootloaderLen,  partitions,    partitionsLen,  bootApp,
         bootAppLen, stub,        stubLen,    fullFlash != 0, eraseAll != 0, expectedVersion};
     return esp::runFlashJob(serial, request, progress, log);
@@ -47,29 +50,29 @@ esp_error_t esp_flash_firmware(const char* port, const uint8_t* firmware, size_t
 esp_error_t esp_upload_config(const char* port, const uint8_t* data, size_t length,
                               esp_progress_cb progress, esp_log_cb /*log*/) {
     SerialPort serial;
-    if (!serial.open(port)) {
-        return 2;
+    if (!openPort(serial, port)) {
+        return esp::result::PortOpenFailed;
     }
     return esp::runUploadConfigJob(serial, data, length, progress);
 }
 
 char* esp_query_version(const char* port) {
     SerialPort serial;
-    if (!serial.open(port)) {
+    if (!openPort(serial, port)) {
         return nullptr;
     }
-    auto version = esp::runQueryVersionJob(serial);
+    const auto version = esp::runQueryVersionJob(serial);
     return version ? dupString(*version) : nullptr;
 }
 
 char* esp_detect_device(uint16_t vendorId, uint16_t productId) {
-    auto ports = listESPPorts(vendorId, productId);
+    const auto ports = listESPPorts(vendorId, productId);
     return ports.empty() ? nullptr : dupString(ports.front().calloutPath);
 }
 
 int esp_probe_partition_table(const char* port, const uint8_t* stub, size_t stubLen) {
     SerialPort serial;
-    if (!serial.open(port)) {
+    if (!openPort(serial, port)) {
         return -1;
     }
     return esp::runProbePartitionTableJob(serial, stub, stubLen);

@@ -13,6 +13,18 @@
 /// simulator run them over the loopback back end as well.
 namespace esp {
 
+/// The result codes the entry points return; 1, 9 and 10 belong to the application.
+namespace result {
+constexpr esp_error_t Success = 0;
+constexpr esp_error_t PortOpenFailed = 2;
+constexpr esp_error_t NoSync = 3;
+constexpr esp_error_t ChipRefused = 4;
+constexpr esp_error_t StubFailed = 5;
+constexpr esp_error_t WriteFailed = 6;
+constexpr esp_error_t VerifyFailed = 7;
+constexpr esp_error_t UploadFailed = 8;
+}  // namespace result
+
 /// The images and options of one flashing job; every buffer is borrowed.
 struct FlashRequest {
     const uint8_t* firmware = nullptr;

@@ -1,0 +1,63 @@
+#include "api/Jobs.h"
+#include "esp/EspLoader.h"
+#include "fluidnc/Console.h"
+#include "fluidnc/XModem.h"
+#include "serial/Clock.h"
+
+namespace esp {
+namespace {
+
+constexpr int kSettleMs = 500;
+constexpr int kVersionQueryMs = 2000;
+constexpr int kHandshakeMs = 30000;
+constexpr int kAckAfterUploadMs = 5000;
+constexpr uint32_t kPartitionTableOffset = 0x8000;
+constexpr size_t kPartitionTableSize = 0xC00;
+
+bool enterAndSyncQuietly(EspLoader& loader) {
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        loader.enterBootloader();
+        if (loader.sync(10)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
+esp_error_t runUploadConfigJob(SerialPort& port, const uint8_t* data, size_t length,
+                               esp_progress_cb progress) {
+    mono::sleepMs(kSettleMs);
+    port.flush();
+    // The query wakes the console and makes it finish whatever it was printing;
+    // its answer is of no use here and is thrown away with the rest.
+    fluidnc::queryVersion(port, kVersionQueryMs);
+    port.flush();
+    if (!fluidnc::uploadConfig(port, data, length, progress, kHandshakeMs)) {
+        return result::UploadFailed;
+    }
+    fluidnc::waitForOk(port, kAckAfterUploadMs);
+    fluidnc::sendRestart(port);
+    return result::Success;
+}
+
+std::optional<std::string> runQueryVersionJob(SerialPort& port) {
+    mono::sleepMs(kSettleMs);
+    return fluidnc::queryVersion(port, kVersionQueryMs);
+}
+
+int runProbePartitionTableJob(SerialPort& port, const uint8_t* stub, size_t stubLen) {
+    mono::sleepMs(kSettleMs);
+    EspLoader loader(port, {});
+    if (!enterAndSyncQuietly(loader) || !loader.uploadStub(stub, stubLen)) {
+        return -1;
+    }
+    const auto table = loader.readFlash(kPartitionTableOffset, kPartitionTableSize);
+    if (table.empty()) {
+        return -1;
+    }
+    return isPartitionTableValid(table.data(), table.size()) ? 1 : 0;
+}
+
+}  // namespace esp

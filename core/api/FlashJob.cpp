@@ -1,0 +1,208 @@
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "api/Jobs.h"
+#include "esp/EspLoader.h"
+#include "fluidnc/Console.h"
+#include "serial/Clock.h"
+
+namespace esp {
+namespace {
+
+constexpr uint32_t kChipIdS3 = 9;
+constexpr int kBootloaderEntries = 3;
+constexpr int kSyncAttempts = 10;
+constexpr int kVersionQueries = 3;
+constexpr int kVersionQueryMs = 2000;
+constexpr float kPlanStart = 0.12f;
+constexpr float kPlanSpan = 0.73f;
+
+struct FlashEntry {
+    uint32_t address;
+    const uint8_t* data;
+    size_t size;
+};
+
+class JobLog {
+  public:
+    explicit JobLog(esp_log_cb log) : log_(log) {}
+
+    void operator()(const std::string& line) const {
+        if (log_ != nullptr) {
+            log_(line.c_str());
+        }
+    }
+
+    EspLoader::LogFn forLoader() const {
+        if (log_ == nullptr) {
+            return {};
+        }
+        return [log = log_](const std::string& line) { log(line.c_str()); };
+    }
+
+  private:
+    esp_log_cb log_;
+};
+
+bool enterAndSync(EspLoader& loader, const JobLog& log) {
+    for (int attempt = 1; attempt <= kBootloaderEntries; ++attempt) {
+        if (attempt > 1) {
+            log("Retrying bootloader entry (attempt " + std::to_string(attempt) + ")...");
+        }
+        loader.enterBootloader();
+        log("Syncing...");
+        if (loader.sync(kSyncAttempts)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool identifyChip(EspLoader& loader, const JobLog& log) {
+    const uint32_t chipId = loader.readChipId();
+    char line[32];
+    std::snprintf(line, sizeof line, "Chip ID: 0x%X", chipId);
+    log(line);
+    if (chipId != kChipIdS3) {
+        log("Wrong chip! Expected ESP32-S3 (0x0009)");
+        return false;
+    }
+    log("Chip: ESP32-S3");
+    return true;
+}
+
+std::vector<FlashEntry> buildPlan(const FlashRequest& request) {
+    std::vector<FlashEntry> plan;
+    if (request.fullFlash) {
+        plan.push_back({0x0, request.bootloader, request.bootloaderLen});
+        plan.push_back({0x8000, request.partitions, request.partitionsLen});
+    }
+    if (request.bootApp != nullptr && request.bootAppLen != 0) {
+        plan.push_back({0xE000, request.bootApp, request.bootAppLen});
+    }
+    plan.push_back({0x10000, request.firmware, request.firmwareLen});
+    return plan;
+}
+
+void logPlan(const std::vector<FlashEntry>& plan, bool fullFlash, const JobLog& log) {
+    log("Flash plan: " + std::to_string(plan.size()) + " entries" +
+        (fullFlash ? " (FULL)" : " (app only)"));
+    for (const auto& entry : plan) {
+        char line[64];
+        std::snprintf(line, sizeof line, "  0x%05X: %zu bytes", entry.address, entry.size);
+        log(line);
+    }
+}
+
+esp_error_t writePlan(EspLoader& loader, const std::vector<FlashEntry>& plan,
+                      esp_progress_cb progress) {
+    size_t totalBytes = 0;
+    for (const auto& entry : plan) {
+        totalBytes += entry.size;
+    }
+    const auto total = static_cast<float>(totalBytes);
+    float done = 0.0f;
+    for (const auto& entry : plan) {
+        const auto size = static_cast<float>(entry.size);
+        const float start = total > 0.0f ? kPlanStart + kPlanSpan * done / total : kPlanStart;
+        const float span = total > 0.0f ? kPlanSpan * size / total : 0.0f;
+        if (!loader.flashImage(entry.address, entry.data, entry.size, progress, start, span)) {
+            return result::WriteFailed;
+        }
+        if (!loader.verifyFlash(entry.address, entry.size, entry.data)) {
+            return result::VerifyFailed;
+        }
+        done += size;
+    }
+    return result::Success;
+}
+
+// The chip has just been reset into the new firmware, which needs about two
+// seconds before its console answers.
+void confirmVersion(SerialPort& port, const std::string& expected, const JobLog& log) {
+    log("Verifying firmware version...");
+    mono::sleepMs(2000);
+    bool confirmed = false;
+    for (int attempt = 1; attempt <= kVersionQueries; ++attempt) {
+        if (const auto version = fluidnc::queryVersion(port, kVersionQueryMs)) {
+            log("Device running firmware " + *version);
+            confirmed = version->find(expected) != std::string::npos;
+            if (!confirmed) {
+                log("WARNING: Expected firmware " + expected + " but device reports " + *version);
+            }
+            break;
+        }
+        if (attempt < kVersionQueries) {
+            mono::sleepMs(1000);
+        }
+    }
+    if (!confirmed) {
+        log("Could not confirm firmware version after update.");
+    }
+}
+
+esp_error_t prepareFlash(EspLoader& loader, const FlashRequest& request, esp_progress_cb progress,
+                         const JobLog& log) {
+    log("Entering bootloader...");
+    if (!enterAndSync(loader, log)) {
+        log("Sync failed after all retries");
+        return result::NoSync;
+    }
+    log("Sync OK");
+    if (!identifyChip(loader, log)) {
+        return result::ChipRefused;
+    }
+    if (!loader.checkSecurityFuses()) {
+        log("ABORTED: Device has secure boot or flash encryption enabled. Flashing plaintext "
+            "firmware would brick it.");
+        return result::ChipRefused;
+    }
+    log("Uploading flash stub (" + std::to_string(request.stubLen) + " bytes)...");
+    if (!loader.uploadStub(request.stub, request.stubLen)) {
+        log("Stub upload failed");
+        return result::StubFailed;
+    }
+    log("Stub running");
+    log("Attaching SPI flash...");
+    loader.attachFlash();
+    if (request.eraseAll) {
+        if (progress != nullptr) {
+            progress(0.08f, "Erasing flash...");
+        }
+        log("Erasing entire flash...");
+        if (!loader.eraseFlash()) {
+            log("Flash erase failed");
+            return result::WriteFailed;
+        }
+        log("Flash erased");
+    }
+    return result::Success;
+}
+
+}  // namespace
+
+esp_error_t runFlashJob(SerialPort& port, const FlashRequest& request, esp_progress_cb progress,
+                        esp_log_cb log) {
+    const JobLog jobLog(log);
+    // Opening the node raises DTR and RTS, which the chip's USB serial unit may
+    // take as a reset; let it settle before the first modem-line change.
+    mono::sleepMs(500);
+    EspLoader loader(port, jobLog.forLoader());
+    if (const auto code = prepareFlash(loader, request, progress, jobLog); code != 0) {
+        return code;
+    }
+    const auto plan = buildPlan(request);
+    logPlan(plan, request.fullFlash, jobLog);
+    if (const auto code = writePlan(loader, plan, progress); code != 0) {
+        return code;
+    }
+    loader.flashEnd();
+    loader.hardReset();
+    if (request.expectedVersion != nullptr && request.expectedVersion[0] != '\0') {
+        confirmVersion(port, request.expectedVersion, jobLog);
+    }
+    return result::Success;
+}
+
+}  // namespace esp
