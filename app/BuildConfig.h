@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+/// One supported machine: its display name and the file name, with extension, of
+/// its configuration in the resources folder "configs".
+struct ProductConfig {
+    QString name;
+    QString configFile;
+
+    friend bool operator==(const ProductConfig&, const ProductConfig&) = default;
+};
+
+/// Facts fixed when the application is built. Every function may be called from
+/// any thread.
+namespace BuildConfig {
+
+/// Version of the firmware image shipped in the resources: "2.10.6".
+QString firmwareVersion();
+
+/// The supported machines in menu order; a row's index is its menu item's tag.
+const QList<ProductConfig>& products();
+
+/// "yyyyMMdd" of the day this process first asked for it; the same text for the
+/// rest of the process, even across midnight.
+const QString& buildDate();
+
+}  // namespace BuildConfig

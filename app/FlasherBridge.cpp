@@ -1,0 +1,115 @@
+#include "app/FlasherBridge.h"
+
+#include <memory>
+#include <mutex>
+
+namespace FlasherBridge {
+namespace {
+
+// The library's callbacks have no context argument, so the closures of the one
+// running job have to live where the trampolines can find them.
+struct Slots {
+    std::mutex mutex;
+    std::shared_ptr<const ProgressHandler> progress;
+    std::shared_ptr<const LogHandler> log;
+};
+
+Slots& handlerSlots() {
+    static Slots instance;
+    return instance;
+}
+
+QString textFrom(const char* text) {
+    return text == nullptr ? QString() : QString::fromUtf8(text);
+}
+
+// Parks both closures for one library call and empties the slots on every return.
+class ParkedHandlers {
+  public:
+    ParkedHandlers(ProgressHandler progress, LogHandler log) {
+        auto parkedProgress = std::make_shared<const ProgressHandler>(std::move(progress));
+        auto parkedLog = std::make_shared<const LogHandler>(std::move(log));
+        const std::lock_guard lock(handlerSlots().mutex);
+        parkedProgress.swap(handlerSlots().progress);
+        parkedLog.swap(handlerSlots().log);
+    }
+    ~ParkedHandlers() {
+        std::shared_ptr<const ProgressHandler> progress;
+        std::shared_ptr<const LogHandler> log;
+        {
+            const std::lock_guard lock(handlerSlots().mutex);
+            progress.swap(handlerSlots().progress);
+            log.swap(handlerSlots().log);
+        }
+    }
+    ParkedHandlers(const ParkedHandlers&) = delete;
+    ParkedHandlers& operator=(const ParkedHandlers&) = delete;
+};
+
+const uint8_t* bytesOf(const QByteArray& buffer) {
+    return reinterpret_cast<const uint8_t*>(buffer.constData());
+}
+
+size_t sizeOf(const QByteArray& buffer) {
+    return static_cast<size_t>(buffer.size());
+}
+
+}  // namespace
+
+esp_error_t flashFirmware(const QString& port, const QByteArray& firmware,
+                          const QByteArray& bootloader, const QByteArray& partitions,
+                          const QByteArray& bootApp, const QByteArray& stub, bool fullFlash,
+                          bool eraseAll, const std::optional<QString>& expectedVersion,
+                          ProgressHandler progress, LogHandler log) {
+    const ParkedHandlers parked(std::move(progress), std::move(log));
+    const QByteArray portText = port.toUtf8();
+    const QByteArray versionText = expectedVersion ? expectedVersion->toUtf8() : QByteArray();
+    return esp_flash_firmware(portText.constData(), bytesOf(firmware), sizeOf(firmware),
+                              bytesOf(bootloader), sizeOf(bootloader), bytesOf(partitions),
+                              sizeOf(partitions), bytesOf(bootApp), sizeOf(bootApp), bytesOf(stub),
+                              sizeOf(stub), fullFlash ? 1 : 0, eraseAll ? 1 : 0,
+                              expectedVersion ? versionText.constData() : nullptr,
+                              detail::progressTrampoline, detail::logTrampoline);
+}
+
+esp_error_t uploadConfig(const QString& port, const QByteArray& configData,
+                         ProgressHandler progress, LogHandler log) {
+    const ParkedHandlers parked(std::move(progress), std::move(log));
+    const QByteArray portText = port.toUtf8();
+    return esp_upload_config(portText.constData(), bytesOf(configData), sizeOf(configData),
+                             detail::progressTrampoline, detail::logTrampoline);
+}
+
+namespace detail {
+
+void progressTrampoline(float progress, const char* message) {
+    const QString text = textFrom(message);
+    std::shared_ptr<const ProgressHandler> handler;
+    {
+        const std::lock_guard lock(handlerSlots().mutex);
+        handler = handlerSlots().progress;
+    }
+    if (handler && *handler) {
+        (*handler)(progress, text);
+    }
+}
+
+void logTrampoline(const char* line) {
+    const QString text = textFrom(line);
+    std::shared_ptr<const LogHandler> handler;
+    {
+        const std::lock_guard lock(handlerSlots().mutex);
+        handler = handlerSlots().log;
+    }
+    if (handler && *handler) {
+        (*handler)(text);
+    }
+}
+
+bool hasParkedHandlers() {
+    const std::lock_guard lock(handlerSlots().mutex);
+    return handlerSlots().progress != nullptr || handlerSlots().log != nullptr;
+}
+
+}  // namespace detail
+}  // namespace FlasherBridge

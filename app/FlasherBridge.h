@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <functional>
+#include <optional>
+
+#include "esp_flasher.h"
+
+/// Calls the flasher library with the application's buffers, texts and closures.
+///
+/// The library's callbacks carry no user data, so each operation parks its two
+/// closures in process-wide slots for the duration of the call and hands the
+/// library two fixed trampolines that forward to them. The slots are emptied on
+/// every return; callbacks that arrive while they are empty are dropped.
+///
+/// Threading: call from a background worker, one operation at a time (the slots
+/// are shared by the whole process). The closures run synchronously on the
+/// calling thread.
+namespace FlasherBridge {
+
+/// Progress fraction 0..1 and stage text (empty when the library passed none).
+using ProgressHandler = std::function<void(float progress, const QString& message)>;
+/// One library log line (empty when the library passed none).
+using LogHandler = std::function<void(const QString& line)>;
+
+/// Runs the library's flashing job. Empty boot buffers reach it with length 0;
+/// an absent `expectedVersion` reaches it as a null pointer. Returns the
+/// library's result unchanged.
+esp_error_t flashFirmware(const QString& port, const QByteArray& firmware,
+                          const QByteArray& bootloader, const QByteArray& partitions,
+                          const QByteArray& bootApp, const QByteArray& stub, bool fullFlash,
+                          bool eraseAll, const std::optional<QString>& expectedVersion,
+                          ProgressHandler progress, LogHandler log);
+
+/// Uploads a configuration file's bytes; returns the library's result unchanged.
+esp_error_t uploadConfig(const QString& port, const QByteArray& configData,
+                         ProgressHandler progress, LogHandler log);
+
+namespace detail {
+/// The trampolines handed to the library, exposed so that their text conversion
+/// and their behaviour with empty slots can be checked.
+void progressTrampoline(float progress, const char* message);
+void logTrampoline(const char* line);
+/// True while either slot holds a closure.
+bool hasParkedHandlers();
+}  // namespace detail
+
+}  // namespace FlasherBridge

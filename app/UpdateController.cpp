@@ -1,0 +1,188 @@
+#include "app/UpdateController.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QMutexLocker>
+#include <QPointer>
+
+#include "app/BuildConfig.h"
+
+UpdateController::UpdateController(QObject* parent)
+    : UpdateController(ResourceBundle::located(), DeviceMonitor::Detector(esp_detect_device),
+                       parent) {}
+
+UpdateController::UpdateController(ResourceBundle resources, DeviceMonitor::Detector detector,
+                                   QObject* parent)
+    : QObject(parent),
+      m_resources(std::move(resources)),
+      m_monitor(new DeviceMonitor(std::move(detector), this)),
+      m_statusMessage(QStringLiteral("Waiting for device…")) {
+    m_worker.setMaxThreadCount(1);
+    m_monitor->startPolling();
+    connect(m_monitor, &DeviceMonitor::isConnectedChanged, this,
+            &UpdateController::followConnection, Qt::QueuedConnection);
+}
+
+UpdateController::~UpdateController() {
+    m_worker.waitForDone();
+}
+
+QUrl UpdateController::customFirmwareURL() const {
+    const QMutexLocker lock(&m_customFirmwareMutex);
+    return m_customFirmwareURL;
+}
+
+void UpdateController::setCustomFirmwareURL(const QUrl& location) {
+    {
+        const QMutexLocker lock(&m_customFirmwareMutex);
+        m_customFirmwareURL = location;
+    }
+    emit customFirmwareURLChanged(location);
+}
+
+QString UpdateController::firmwareLabel() const {
+    const QUrl location = customFirmwareURL();
+    if (location.isEmpty()) {
+        return QStringLiteral("Firmware version ") + BuildConfig::firmwareVersion();
+    }
+    return location.fileName();
+}
+
+void UpdateController::chooseCustomFirmware(const std::optional<QString>& path) {
+    setCustomFirmwareURL(path ? QUrl::fromLocalFile(*path) : QUrl());
+    log(QStringLiteral("Custom firmware: ") +
+        (path ? QFileInfo(*path).fileName() : QStringLiteral("unknown")));
+}
+
+void UpdateController::updateFirmware() {
+    const auto port = m_monitor->port();
+    if (!port) {
+        log(QStringLiteral("ERROR: No device connected"));
+        return;
+    }
+    if (refuseStart()) {
+        return;
+    }
+    clearLog();
+    submit([port = *port](UpdateController& controller) { controller.performFlash(port); });
+}
+
+void UpdateController::uploadConfig(const QString& configFile, const QString& productName) {
+    const auto port = m_monitor->port();
+    if (!port) {
+        log(QStringLiteral("ERROR: No device connected"));
+        return;
+    }
+    if (refuseStart()) {
+        return;
+    }
+    clearLog();
+    submit([port = *port, configFile, productName](UpdateController& controller) {
+        controller.performConfigUpload(port, configFile, productName);
+    });
+}
+
+void UpdateController::uploadConfigFromFile(const QString& path) {
+    const auto port = m_monitor->port();
+    if (!port) {
+        log(QStringLiteral("ERROR: No device connected"));
+        return;
+    }
+    if (refuseStart()) {
+        return;
+    }
+    const QString fileName = QFileInfo(path).fileName();
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        log(QStringLiteral("ERROR: Could not read file: ") + fileName);
+        return;
+    }
+    const QByteArray configData = file.readAll();
+    clearLog();
+    log(QStringLiteral("Preparing ") + fileName + versionSuffix(configData));
+    submit([port = *port, configData](UpdateController& controller) {
+        controller.performConfigUploadData(port, configData);
+    });
+}
+
+bool UpdateController::refuseStart() {
+    if (!m_jobRunning) {
+        return false;
+    }
+    log(QStringLiteral("ERROR: Another operation is already running"));
+    return true;
+}
+
+void UpdateController::submit(std::function<void(UpdateController&)> job) {
+    m_jobRunning = true;
+    QPointer<UpdateController> self(this);
+    m_worker.start([self, job = std::move(job)] {
+        if (self.isNull()) {
+            return;
+        }
+        job(*self);
+        // Posted behind every step the job posted, so a new job cannot start (and
+        // empty the log) before this job's last lines and state have arrived.
+        QMetaObject::invokeMethod(
+            self, [self] { self->m_jobRunning = false; }, Qt::QueuedConnection);
+    });
+}
+
+void UpdateController::followConnection(bool connected) {
+    if (m_state.isBusy()) {
+        return;
+    }
+    if (connected) {
+        assignState(UpdateState::ready());
+        assignStatus(QStringLiteral("Device connected"));
+    } else {
+        assignState(UpdateState::idle());
+        assignStatus(QStringLiteral("Waiting for device…"));
+    }
+}
+
+void UpdateController::log(const QString& line) {
+    QMetaObject::invokeMethod(
+        this, [this, line] { appendLog(line); }, Qt::QueuedConnection);
+}
+
+void UpdateController::logError(const QString& message) {
+    QMetaObject::invokeMethod(
+        this,
+        [this, message] {
+            appendLog(QStringLiteral("ERROR: ") + message);
+            assignState(UpdateState::error(message));
+            assignStatus(message);
+        },
+        Qt::QueuedConnection);
+}
+
+void UpdateController::setState(const UpdateState& state) {
+    QMetaObject::invokeMethod(
+        this, [this, state] { assignState(state); }, Qt::QueuedConnection);
+}
+
+void UpdateController::assignState(const UpdateState& state) {
+    m_state = state;
+    emit stateChanged(m_state);
+}
+
+void UpdateController::assignProgress(float progress) {
+    m_progress = progress;
+    emit progressChanged(m_progress);
+}
+
+void UpdateController::assignStatus(const QString& message) {
+    m_statusMessage = message;
+    emit statusMessageChanged(m_statusMessage);
+}
+
+void UpdateController::appendLog(const QString& line) {
+    m_logMessages.append(line);
+    emit logMessagesChanged(m_logMessages);
+}
+
+void UpdateController::clearLog() {
+    m_logMessages.clear();
+    emit logMessagesChanged(m_logMessages);
+}

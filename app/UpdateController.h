@@ -1,0 +1,150 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMutex>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QThreadPool>
+#include <QUrl>
+#include <atomic>
+#include <functional>
+#include <optional>
+
+#include "app/DeviceMonitor.h"
+#include "app/FlasherBridge.h"
+#include "app/ResourceBundle.h"
+#include "app/UpdateState.h"
+#include "esp_flasher.h"
+
+/// The application's one controller: owns the device monitor, publishes what the
+/// main window shows, and runs the two jobs (writing firmware, uploading a
+/// machine configuration) on a private background worker, one at a time.
+///
+/// Threading: create it and call every public function on the GUI thread, except
+/// `log`, which may be called from any thread. Published properties are written
+/// on the GUI thread only; each NOTIFY signal fires on every assignment, also
+/// when the value did not change. Jobs reach the library only from the worker.
+/// Destroying the controller waits for a running job to end.
+class UpdateController : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(UpdateState state READ state NOTIFY stateChanged)
+    Q_PROPERTY(float progress READ progress NOTIFY progressChanged)
+    Q_PROPERTY(QString statusMessage READ statusMessage NOTIFY statusMessageChanged)
+    Q_PROPERTY(QStringList logMessages READ logMessages NOTIFY logMessagesChanged)
+    Q_PROPERTY(QUrl customFirmwareURL READ customFirmwareURL WRITE setCustomFirmwareURL NOTIFY
+                   customFirmwareURLChanged)
+    Q_PROPERTY(QString firmwareLabel READ firmwareLabel NOTIFY customFirmwareURLChanged)
+    Q_PROPERTY(bool detailedLogging READ detailedLogging WRITE setDetailedLogging)
+    Q_PROPERTY(bool writeBootPartitionsEnabled READ writeBootPartitionsEnabled WRITE
+                   setWriteBootPartitionsEnabled)
+    Q_PROPERTY(bool eraseAllFlashEnabled READ eraseAllFlashEnabled WRITE setEraseAllFlashEnabled)
+
+  public:
+    /// Uses the resources beside the executable and the library's device
+    /// detection; starts polling for the device.
+    explicit UpdateController(QObject* parent = nullptr);
+    /// Uses `resources` and `detector` in their place (tests, the simulated-plotter
+    /// demo); starts polling for the device.
+    UpdateController(ResourceBundle resources, DeviceMonitor::Detector detector,
+                     QObject* parent = nullptr);
+    ~UpdateController() override;
+
+    UpdateState state() const { return m_state; }
+    /// Latest progress fraction reported by a job, as reported.
+    float progress() const { return m_progress; }
+    QString statusMessage() const { return m_statusMessage; }
+    /// The log, oldest line first; emptied when a job starts.
+    QStringList logMessages() const { return m_logMessages; }
+
+    /// The firmware file chosen by the user; empty means the shipped image.
+    QUrl customFirmwareURL() const;
+    /// Empty clears the choice.
+    void setCustomFirmwareURL(const QUrl& location);
+    /// The chosen file's name, or "Firmware version 2.10.6".
+    QString firmwareLabel() const;
+
+    /// When set, every log line of the flasher library is added to the log.
+    bool detailedLogging() const { return m_detailedLogging; }
+    void setDetailedLogging(bool enabled) { m_detailedLogging = enabled; }
+    /// When set, a firmware update always writes all four regions.
+    bool writeBootPartitionsEnabled() const { return m_writeBootPartitions; }
+    void setWriteBootPartitionsEnabled(bool enabled) { m_writeBootPartitions = enabled; }
+    /// When set, the firmware update is a full flash that erases the whole chip first.
+    bool eraseAllFlashEnabled() const { return m_eraseAllFlash; }
+    void setEraseAllFlashEnabled(bool enabled) { m_eraseAllFlash = enabled; }
+
+    /// Owned by the controller for its whole life.
+    DeviceMonitor* deviceMonitor() const { return m_monitor; }
+
+    /// Records the firmware file chosen in the file dialog (none when the dialog
+    /// confirmed without a location) and logs "Custom firmware: " and its name.
+    void chooseCustomFirmware(const std::optional<QString>& path);
+
+    /// The user message for a library result code.
+    static QString errorMessage(esp_error_t code);
+    /// The value of the first non-empty "meta:" line of a configuration file,
+    /// without blanks and quotes; none for invalid UTF-8 or no such line.
+    static std::optional<QString> extractMetaVersion(const QByteArray& bytes);
+    /// The version part of a console version reply: "FluidNC v3.7.8 (main-abc)"
+    /// gives "v3.7.8".
+    static QString cleanFirmwareVersion(const QString& reply);
+
+  public slots:
+    /// Starts a firmware update on the monitor's port.
+    void updateFirmware();
+    /// Starts an upload of a product's configuration from the resources.
+    void uploadConfig(const QString& configFile, const QString& productName);
+    /// Reads a configuration file from disk and starts its upload.
+    void uploadConfigFromFile(const QString& path);
+    /// Appends a line to the log, asynchronously on the GUI thread, in call order.
+    void log(const QString& line);
+
+  signals:
+    void stateChanged(const UpdateState& state);
+    void progressChanged(float progress);
+    void statusMessageChanged(const QString& statusMessage);
+    void logMessagesChanged(const QStringList& logMessages);
+    void customFirmwareURLChanged(const QUrl& location);
+
+  private:
+    static QString versionSuffix(const QByteArray& configData);
+
+    void followConnection(bool connected);
+    bool refuseStart();
+    void submit(std::function<void(UpdateController&)> job);
+
+    void performFlash(const QString& port);
+    bool decideFullFlash(const QString& port);
+    void performConfigUpload(const QString& port, const QString& configFile,
+                             const QString& productName);
+    void performConfigUploadData(const QString& port, const QByteArray& configData);
+    void runConfigUpload(const QString& port, const QByteArray& configData);
+    FlasherBridge::ProgressHandler flashProgressHandler();
+    FlasherBridge::ProgressHandler configProgressHandler();
+    FlasherBridge::LogHandler libraryLogHandler();
+
+    void logError(const QString& message);
+    void setState(const UpdateState& state);
+    void assignState(const UpdateState& state);
+    void assignProgress(float progress);
+    void assignStatus(const QString& message);
+    void appendLog(const QString& line);
+    void clearLog();
+
+    const ResourceBundle m_resources;
+    DeviceMonitor* m_monitor;
+    UpdateState m_state = UpdateState::idle();
+    float m_progress = 0.0f;
+    QString m_statusMessage;
+    QStringList m_logMessages;
+    mutable QMutex m_customFirmwareMutex;
+    QUrl m_customFirmwareURL;
+    std::atomic<bool> m_detailedLogging = false;
+    std::atomic<bool> m_writeBootPartitions = false;
+    std::atomic<bool> m_eraseAllFlash = false;
+    bool m_jobRunning = false;
+    // Last member: destroyed first, so a running job finishes while the rest of
+    // the controller still exists.
+    QThreadPool m_worker;
+};

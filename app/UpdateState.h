@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QMetaType>
+#include <QString>
+
+/// The update controller's state: one of twelve cases, two of which carry a
+/// progress fraction and one an error message. A plain value, copied freely.
+class UpdateState {
+    Q_GADGET
+
+  public:
+    /// The cases in their declared order.
+    enum class Kind {
+        flashing,
+        uploadingConfig,
+        error,
+        idle,
+        ready,
+        enteringBootloader,
+        syncing,
+        uploadingStub,
+        probing,
+        verifying,
+        flashComplete,
+        configComplete,
+    };
+    Q_ENUM(Kind)
+
+    /// `idle`.
+    UpdateState() = default;
+
+    static UpdateState flashing(float progress) { return {Kind::flashing, progress, {}}; }
+    static UpdateState uploadingConfig(float progress) {
+        return {Kind::uploadingConfig, progress, {}};
+    }
+    static UpdateState error(const QString& message) { return {Kind::error, 0.0f, message}; }
+    static UpdateState idle() { return {Kind::idle, 0.0f, {}}; }
+    static UpdateState ready() { return {Kind::ready, 0.0f, {}}; }
+    static UpdateState enteringBootloader() { return {Kind::enteringBootloader, 0.0f, {}}; }
+    static UpdateState syncing() { return {Kind::syncing, 0.0f, {}}; }
+    static UpdateState uploadingStub() { return {Kind::uploadingStub, 0.0f, {}}; }
+    static UpdateState probing() { return {Kind::probing, 0.0f, {}}; }
+    static UpdateState verifying() { return {Kind::verifying, 0.0f, {}}; }
+    static UpdateState flashComplete() { return {Kind::flashComplete, 0.0f, {}}; }
+    static UpdateState configComplete() { return {Kind::configComplete, 0.0f, {}}; }
+
+    Kind kind() const { return m_kind; }
+    /// Payload of `flashing` and `uploadingConfig`, 0..1; 0 for the other cases.
+    float progress() const { return m_progress; }
+    /// Payload of `error`; empty for the other cases.
+    const QString& message() const { return m_message; }
+
+    /// True for every case except `error`, `idle`, `ready`, `flashComplete` and
+    /// `configComplete`.
+    bool isBusy() const;
+
+    /// Readable form for logs and test output, e.g. "flashing(0.5)" or "error(...)".
+    QString toString() const;
+
+    /// Equal when the cases and their payloads are equal.
+    friend bool operator==(const UpdateState& a, const UpdateState& b) {
+        return a.m_kind == b.m_kind && a.m_progress == b.m_progress && a.m_message == b.m_message;
+    }
+
+  private:
+    UpdateState(Kind kind, float progress, QString message)
+        : m_kind(kind), m_progress(progress), m_message(std::move(message)) {}
+
+    Kind m_kind = Kind::idle;
+    float m_progress = 0.0f;
+    QString m_message;
+};
+
+Q_DECLARE_METATYPE(UpdateState)
