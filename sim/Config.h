@@ -1,0 +1,98 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// Settings of the simulated plotter controller: identity, fault knobs and delays.
+///
+/// Every knob defaults to a healthy ESP32-S3 plotter that answers at once. Counts
+/// named "occurrence" or "after" are taken over the whole life of one `Plotter`
+/// (they do not restart when the host resets the chip), so a fault campaign can aim
+/// at, say, the fourth FLASH_DATA of a job. All times are milliseconds.
+namespace sim {
+
+/// Where the simulated device currently is.
+enum class Mode {
+    Console,    ///< the firmware's text console
+    RomLoader,  ///< the ROM serial bootloader (4 status bytes per response)
+    Stub,       ///< the flasher stub runs (2 status bytes per response)
+    XModem,     ///< the console's XModem receiver
+    Gone,       ///< the line went away: nothing is answered any more
+};
+
+/// How one loader response is spoiled on the wire. The command itself takes
+/// effect as usual; only what the host receives changes.
+enum class FaultKind {
+    Drop,           ///< the response is never sent
+    Duplicate,      ///< sent, then sent again as a separate frame one gap later
+    Corrupt,        ///< carries an invalid escape (0xDB 0x01), so no host can decode it
+    Truncate,       ///< only the first half of the frame, without its closing END
+    GarbageBefore,  ///< noise bytes (no 0xC0) in front of the frame, in the same write
+    WrongOpcode,    ///< the response names another command (opcode XOR 1)
+    ErrorStatus,    ///< status 1 with `ResponseFault::errorCode`
+};
+
+/// Selects one response of the ROM loader or stub to spoil: the `occurrence`-th
+/// (from 0) response that the device sends to `op`, or to any command when `op`
+/// is empty. Only command responses count: extra SYNC replies, the greeting and
+/// READ_FLASH data frames are never spoiled.
+struct ResponseFault {
+    std::optional<uint8_t> op;
+    int occurrence = 0;
+    FaultKind kind = FaultKind::Drop;
+    uint8_t errorCode = 0x06;
+};
+
+struct Config {
+    // Identity.
+    uint32_t chipId = 9;                  ///< GET_SECURITY_INFO word at data offset 12
+    uint32_t securityFuses = 0;           ///< READ_REG 0x3FF5A018
+    size_t flashSize = 16 * 1024 * 1024;  ///< bytes of simulated flash, erased (0xFF)
+    std::string versionReport = "FluidNC v3.7.8 (sim)";  ///< "[VER:" report ":]"; may be empty
+
+    // ROM loader and stub.
+    bool silent = false;      ///< the device answers nothing at all, in any mode
+    int syncFromAttempt = 1;  ///< SYNC requests before this one (counted from 1) go unanswered
+    int syncReplies = 8;      ///< responses to one answered SYNC, each its own frame
+    bool greeting = true;     ///< the stub sends "OHAI" after MEM_END
+    std::optional<int> wrongMd5At;  ///< this SPI_FLASH_MD5 (from 0) answers a wrong digest
+    std::vector<ResponseFault> responseFaults;
+
+    // Firmware console.
+    bool silentConsole = false;    ///< console lines are taken but never answered
+    bool okBeforeVersion = false;  ///< "$I" prints "ok" before its "[VER:" line
+
+    // XModem receiver. Block ordinals count the file's blocks from 1.
+    bool xmodemCrc = true;              ///< handshake 'C' (CRC-16); false: NAK (8-bit sum)
+    bool xmodemHandshake = true;        ///< false: the receiver never sends its handshake
+    int xmodemHandshakeTries = 60;      ///< handshakes sent before the receiver gives up
+    std::string xmodemJunk;             ///< bytes sent just before the first handshake
+    std::optional<int> xmodemNakBlock;  ///< this block is refused with NAK ...
+    int xmodemNakTimes = 1;             ///< ... this many times before it is taken
+    std::optional<int> xmodemCanBlock;  ///< this block is answered with CAN CAN
+    bool xmodemAckEot = true;           ///< false: every EOT is answered with NAK
+    int xmodemIdleTimeoutMs = 10000;    ///< a transfer silent this long is abandoned
+
+    // The line going away (Mode::Gone; over a pseudo-terminal its master closes).
+    std::optional<int> goneAfterFlashData;     ///< after this many FLASH_DATA were answered
+    std::optional<int> goneAtMd5;              ///< on this SPI_FLASH_MD5 (from 0), unanswered
+    std::optional<int> goneAfterXModemBlocks;  ///< after this many blocks were acknowledged
+
+    // Timing. Loader frames that must reach the host in reads of their own (the
+    // greeting, extra SYNC replies, READ_FLASH data, duplicates) follow one another
+    // `frameGapMs` apart; the delays postpone the response of their command.
+    int frameGapMs = 5;
+    int flashBeginDelayMs = 0;       ///< per FLASH_BEGIN (the region's erase)
+    int flashBlockDelayMs = 0;       ///< per FLASH_DATA
+    int eraseDelayMs = 0;            ///< whole-chip erase
+    int md5DelayMs = 0;              ///< per SPI_FLASH_MD5
+    int bootMs = 0;                  ///< after a restart the console ignores input this long
+    int consoleDelayMs = 0;          ///< before each console reply
+    int handshakeFirstMs = 1000;     ///< from the receive command to the first handshake
+    int handshakeIntervalMs = 1000;  ///< between handshakes
+};
+
+}  // namespace sim
