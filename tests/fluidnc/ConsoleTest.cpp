@@ -1,0 +1,151 @@
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "fluidnc/Console.h"
+#include "serial/Clock.h"
+
+namespace {
+
+std::vector<uint8_t> bytes(const std::string& text) {
+    return {text.begin(), text.end()};
+}
+
+// A firmware console over loopback. Text is handed out one chunk per read that
+// finds the input empty, so lines arrive split over several reads; a silent
+// console lets the read's whole time-out pass in virtual time.
+class FakeConsole {
+  public:
+    std::deque<std::string> pending;  // waiting to be read, before any command
+    std::vector<std::string> answer;  // chunks queued when "$I\n" arrives
+    std::string written;
+
+    void attach(SerialPort& port) {
+        port.openLoopback(
+            [this](const uint8_t* data, size_t len) {
+                written.append(reinterpret_cast<const char*>(data), len);
+                if (written.ends_with("$I\n")) {
+                    pending.insert(pending.end(), answer.begin(), answer.end());
+                }
+                return std::vector<uint8_t>{};
+            },
+            [this](int timeoutMs) {
+                if (pending.empty()) {
+                    mono::sleepMs(timeoutMs);
+                    return std::vector<uint8_t>{};
+                }
+                auto chunk = bytes(pending.front());
+                pending.pop_front();
+                return chunk;
+            });
+    }
+};
+
+int64_t elapsedMs(int64_t sinceNs) {
+    return (mono::nowNs() - sinceNs) / 1'000'000;
+}
+
+struct VersionCase {
+    std::vector<std::string> answer;
+    std::optional<std::string> expected;
+};
+
+class QueryVersionTest : public ::testing::TestWithParam<VersionCase> {};
+
+TEST_P(QueryVersionTest, CutsTheVersionFromTheReport) {
+    FakeConsole console;
+    console.answer = GetParam().answer;
+    SerialPort port;
+    console.attach(port);
+    EXPECT_EQ(fluidnc::queryVersion(port, 2000), GetParam().expected);
+    EXPECT_EQ(console.written, "$I\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Reports, QueryVersionTest,
+    ::testing::Values(VersionCase{{"[VER:1.2 build 7:]\r\n", "ok\r\n"}, "1.2 build 7"},
+                      VersionCase{{"[VER:2.0:extra]\n"}, "2.0"},
+                      VersionCase{{"[VER:2.0]\n"}, "2.0"}, VersionCase{{"[VER:a:b:c]\n"}, "a:b"},
+                      VersionCase{{"[VER:]\n", "ok\n"}, ""},
+                      VersionCase{{"[MSG:INFO] [VER:3.1:x] ok\n"}, "3.1"},
+                      VersionCase{{"[VER:2.", "10.6:build", " 42]\r\n"}, "2.10.6"},
+                      VersionCase{{"[VER:1.5:no line feed]"}, "1.5"},
+                      VersionCase{{"OK\n", "error:3\n", "[VER:1.1]\n"}, "1.1"},
+                      VersionCase{{"ok\n", "[VER:1.0]\n"}, std::nullopt},
+                      VersionCase{{"[VER:3.1\n", "[OPT:x]\n", "ok\n", "[VER:9.9]\n"}, std::nullopt},
+                      VersionCase{{"boot text\n", "look\n", "[VER:4.0]\n"}, std::nullopt}));
+
+TEST(QueryVersion, DiscardsInputWaitingBeforeTheQuery) {
+    FakeConsole console;
+    console.pending = {"[VER:0.9:old]\n", "ok\n"};
+    console.answer = {"[VER:2.10.6:new]\n", "ok\n"};
+    SerialPort port;
+    console.attach(port);
+    EXPECT_EQ(fluidnc::queryVersion(port, 2000), "2.10.6");
+}
+
+TEST(QueryVersion, SilentConsoleGivesNothingAtTheDeadline) {
+    FakeConsole console;
+    SerialPort port;
+    console.attach(port);
+    const int64_t start = mono::nowNs();
+    EXPECT_EQ(fluidnc::queryVersion(port, 2000), std::nullopt);
+    EXPECT_GE(elapsedMs(start), 1990);
+    EXPECT_LT(elapsedMs(start), 2200);
+}
+
+TEST(QueryVersion, ZeroTimeoutStillSendsTheQuery) {
+    FakeConsole console;
+    console.answer = {"[VER:1.0]\n"};
+    SerialPort port;
+    console.attach(port);
+    EXPECT_EQ(fluidnc::queryVersion(port, 0), std::nullopt);
+    EXPECT_EQ(console.written, "$I\n");
+}
+
+TEST(WaitForOk, EndsOnAnyLineContainingOkAndReadsNoFurther) {
+    FakeConsole console;
+    console.pending = {"OK\r\n", "error:9\n", "lo", "oking\r\nnext"};
+    SerialPort port;
+    console.attach(port);
+    fluidnc::waitForOk(port, 5000);
+    uint8_t rest[8] = {};
+    ASSERT_EQ(port.read(rest, sizeof rest, 50), 4u);
+    EXPECT_EQ(std::string(reinterpret_cast<char*>(rest), 4), "next");
+}
+
+TEST(WaitForOk, GivesUpSilentlyAtTheDeadline) {
+    FakeConsole console;
+    console.pending = {"OK\n", "o", "\n", "k\n"};
+    SerialPort port;
+    console.attach(port);
+    const int64_t start = mono::nowNs();
+    fluidnc::waitForOk(port, 5000);
+    EXPECT_GE(elapsedMs(start), 4990);
+    EXPECT_LT(elapsedMs(start), 5600);
+    EXPECT_TRUE(console.pending.empty());
+}
+
+TEST(WaitForOk, NonPositiveTimeoutReadsNothing) {
+    FakeConsole console;
+    console.pending = {"ok\n"};
+    SerialPort port;
+    console.attach(port);
+    fluidnc::waitForOk(port, 0);
+    EXPECT_EQ(console.pending.size(), 1u);
+}
+
+TEST(SendRestart, WritesByeAndPausesForTheRestart) {
+    FakeConsole console;
+    SerialPort port;
+    console.attach(port);
+    const int64_t start = mono::nowNs();
+    fluidnc::sendRestart(port);
+    EXPECT_EQ(console.written, "$Bye\n");
+    EXPECT_GE(elapsedMs(start), 500);
+}
+
+}  // namespace

@@ -1,0 +1,248 @@
+#include <gtest/gtest.h>
+
+#include <map>
+#include <numeric>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "fluidnc/XModem.h"
+#include "serial/Clock.h"
+
+namespace {
+
+constexpr uint8_t EOT = 0x04;
+constexpr uint8_t ACK = 0x06;
+constexpr uint8_t NAK = 0x15;
+constexpr uint8_t CAN = 0x18;
+const std::string kCommand = "$Xmodem/Receive=config.yaml\n";
+
+std::vector<std::pair<float, std::string>> progressCalls;
+
+void recordProgress(float fraction, const char* stage) {
+    progressCalls.emplace_back(fraction, stage);
+}
+
+// An XModem receiver behind the console, over loopback. It prints a line for the
+// command, asks for the transfer one second later, answers each block write as
+// scripted (ACK when nothing is scripted) and acknowledges the EOT after a
+// number of refusals.
+struct FakeReceiver {
+    uint8_t handshake = 'C';
+    std::string chatter;  // console text that arrives just before the handshake
+    std::map<size_t, std::vector<uint8_t>> blockReplies;  // by transmission index
+    int eotRefusals = 0;
+
+    bool commandSeen = false;
+    int64_t handshakeAtNs = 0;
+    std::vector<std::vector<uint8_t>> blocks;
+    int eots = 0;
+
+    void attach(SerialPort& port) {
+        port.openLoopback([this](const uint8_t* d, size_t n) { return onWrite(d, n); },
+                          [this](int timeoutMs) { return onIdle(timeoutMs); });
+    }
+
+    std::vector<uint8_t> onWrite(const uint8_t* data, size_t len) {
+        if (std::string(reinterpret_cast<const char*>(data), len) == kCommand) {
+            commandSeen = true;
+            handshakeAtNs = mono::nowNs() + 1'000'000'000;
+            const std::string text = "[MSG:INFO: Receiving config.yaml]\r\n";
+            return {text.begin(), text.end()};
+        }
+        if (len == 1 && data[0] == EOT) {
+            return {++eots > eotRefusals ? ACK : NAK};
+        }
+        blocks.emplace_back(data, data + len);
+        const auto scripted = blockReplies.find(blocks.size() - 1);
+        return scripted == blockReplies.end() ? std::vector<uint8_t>{ACK} : scripted->second;
+    }
+
+    std::vector<uint8_t> onIdle(int timeoutMs) {
+        const int64_t waitNs = handshakeAtNs - mono::nowNs();
+        if (!commandSeen || handshake == 0 || waitNs > int64_t{timeoutMs} * 1'000'000) {
+            mono::sleepMs(timeoutMs);
+            return {};
+        }
+        mono::sleepMs(static_cast<int>(waitNs / 1'000'000));
+        commandSeen = false;
+        std::vector<uint8_t> out(chatter.begin(), chatter.end());
+        out.push_back(handshake);
+        return out;
+    }
+};
+
+std::vector<uint8_t> sampleFile(size_t size) {
+    std::vector<uint8_t> file(size);
+    for (size_t i = 0; i < size; ++i) {
+        file[i] = static_cast<uint8_t>(i * 7 + i / 251);
+    }
+    return file;
+}
+
+uint16_t bitwiseCrc(const uint8_t* data, size_t len) {
+    unsigned crc = 0;
+    for (size_t i = 0; i < len; ++i) {
+        crc ^= unsigned{data[i]} << 8;
+        for (int bit = 0; bit < 8; ++bit) {
+            crc = (crc & 0x8000) != 0 ? (crc << 1) ^ 0x1021 : crc << 1;
+        }
+    }
+    return static_cast<uint16_t>(crc);
+}
+
+class XModemTest : public ::testing::Test {
+  protected:
+    void SetUp() override { progressCalls.clear(); }
+
+    bool upload(const std::vector<uint8_t>& file) {
+        receiver.attach(port);
+        return fluidnc::uploadConfig(port, file.data(), file.size(), recordProgress, 30000);
+    }
+
+    std::vector<int> blockNumbers() const {
+        std::vector<int> numbers;
+        for (const auto& block : receiver.blocks) {
+            numbers.push_back(block[1]);
+        }
+        return numbers;
+    }
+
+    FakeReceiver receiver;
+    SerialPort port;
+};
+
+TEST(Crc16, MatchesTheXModemCheckValue) {
+    const std::string digits = "123456789";
+    EXPECT_EQ(fluidnc::crc16(reinterpret_cast<const uint8_t*>(digits.data()), 9), 0x31C3);
+    EXPECT_EQ(fluidnc::crc16tab[1], 0x1021);
+    EXPECT_EQ(fluidnc::crc16tab[255], 0x1EF0);
+}
+
+struct ModeCase {
+    uint8_t handshake;
+    size_t blockSize;
+};
+
+class XModemModeTest : public XModemTest, public ::testing::WithParamInterface<ModeCase> {};
+
+TEST_P(XModemModeTest, SendsPaddedBlocksWithTheCheckTheReceiverAskedFor) {
+    receiver.handshake = GetParam().handshake;
+    const auto file = sampleFile(1025);
+    ASSERT_TRUE(upload(file));
+
+    ASSERT_EQ(receiver.blocks.size(), 2u);
+    std::vector<uint8_t> received;
+    for (size_t i = 0; i < 2; ++i) {
+        const auto& block = receiver.blocks[i];
+        ASSERT_EQ(block.size(), GetParam().blockSize);
+        EXPECT_EQ(block[0], 0x02);
+        EXPECT_EQ(block[1], i + 1);
+        EXPECT_EQ(block[2], 255 - (i + 1));
+        const uint8_t* body = block.data() + 3;
+        if (GetParam().handshake == 'C') {
+            const uint16_t crc = bitwiseCrc(body, 1024);
+            EXPECT_EQ(block[1027], crc >> 8);
+            EXPECT_EQ(block[1028], crc & 0xFF);
+        } else {
+            EXPECT_EQ(block[1027], std::accumulate(body, body + 1024, 0) & 0xFF);
+        }
+        received.insert(received.end(), body, body + 1024);
+    }
+    auto expected = file;
+    expected.resize(2048, 0x1A);
+    EXPECT_EQ(received, expected);
+    EXPECT_EQ(receiver.eots, 1);
+    const decltype(progressCalls) fractions = {{1024.0f / 1025.0f, "Uploading config file..."},
+                                               {1.0f, "Uploading config file..."}};
+    EXPECT_EQ(progressCalls, fractions);
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, XModemModeTest,
+                         ::testing::Values(ModeCase{'C', 1029}, ModeCase{NAK, 1028}));
+
+TEST_F(XModemTest, WholeBlockFileGetsNoPaddingBlock) {
+    const auto file = sampleFile(1024);
+    ASSERT_TRUE(upload(file));
+    ASSERT_EQ(receiver.blocks.size(), 1u);
+    EXPECT_TRUE(std::equal(file.begin(), file.end(), receiver.blocks[0].begin() + 3));
+}
+
+TEST_F(XModemTest, EmptyFileSendsOnlyTheEndOfTransmission) {
+    ASSERT_TRUE(upload({}));
+    EXPECT_TRUE(receiver.blocks.empty());
+    EXPECT_EQ(receiver.eots, 1);
+    EXPECT_TRUE(progressCalls.empty());
+}
+
+TEST_F(XModemTest, BlockNumbersWrapAfter255) {
+    ASSERT_TRUE(upload(sampleFile(257 * 1024 + 1)));
+    const auto numbers = blockNumbers();
+    ASSERT_EQ(numbers.size(), 258u);
+    EXPECT_EQ(numbers[254], 255);
+    EXPECT_EQ(numbers[255], 0);
+    EXPECT_EQ(numbers[256], 1);
+    EXPECT_EQ(numbers[257], 2);
+    EXPECT_EQ(receiver.blocks[255][2], 255);
+}
+
+TEST_F(XModemTest, RefusedOrUnansweredBlockIsSentAgainUnchanged) {
+    receiver.blockReplies = {{1, {NAK}}, {2, {}}, {3, {'x'}}};
+    ASSERT_TRUE(upload(sampleFile(3000)));
+    EXPECT_EQ(blockNumbers(), (std::vector<int>{1, 2, 2, 2, 2, 3}));
+    EXPECT_EQ(receiver.blocks[1], receiver.blocks[3]);
+    EXPECT_EQ(progressCalls.size(), 3u);
+}
+
+TEST_F(XModemTest, CancelEndsTheTransferAtOnce) {
+    receiver.blockReplies = {{1, {CAN}}};
+    EXPECT_FALSE(upload(sampleFile(5000)));
+    EXPECT_EQ(receiver.blocks.size(), 2u);
+    EXPECT_EQ(receiver.eots, 0);
+}
+
+TEST_F(XModemTest, GivesUpAfter25TransmissionsOfOneBlock) {
+    for (size_t i = 0; i < 30; ++i) {
+        receiver.blockReplies[i] = {NAK};
+    }
+    EXPECT_FALSE(upload(sampleFile(10)));
+    EXPECT_EQ(receiver.blocks.size(), 25u);
+    EXPECT_EQ(receiver.eots, 0);
+}
+
+TEST_F(XModemTest, RepeatsTheEndOfTransmissionUntilAcknowledged) {
+    receiver.eotRefusals = 3;
+    EXPECT_TRUE(upload(sampleFile(10)));
+    EXPECT_EQ(receiver.eots, 4);
+}
+
+TEST_F(XModemTest, FailsAfter25UnacknowledgedEnds) {
+    receiver.eotRefusals = 100;
+    EXPECT_FALSE(upload(sampleFile(10)));
+    EXPECT_EQ(receiver.eots, 25);
+}
+
+TEST_F(XModemTest, ConsoleTextBeforeTheHandshakeUsesUpTries) {
+    receiver.chatter = std::string(29, '.');
+    EXPECT_TRUE(upload(sampleFile(10)));
+
+    FakeReceiver talkative;
+    talkative.chatter = std::string(30, '.');
+    SerialPort other;
+    talkative.attach(other);
+    const auto file = sampleFile(10);
+    EXPECT_FALSE(fluidnc::uploadConfig(other, file.data(), file.size(), recordProgress, 30000));
+    EXPECT_TRUE(talkative.blocks.empty());
+}
+
+TEST_F(XModemTest, ReportsAMissingHandshake) {
+    receiver.handshake = 0;
+    const int64_t start = mono::nowNs();
+    EXPECT_FALSE(upload(sampleFile(10)));
+    EXPECT_GE(mono::nowNs() - start, 30'000'000'000);
+    EXPECT_TRUE(receiver.blocks.empty());
+    const decltype(progressCalls) report = {{0.0f, "XModem: no handshake received (30s timeout)"}};
+    EXPECT_EQ(progressCalls, report);
+}
+
+}  // namespace
