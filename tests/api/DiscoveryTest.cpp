@@ -1,0 +1,132 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "serial/PortDiscovery.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// A sysfs tree laid out as the kernel does it: class/tty/<name> links into the
+// device hierarchy, the tty's `device` link points at its USB interface folder,
+// and the USB device folder above that carries idVendor and idProduct.
+class FakeSysfs {
+  public:
+    FakeSysfs() {
+        char pattern[] = "/tmp/tfu-sysfs-XXXXXX";
+        base_ = ::mkdtemp(pattern);
+        fs::create_directories(sys() + "/class/tty");
+        fs::create_directories(dev());
+        ids("devices/pci0000:00/usb1", "1d6b", "0002");
+    }
+    ~FakeSysfs() { fs::remove_all(base_); }
+
+    std::string sys() const { return base_ + "/sys"; }
+    std::string dev() const { return base_ + "/dev"; }
+
+    // A USB device folder below the root hub, with the ids given (empty: file absent).
+    void ids(const std::string& folder, const std::string& vendor, const std::string& product) {
+        fs::create_directories(sys() + "/" + folder);
+        if (!vendor.empty()) {
+            std::ofstream(sys() + "/" + folder + "/idVendor") << vendor << "\n";
+        }
+        if (!product.empty()) {
+            std::ofstream(sys() + "/" + folder + "/idProduct") << product << "\n";
+        }
+    }
+
+    // A tty whose device link points at `deviceFolder`; the tty folder sits below it.
+    void tty(const std::string& name, const std::string& deviceFolder, bool withNode = true) {
+        const std::string ttyFolder = deviceFolder + "/tty/" + name;
+        fs::create_directories(sys() + "/" + ttyFolder);
+        fs::create_directory_symlink("../../" + ttyFolder, sys() + "/class/tty/" + name);
+        const std::string leaf = deviceFolder.substr(deviceFolder.rfind('/') + 1);
+        fs::create_directory_symlink("../../../" + leaf, sys() + "/" + ttyFolder + "/device");
+        if (withNode) {
+            std::ofstream(dev() + "/" + name);
+        }
+    }
+
+    // A tty without a device link, as virtual consoles and gadget ports have.
+    void linklessTty(const std::string& name, const std::string& folder) {
+        fs::create_directories(sys() + "/" + folder + "/" + name);
+        fs::create_directory_symlink("../../" + folder + "/" + name, sys() + "/class/tty/" + name);
+        std::ofstream(dev() + "/" + name);
+    }
+
+    std::vector<std::string> found(unsigned short vendor = 0x303A,
+                                   unsigned short product = 0x1001) const {
+        std::vector<std::string> paths;
+        for (const auto& port : listESPPorts(vendor, product, sys(), dev())) {
+            EXPECT_EQ(port.calloutPath, port.ttyPath);
+            paths.push_back(port.calloutPath);
+        }
+        return paths;
+    }
+
+  private:
+    std::string base_;
+};
+
+const std::string kHub = "devices/pci0000:00/usb1";
+
+TEST(PortDiscovery, FindsNothingWithoutAMatchingDevice) {
+    FakeSysfs tree;
+    tree.linklessTty("tty0", "devices/virtual/tty");
+    tree.ids("devices/platform/serial8250", "", "");
+    tree.tty("ttyS0", "devices/platform/serial8250");
+    tree.ids(kHub + "/1-1", "1a86", "7523");
+    tree.tty("ttyUSB0", kHub + "/1-1/1-1:1.0");
+    EXPECT_TRUE(tree.found().empty());
+    EXPECT_TRUE(listESPPorts(0x303A, 0x1001, tree.sys() + "/missing", tree.dev()).empty());
+}
+
+TEST(PortDiscovery, ListsEveryMatchingDeviceInNameOrder) {
+    FakeSysfs tree;
+    tree.ids(kHub + "/1-2", "303a", "1001");
+    tree.tty("ttyACM1", kHub + "/1-2/1-2:1.0");
+    tree.ids(kHub + "/1-3", "303A", "1001");
+    tree.tty("ttyACM0", kHub + "/1-3/1-3:1.0");
+    tree.ids(kHub + "/1-4", "303a", "1002");
+    tree.tty("ttyACM2", kHub + "/1-4/1-4:1.0");
+    EXPECT_EQ(tree.found(),
+              (std::vector<std::string>{tree.dev() + "/ttyACM0", tree.dev() + "/ttyACM1"}));
+    EXPECT_EQ(tree.found(0x303A, 0x1002), std::vector<std::string>{tree.dev() + "/ttyACM2"});
+}
+
+TEST(PortDiscovery, OnlyTheNearestFolderWithBothIdsDecides) {
+    FakeSysfs tree;
+    // A matching hub above a foreign device: the device's own ids decide.
+    tree.ids(kHub + "/1-5", "303a", "1001");
+    tree.ids(kHub + "/1-5/1-5.1", "0403", "6001");
+    tree.tty("ttyUSB0", kHub + "/1-5/1-5.1/1-5.1:1.0");
+    // Folders with only one of the ids are passed over on the way up.
+    tree.ids(kHub + "/1-6", "303a", "1001");
+    tree.ids(kHub + "/1-6/1-6:1.0", "0403", "");
+    tree.ids(kHub + "/1-6/1-6:1.0/port", "", "6001");
+    tree.tty("ttyACM0", kHub + "/1-6/1-6:1.0/port");
+    EXPECT_EQ(tree.found(), std::vector<std::string>{tree.dev() + "/ttyACM0"});
+}
+
+TEST(PortDiscovery, ComparesTheLowSixteenBitsOfWideIds) {
+    FakeSysfs tree;
+    tree.ids(kHub + "/1-7", "1303a", "71001");
+    tree.tty("ttyACM3", kHub + "/1-7/1-7:1.0");
+    EXPECT_EQ(tree.found(), std::vector<std::string>{tree.dev() + "/ttyACM3"});
+}
+
+TEST(PortDiscovery, SkipsEntriesWithoutDeviceLinkOrNode) {
+    FakeSysfs tree;
+    tree.ids(kHub + "/1-8", "303a", "1001");
+    tree.linklessTty("ttyGS0", kHub + "/1-8/tty");
+    tree.tty("ttyACM4", kHub + "/1-8/1-8:1.0", false);
+    tree.tty("ttyACM5", kHub + "/1-8/1-8:1.2");
+    EXPECT_EQ(tree.found(), std::vector<std::string>{tree.dev() + "/ttyACM5"});
+}
+
+}  // namespace
