@@ -1,0 +1,133 @@
+#include <QSignalSpy>
+#include <QTest>
+#include <cstring>
+#include <memory>
+
+#include "app/DeviceMonitor.h"
+#include "app/FlasherBridge.h"
+
+namespace {
+
+const QString kMissingPort = QStringLiteral("/dev/tfu-no-such-port");
+
+}  // namespace
+
+class BridgeMonitorTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void bridgeParksHandlersForOneCall();
+    void bridgeConvertsNullAndInvalidTexts();
+    void bridgeUploadReturnsTheLibraryResult();
+    void monitorPublishesPathBeforeConnectionOnEveryPoll();
+};
+
+void BridgeMonitorTest::bridgeParksHandlersForOneCall() {
+    auto token = std::make_shared<int>(0);
+    QStringList lines;
+    bool parkedDuringCall = false;
+    const esp_error_t result = FlasherBridge::flashFirmware(
+        kMissingPort, QByteArray(16, 'x'), {}, {}, {}, QByteArray(32, 's'), true, false,
+        std::nullopt, [token](float, const QString&) {},
+        [&, token](const QString& line) {
+            parkedDuringCall = FlasherBridge::detail::hasParkedHandlers();
+            lines << line;
+        });
+
+    QCOMPARE(result, esp_error_t(2));
+    QCOMPARE(lines, QStringList({"Opening port: " + kMissingPort, "Failed to open port"}));
+    QVERIFY(parkedDuringCall);
+    QVERIFY(!FlasherBridge::detail::hasParkedHandlers());
+    QCOMPARE(token.use_count(), 1);  // both closures released
+
+    // A late callback from the library reaches nobody.
+    FlasherBridge::detail::logTrampoline("late");
+    FlasherBridge::detail::progressTrampoline(1.0f, "late");
+    QCOMPARE(lines.size(), 2);
+}
+
+void BridgeMonitorTest::bridgeConvertsNullAndInvalidTexts() {
+    QList<std::pair<float, QString>> progress;
+    QStringList lines;
+    bool forwarded = false;
+    FlasherBridge::uploadConfig(
+        kMissingPort, {},
+        [&](float f, const QString& m) {
+            progress.append({f, m});
+        },
+        [&](const QString& line) { lines << line; });
+    QVERIFY(progress.isEmpty());  // the port never opened
+
+    // Drive the trampolines from inside a call, where the slots are occupied.
+    FlasherBridge::flashFirmware(
+        kMissingPort, {}, {}, {}, {}, {}, false, false, QStringLiteral("2.10.6"),
+        [&](float f, const QString& m) {
+            progress.append({f, m});
+        },
+        [&](const QString& line) {
+            lines << line;
+            if (forwarded) {
+                return;
+            }
+            forwarded = true;
+            FlasherBridge::detail::progressTrampoline(0.5f, nullptr);
+            FlasherBridge::detail::progressTrampoline(0.75f, "Flashing \xff");
+            FlasherBridge::detail::logTrampoline(nullptr);
+        });
+    QCOMPARE(progress.size(), 2);
+    QCOMPARE(progress[0], std::make_pair(0.5f, QString()));
+    QCOMPARE(progress[1], std::make_pair(0.75f, QStringLiteral("Flashing \ufffd")));
+    QCOMPARE(lines.size(), 3);
+    QCOMPARE(lines[1], QString());
+}
+
+void BridgeMonitorTest::bridgeUploadReturnsTheLibraryResult() {
+    int calls = 0;
+    const esp_error_t result = FlasherBridge::uploadConfig(
+        kMissingPort, QByteArray("meta: 1\n"), [&](float, const QString&) { ++calls; },
+        [&](const QString&) { ++calls; });
+    QCOMPARE(result, esp_error_t(2));
+    QCOMPARE(calls, 0);
+    QVERIFY(!FlasherBridge::detail::hasParkedHandlers());
+}
+
+void BridgeMonitorTest::monitorPublishesPathBeforeConnectionOnEveryPoll() {
+    QByteArray present("/dev/pts/77");
+    int detections = 0;
+    DeviceMonitor monitor([&](uint16_t vendor, uint16_t product) -> char* {
+        ++detections;
+        if (vendor != 0x303A || product != 0x1001 || present.isEmpty()) {
+            return nullptr;
+        }
+        return strdup(present.constData());
+    });
+    QStringList publications;
+    connect(&monitor, &DeviceMonitor::portPathChanged, this,
+            [&](const QString& path) { publications << "path " + path; });
+    connect(&monitor, &DeviceMonitor::isConnectedChanged, this, [&](bool connected) {
+        // The path must already match when the connection is published.
+        QCOMPARE(monitor.hasPort(), connected);
+        publications << QStringLiteral("connected %1").arg(connected);
+    });
+
+    monitor.startPolling();
+    QTest::qWait(100);
+    QVERIFY(publications.isEmpty());
+    QVERIFY(!monitor.isConnected());
+    QVERIFY(!monitor.hasPort());
+
+    QTRY_VERIFY_WITH_TIMEOUT(publications.size() >= 4, 2000);  // unchanged values republished
+    QCOMPARE(publications.mid(0, 4),
+             QStringList({"path /dev/pts/77", "connected 1", "path /dev/pts/77", "connected 1"}));
+    QCOMPARE(monitor.portPath(), QStringLiteral("/dev/pts/77"));
+
+    present.clear();
+    publications.clear();
+    QTRY_VERIFY_WITH_TIMEOUT(publications.size() >= 2, 2000);
+    QCOMPARE(publications.mid(0, 2), QStringList({"path ", "connected 0"}));
+    QVERIFY(!monitor.hasPort());
+    QVERIFY(detections >= 3);
+}
+
+QTEST_GUILESS_MAIN(BridgeMonitorTest)
+#include "BridgeMonitorTest.moc"
