@@ -1,0 +1,252 @@
+#include "LoaderFixture.h"
+
+namespace {
+
+std::vector<std::pair<float, std::string>> progressCalls;
+
+void recordProgress(float fraction, const char* stage) {
+    progressCalls.emplace_back(fraction, stage);
+}
+
+Bytes pattern(size_t size) {
+    Bytes data(size);
+    for (size_t i = 0; i < size; ++i) {
+        data[i] = static_cast<uint8_t>(i * 13 + i / 256);
+    }
+    return data;
+}
+
+Bytes stubImage(uint32_t textSize, uint32_t dataSize) {
+    Bytes image;
+    for (const uint32_t word : {0x40380000u, textSize, 0x3FC90000u, dataSize, 0x4038A000u}) {
+        esp::packLE32(image, word);
+    }
+    const Bytes body = pattern(textSize + dataSize);
+    image.insert(image.end(), body.begin(), body.end());
+    return image;
+}
+
+class StubTest : public LoaderTest {
+  protected:
+    // The greeting follows the MEM_END answer in a read of its own.
+    void answerRom(const Bytes& greeting) {
+        reply = [this, greeting](const Request& r) {
+            if (r.op == esp::MEM_END) {
+                pieces.push_back(slip::encode(greeting));
+            }
+            return response(r.op, 0, {}, r.op == esp::MEM_DATA && sent.size() == failAt, 7);
+        };
+    }
+    size_t failAt = 0;
+};
+
+TEST_F(StubTest, ParsesOnlyImagesThatHoldBothSegments) {
+    Bytes image = stubImage(100, 0);
+    EXPECT_FALSE(esp::EspLoader::parseStubHeader(image.data(), 19));
+    EXPECT_FALSE(esp::EspLoader::parseStubHeader(image.data(), 110));
+    const auto header = esp::EspLoader::parseStubHeader(image.data(), 120);
+    ASSERT_TRUE(header);
+    EXPECT_EQ(header->dataAddr, 0x3FC90000u);
+    EXPECT_EQ(header->entry, 0x4038A000u);
+    image[4] = image[5] = image[6] = image[7] = 0xFF;
+    EXPECT_FALSE(esp::EspLoader::parseStubHeader(image.data(), image.size()));
+
+    const uint8_t data[] = {0xAA, 0xBB, 0xCC};
+    EXPECT_EQ(esp::EspLoader::buildDataPacket(data, 3, 2),
+              (Bytes{3, 0, 0, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xAA, 0xBB, 0xCC}));
+}
+
+TEST_F(StubTest, UploadsSegmentsInRamBlocksThenSpeaksStubStatus) {
+    const Bytes image = stubImage(6145, 8);
+    answerRom({'O', 'H', 'A', 'I', 'x'});
+    ASSERT_TRUE(loader.uploadStub(image.data(), image.size()));
+    EXPECT_EQ(lines, Lines{"Stub: text=6145 @ 0x40380000 data=8 @ 0x3fc90000 entry=0x4038a000"});
+    ASSERT_EQ(sent.size(), 6u);
+    EXPECT_EQ(sent[0].payload, words({6145, 2, 6144, 0x40380000}));
+    const Bytes last(image.begin() + 20 + 6144, image.begin() + 20 + 6145);
+    EXPECT_EQ(sent[2].payload, esp::EspLoader::buildDataPacket(last.data(), 1, 1));
+    EXPECT_EQ(sent[2].checksum, esp::calculateChecksum(last));
+    EXPECT_EQ(sent[3].payload, words({8, 1, 6144, 0x3FC90000}));
+    EXPECT_EQ(sent[5].op, esp::MEM_END);
+    EXPECT_EQ(sent[5].payload, words({0, 0x4038A000}));
+
+    reply = [](const Request& r) { return response(r.op, 0, {}, 0, 0, 2); };
+    EXPECT_TRUE(loader.attachFlash());
+    loader.hardReset();
+    EXPECT_FALSE(loader.attachFlash());
+    EXPECT_EQ(lines.end()[-2], "PARSE FAIL: SPI_ATTACH payload_size=10");
+}
+
+TEST_F(StubTest, EmptyTextIsAnnouncedAndEmptyDataSkipped) {
+    const Bytes image = stubImage(0, 0);
+    answerRom({'O', 'H', 'A', 'I'});
+    ASSERT_TRUE(loader.uploadStub(image.data(), image.size()));
+    ASSERT_EQ(sent.size(), 2u);
+    EXPECT_EQ(sent[0].payload, words({0, 0, 6144, 0x40380000}));
+}
+
+TEST_F(StubTest, FailuresLeaveTheStubStopped) {
+    const Bytes image = stubImage(3 * 6144, 0);
+    EXPECT_FALSE(loader.uploadStub(image.data(), 110));
+    EXPECT_EQ(lines, Lines{"Stub header parse failed (size=110)"});
+    EXPECT_TRUE(sent.empty());
+
+    for (const Bytes& greeting : {Bytes{'O', 'H', 'A'}, Bytes{'O', 'H', 'A', 'J'}, Bytes{}}) {
+        answerRom(greeting);
+        EXPECT_FALSE(loader.uploadStub(image.data(), image.size()));
+    }
+    reply = [](const Request& r) { return response(r.op); };
+    EXPECT_NEAR(elapsedMs([&] { loader.uploadStub(image.data(), image.size()); }), 5000, 20);
+
+    sent.clear();
+    lines.clear();
+    answerRom({'O', 'H', 'A', 'I'});
+    failAt = 3;
+    EXPECT_FALSE(loader.uploadStub(image.data(), image.size()));
+    EXPECT_EQ(sent.size(), 3u);
+    EXPECT_EQ(lines.back(), "ERROR: MEM_DATA status=1 error=7");
+    EXPECT_FALSE(loader.stubRunning());
+}
+
+class FlashTest : public StubTest {
+  protected:
+    void SetUp() override {
+        StubTest::SetUp();
+        const Bytes stub = stubImage(16, 0);
+        answerRom({'O', 'H', 'A', 'I'});
+        ASSERT_TRUE(loader.uploadStub(stub.data(), stub.size()));
+        sent.clear();
+        lines.clear();
+        progressCalls.clear();
+        reply = [this](const Request& r) {
+            const bool fail = r.op == esp::FLASH_DATA && sent.size() == failAt;
+            return response(r.op, 0, {}, fail, fail ? 7 : 0, 2);
+        };
+    }
+};
+
+TEST_F(FlashTest, PadsTheLastBlockAndReportsProgress) {
+    const Bytes image = pattern(3 * 16384 + 1);
+    ASSERT_TRUE(loader.flashImage(0x10000, image.data(), image.size(), recordProgress, 0.2f, 0.5f));
+    EXPECT_EQ(lines, (Lines{"FLASH_BEGIN addr=0x00010000 size=49153 blocks=4 blockSize=16384",
+                            "FLASH_BEGIN OK (erase complete)"}));
+    ASSERT_EQ(sent.size(), 5u);
+    EXPECT_EQ(sent[0].payload, words({49153, 4, 16384, 0x10000, 0}));
+    const Bytes full(image.begin() + 16384, image.begin() + 32768);
+    EXPECT_EQ(sent[2].payload, esp::EspLoader::buildDataPacket(full.data(), 16384, 1));
+    EXPECT_EQ(sent[2].checksum, esp::calculateChecksum(full));
+    Bytes padded(16384, 0xFF);
+    padded[0] = image.back();
+    EXPECT_EQ(sent[4].payload, esp::EspLoader::buildDataPacket(padded.data(), 16384, 3));
+    EXPECT_EQ(sent[4].checksum, esp::calculateChecksum(padded));
+    const std::vector<std::pair<float, std::string>> expected = {
+        {0.325f, "Flashing"}, {0.45f, "Flashing"}, {0.575f, "Flashing"}, {0.7f, "Flashing"}};
+    EXPECT_EQ(progressCalls, expected);
+}
+
+TEST_F(FlashTest, FailedBlockStopsWritingAndEmptyImageOnlyBegins) {
+    const Bytes image = pattern(10 * 16384);
+    failAt = 4;
+    EXPECT_FALSE(loader.flashImage(0, image.data(), image.size(), recordProgress, 0, 1));
+    EXPECT_EQ(sent.size(), 4u);
+    EXPECT_EQ(progressCalls.size(), 2u);
+    EXPECT_EQ(lines.back(), "ERROR: FLASH_DATA status=1 error=7");
+
+    sent.clear();
+    EXPECT_TRUE(loader.flashImage(0x8000, nullptr, 0, recordProgress, 0, 1));
+    ASSERT_EQ(sent.size(), 1u);
+    EXPECT_EQ(sent[0].payload, words({0, 0, 16384, 0x8000, 0}));
+    EXPECT_EQ(progressCalls.size(), 2u);
+}
+
+TEST_F(FlashTest, CommandLogLines) {
+    EXPECT_TRUE(loader.attachFlash());
+    EXPECT_TRUE(loader.flashEnd());
+    EXPECT_EQ(sent[0].payload, words({0}));
+    EXPECT_EQ(sent[1].payload, words({1}));
+    reply = [](const Request&) { return Bytes{}; };
+    EXPECT_FALSE(loader.attachFlash());
+    EXPECT_FALSE(loader.flashEnd());
+    EXPECT_FALSE(loader.flashImage(0, nullptr, 0, nullptr, 0, 1));
+    EXPECT_NEAR(elapsedMs([&] { EXPECT_FALSE(loader.eraseFlash()); }), 60000, 100);
+    EXPECT_EQ(sent.back().op, esp::ERASE_FLASH);
+    EXPECT_EQ(lines, (Lines{"SPI_ATTACH (default pins)", "SPI_ATTACH OK", "FLASH_END OK",
+                            "SPI_ATTACH (default pins)", "NO RESPONSE: SPI_ATTACH",
+                            "SPI_ATTACH FAILED", "NO RESPONSE: FLASH_END", "FLASH_END FAILED",
+                            "FLASH_BEGIN addr=0x00000000 size=0 blocks=0 blockSize=16384",
+                            "NO RESPONSE: FLASH_BEGIN", "FLASH_BEGIN FAILED",
+                            "ERASE_FLASH (full chip erase)", "NO RESPONSE: CMD_0xD0",
+                            "ERASE_FLASH FAILED"}));
+}
+
+TEST_F(FlashTest, VerifyComparesTheFirstSixteenDigestBytes) {
+    const Bytes abc = {'a', 'b', 'c'};
+    const Bytes local = esp::EspLoader::md5(abc.data(), abc.size());
+    Bytes wrong = local;
+    wrong[15] ^= 1;
+    Bytes longer = local;
+    longer.push_back(1);
+    const std::pair<Bytes, std::string> cases[] = {
+        {local, "VERIFY OK"},
+        {longer, "VERIFY OK"},
+        {wrong, "VERIFY MISMATCH"},
+        {Bytes(15), "VERIFY: MD5 response too short (15 bytes)"},
+        {Bytes(32, '0'), "VERIFY MISMATCH"},
+    };
+    for (const auto& [digest, last] : cases) {
+        lines.clear();
+        reply = [&](const Request& r) { return response(r.op, 0, digest, 0, 0, 2); };
+        EXPECT_EQ(loader.verifyFlash(0x10000, abc.size(), abc.data()), last == "VERIFY OK");
+        EXPECT_EQ(lines.front(), "VERIFY addr=0x00010000 size=3");
+        EXPECT_EQ(lines.back(), last);
+    }
+    EXPECT_EQ(sent.back().payload, words({0x10000, 3, 0, 0}));
+    EXPECT_EQ(
+        lines,
+        (Lines{"VERIFY addr=0x00010000 size=3", "VERIFY local_md5=900150983cd24fb0d6963f7d28e17f72",
+               "VERIFY flash_md5=30303030303030303030303030303030", "VERIFY MISMATCH"}));
+
+    lines.clear();
+    reply = [](const Request& r) { return response(r.op, 0, {}, 1, 2, 2); };
+    EXPECT_FALSE(loader.verifyFlash(0, 0, nullptr));
+    EXPECT_EQ(lines,
+              (Lines{"VERIFY addr=0x00000000 size=0", "ERROR: SPI_FLASH_MD5 status=1 error=2",
+                     "VERIFY: MD5 command failed"}));
+}
+
+TEST_F(FlashTest, ReadFlashGathersFramesAndWaitsForTheTrailer) {
+    const Bytes flash = pattern(4096);
+    auto answer = [&](std::vector<size_t> sizes) {
+        reply = [&, sizes](const Request& r) {
+            size_t at = 0;
+            for (const size_t size : sizes) {
+                pieces.push_back(
+                    slip::encode(Bytes(flash.begin() + at, flash.begin() + at + size)));
+                at += size;
+            }
+            return response(r.op, 0, {}, 0, 0, 2);
+        };
+    };
+    const Bytes wanted(flash.begin(), flash.begin() + 3072);
+    Bytes got;
+    const struct {
+        std::vector<size_t> frames;
+        size_t size;
+        Bytes result;
+        double ms;
+    } cases[] = {
+        {{3072}, 3072, wanted, 1000},
+        {{2048, 2048}, 3072, wanted, 1000},
+        {{1024}, 3072, {}, 5000},
+        {{}, 0, {}, 1000},
+    };
+    for (const auto& c : cases) {
+        answer(c.frames);
+        EXPECT_NEAR(elapsedMs([&] { got = loader.readFlash(0x8000, c.size); }), c.ms, 20);
+        EXPECT_EQ(got, c.result);
+    }
+    EXPECT_EQ(sent[0].payload, words({0x8000, 3072, 16384, 1}));
+    EXPECT_TRUE(lines.empty());
+}
+
+}  // namespace
