@@ -1,0 +1,79 @@
+#include "sim/Console.h"
+
+#include "serial/Clock.h"
+
+namespace sim::detail {
+
+namespace {
+
+constexpr uint8_t kSlipEnd = 0xC0;
+constexpr size_t kMaxLine = 256;
+const std::string kReceiveCommand = "$Xmodem/Receive=";
+
+}  // namespace
+
+void Console::restart(int64_t readyNs) {
+    xmodem_.stop();
+    line_.clear();
+    readyNs_ = readyNs;
+    d_.mode = Mode::Console;
+}
+
+size_t Console::consume(const uint8_t* data, size_t len) {
+    if (d_.mode == Mode::XModem) {
+        return xmodem_.consume(data, len);
+    }
+    return consumeLines(data, len);
+}
+
+size_t Console::consumeLines(const uint8_t* data, size_t len) {
+    for (size_t i = 0; i < len; ++i) {
+        const uint8_t b = data[i];
+        if (b == kSlipEnd) {
+            line_.clear();
+            d_.mode = Mode::RomLoader;
+            return i;
+        }
+        if (b == '\n') {
+            const std::string line = std::move(line_);
+            line_.clear();
+            onLine(line);
+            if (d_.mode != Mode::Console) {
+                return i + 1;
+            }
+        } else if (b != '\r' && line_.size() < kMaxLine) {
+            line_.push_back(static_cast<char>(b));
+        }
+    }
+    return len;
+}
+
+void Console::onLine(const std::string& line) {
+    if (line.empty()) {
+        return;
+    }
+    d_.note(line);
+    if (mono::nowNs() < readyNs_ || d_.config.silent || d_.config.silentConsole) {
+        return;
+    }
+    if (line == "$I") {
+        const std::string ok = "ok\r\n";
+        reply((d_.config.okBeforeVersion ? ok : "") +
+              "[VER:" + d_.flashedVersion.value_or(d_.config.versionReport) + ":]\r\n" +
+              "[OPT:V,15,128]\r\n" + ok);
+    } else if (line.starts_with(kReceiveCommand)) {
+        const std::string name = line.substr(kReceiveCommand.size());
+        reply("[MSG:INFO: XModem receive " + name + "]\r\n");
+        xmodem_.start(name);
+    } else if (line == "$Bye") {
+        restart(mono::nowNs() + int64_t{d_.config.bootMs} * 1'000'000);
+    } else {
+        reply("error:3\r\n");
+    }
+}
+
+void Console::reply(const std::string& text) {
+    d_.outbox.send(std::vector<uint8_t>(text.begin(), text.end()), d_.config.consoleDelayMs);
+}
+
+}  // namespace sim::detail

@@ -1,0 +1,128 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "sim/Device.h"
+#include "sim/Framing.h"
+
+namespace sim::detail {
+
+/// The chip's ROM serial loader and, once started, the flasher stub: request
+/// packets in SLIP frames in, response packets out (4 status bytes from the ROM,
+/// 2 from the stub). Works on `Device` while its mode is RomLoader or Stub.
+class Loader {
+  public:
+    explicit Loader(Device& device) : d_(device) {}
+
+    /// The chip was reset into its ROM loader: stub, RAM, transfers and anything
+    /// scheduled are gone.
+    void reset();
+
+    /// Takes host bytes; returns how many it used. It stops early when the mode
+    /// changes (console text after FLASH_END, a reboot, the line going away).
+    size_t consume(const uint8_t* data, size_t len);
+
+  private:
+    struct Request {
+        uint8_t op;
+        uint32_t checksum;
+        const uint8_t* payload;
+        size_t size;
+        uint32_t word(size_t index) const { return le32(payload + 4 * index); }
+    };
+    struct Response {
+        uint32_t value = 0;
+        std::vector<uint8_t> data;
+        uint8_t error = 0;  ///< 0: success; otherwise status 1 with this code
+        int delayMs = 0;
+    };
+    using Result = std::optional<Response>;  ///< empty: nothing is answered
+
+    static Response answer(uint32_t value = 0, std::vector<uint8_t> data = {}, int delayMs = 0) {
+        return Response{value, std::move(data), 0, delayMs};
+    }
+    static Response failure(uint8_t error) { return Response{0, {}, error, 0}; }
+
+    struct MemTransfer {
+        uint32_t address;
+        uint32_t size;
+        uint32_t blockSize;
+        uint32_t nextSeq;
+        std::vector<uint8_t> data;
+    };
+    struct FlashWrite {
+        uint32_t next;
+        uint32_t nextSeq;
+    };
+
+    void restartRom();
+    void handle(const std::vector<uint8_t>& packet);
+    Result execute(const Request& r);
+    void sendResponse(uint8_t op, const Response& response, size_t statusBytes);
+    std::optional<ResponseFault> takeFault(uint8_t op);
+    bool rom() const { return d_.mode != Mode::Stub; }
+    int gapMs() const { return d_.config.frameGapMs > 0 ? d_.config.frameGapMs : 1; }
+
+    Result sync(const Request& r);
+    Result readReg(const Request& r);
+    Result securityInfo(const Request& r);
+    Result memBegin(const Request& r);
+    Result memData(const Request& r);
+    Result memEnd(const Request& r);
+    Result eraseChip(const Request& r);
+    Result flashBegin(const Request& r);
+    Result flashData(const Request& r);
+    Result flashEnd(const Request& r);
+    Result flashMd5(const Request& r);
+    Result readFlash(const Request& r);
+    void scheduleReadData(uint32_t address, uint32_t size, uint32_t packetSize);
+
+    Device& d_;
+    FrameReader reader_;
+    int syncRequests_ = 0;
+    int responsesSent_ = 0;
+    std::map<uint8_t, int> responsesByOp_;
+    int flashDataSeen_ = 0;
+    int md5Seen_ = 0;
+    std::optional<MemTransfer> mem_;
+    std::optional<FlashWrite> write_;
+    bool appBegun_ = false;
+};
+
+/// Opcodes, error codes and helpers shared by the loader's source files.
+namespace op {
+inline constexpr uint8_t kFlashBegin = 0x02;
+inline constexpr uint8_t kFlashData = 0x03;
+inline constexpr uint8_t kFlashEnd = 0x04;
+inline constexpr uint8_t kMemBegin = 0x05;
+inline constexpr uint8_t kMemEnd = 0x06;
+inline constexpr uint8_t kMemData = 0x07;
+inline constexpr uint8_t kSync = 0x08;
+inline constexpr uint8_t kReadReg = 0x0A;
+inline constexpr uint8_t kSpiAttach = 0x0D;
+inline constexpr uint8_t kSpiFlashMd5 = 0x13;
+inline constexpr uint8_t kSecurityInfo = 0x14;
+inline constexpr uint8_t kEraseChip = 0xD0;
+inline constexpr uint8_t kReadFlash = 0xD2;
+}  // namespace op
+
+inline constexpr uint8_t kErrInvalid = 0x05;   ///< malformed, out of range, out of sequence
+inline constexpr uint8_t kErrFailed = 0x06;    ///< not possible in the current state
+inline constexpr uint8_t kErrChecksum = 0x07;  ///< data checksum mismatch
+
+/// 0xEF folded with every byte by exclusive-or, as the data commands carry it.
+uint8_t dataChecksum(const uint8_t* data, size_t len);
+
+/// MD5 digest of `len` bytes.
+std::vector<uint8_t> md5Digest(const uint8_t* data, size_t len);
+
+/// "0x" and lower-case hexadecimal digits without padding.
+std::string hex(uint32_t value);
+
+}  // namespace sim::detail

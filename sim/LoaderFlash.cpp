@@ -1,0 +1,170 @@
+#include <openssl/evp.h>
+
+#include <algorithm>
+
+#include "serial/Clock.h"
+#include "sim/Loader.h"
+
+namespace sim::detail {
+
+namespace {
+
+constexpr uint32_t kSectorSize = 4096;
+constexpr uint32_t kAppOffset = 0x10000;
+
+bool inFlash(const Device& d, uint32_t address, uint32_t size) {
+    return uint64_t{address} + size <= d.flash.size();
+}
+
+std::vector<uint8_t> hexText(const std::vector<uint8_t>& digest) {
+    static constexpr char kDigits[] = "0123456789abcdef";
+    std::vector<uint8_t> text;
+    for (uint8_t b : digest) {
+        text.push_back(kDigits[b >> 4]);
+        text.push_back(kDigits[b & 0x0F]);
+    }
+    return text;
+}
+
+}  // namespace
+
+std::vector<uint8_t> md5Digest(const uint8_t* data, size_t len) {
+    std::vector<uint8_t> digest(EVP_MAX_MD_SIZE);
+    unsigned int digestLen = 0;
+    EVP_Digest(data, len, digest.data(), &digestLen, EVP_md5(), nullptr);
+    digest.resize(digestLen);
+    return digest;
+}
+
+Loader::Result Loader::eraseChip(const Request&) {
+    d_.note("ERASE_FLASH");
+    if (rom()) {
+        return failure(kErrInvalid);
+    }
+    std::fill(d_.flash.begin(), d_.flash.end(), 0xFF);
+    return answer(0, {}, d_.config.eraseDelayMs);
+}
+
+Loader::Result Loader::flashBegin(const Request& r) {
+    if (r.size < 16) {
+        d_.note("FLASH_BEGIN");
+        return failure(kErrInvalid);
+    }
+    const uint32_t size = r.word(0);
+    const uint32_t blockSize = r.word(2);
+    const uint32_t address = r.word(3);
+    d_.note("FLASH_BEGIN " + hex(address) + " " + std::to_string(size));
+    if (blockSize == 0 || !inFlash(d_, address, size)) {
+        return failure(kErrInvalid);
+    }
+    // Flash erases whole sectors, so the neighbours of an unaligned region go too.
+    const size_t first = address / kSectorSize * kSectorSize;
+    const size_t end = std::min<uint64_t>(
+        d_.flash.size(), (uint64_t{address} + size + kSectorSize - 1) / kSectorSize * kSectorSize);
+    std::fill(d_.flash.begin() + first, d_.flash.begin() + end, 0xFF);
+    write_ = FlashWrite{address, 0};
+    appBegun_ = appBegun_ || address == kAppOffset;
+    return answer(0, {}, d_.config.flashBeginDelayMs);
+}
+
+Loader::Result Loader::flashData(const Request& r) {
+    if (r.size < 16) {
+        d_.note("FLASH_DATA");
+        return failure(kErrInvalid);
+    }
+    const uint32_t length = r.word(0);
+    const uint32_t seq = r.word(1);
+    d_.note("FLASH_DATA " + std::to_string(seq));
+    if (d_.config.goneAfterFlashData == flashDataSeen_++) {
+        d_.loseLine();
+        return std::nullopt;
+    }
+    if (!write_) {
+        return failure(kErrFailed);
+    }
+    const uint8_t* data = r.payload + 16;
+    if (length != r.size - 16 || seq != write_->nextSeq || !inFlash(d_, write_->next, length)) {
+        return failure(kErrInvalid);
+    }
+    if (r.checksum != dataChecksum(data, length)) {
+        return failure(kErrChecksum);
+    }
+    // NOR flash programming only clears bits; erased bytes take the data as is.
+    uint8_t* target = d_.flash.data() + write_->next;
+    for (uint32_t i = 0; i < length; ++i) {
+        target[i] &= data[i];
+    }
+    write_->next += length;
+    ++write_->nextSeq;
+    return answer(0, {}, d_.config.flashBlockDelayMs);
+}
+
+Loader::Result Loader::flashEnd(const Request& r) {
+    d_.note("FLASH_END");
+    write_.reset();
+    d_.flashEnded = true;
+    d_.appFlashed = appBegun_;
+    d_.flashEndNs = mono::nowNs();
+    if (r.size >= 4 && r.word(0) == 0) {
+        d_.mode = Mode::Console;
+    }
+    return answer();
+}
+
+Loader::Result Loader::flashMd5(const Request& r) {
+    if (r.size < 16) {
+        d_.note("SPI_FLASH_MD5");
+        return failure(kErrInvalid);
+    }
+    const uint32_t address = r.word(0);
+    const uint32_t size = r.word(1);
+    d_.note("SPI_FLASH_MD5 " + hex(address) + " " + std::to_string(size));
+    const int index = md5Seen_++;
+    if (d_.config.goneAtMd5 == index) {
+        d_.loseLine();
+        return std::nullopt;
+    }
+    if (!inFlash(d_, address, size)) {
+        return failure(kErrInvalid);
+    }
+    std::vector<uint8_t> digest = md5Digest(d_.flash.data() + address, size);
+    if (d_.config.wrongMd5At == index) {
+        digest[0] ^= 0xFF;
+    }
+    // The ROM reports the digest as hexadecimal text, the stub as raw bytes.
+    return answer(0, rom() ? hexText(digest) : digest, d_.config.md5DelayMs);
+}
+
+Loader::Result Loader::readFlash(const Request& r) {
+    d_.note("READ_FLASH");
+    if (rom() || r.size < 16) {
+        return failure(kErrInvalid);
+    }
+    const uint32_t address = r.word(0);
+    const uint32_t size = r.word(1);
+    const uint32_t packetSize = r.word(2);
+    if (packetSize == 0 || !inFlash(d_, address, size)) {
+        return failure(kErrInvalid);
+    }
+    scheduleReadData(address, size, packetSize);
+    return answer();
+}
+
+// The data follows the response as bare frames, one gap apart, then the digest of
+// all of it; the host acknowledges nothing in between.
+void Loader::scheduleReadData(uint32_t address, uint32_t size, uint32_t packetSize) {
+    int step = 1;
+    for (uint32_t offset = 0; offset < size; offset += packetSize, ++step) {
+        const uint32_t start = address + offset;
+        const uint32_t length = std::min(packetSize, size - offset);
+        d_.outbox.schedule(step * gapMs(), [this, start, length] {
+            const auto first = d_.flash.begin() + start;
+            return slipFrame(std::vector<uint8_t>(first, first + length));
+        });
+    }
+    d_.outbox.schedule(step * gapMs(), [this, address, size] {
+        return slipFrame(md5Digest(d_.flash.data() + address, size));
+    });
+}
+
+}  // namespace sim::detail
