@@ -1,5 +1,7 @@
 #include "sim/Framing.h"
 
+#include <algorithm>
+
 namespace sim::detail {
 
 std::vector<uint8_t> slipFrame(const std::vector<uint8_t>& payload) {
@@ -66,6 +68,30 @@ FrameReader::Event FrameReader::feed(uint8_t byte) {
     } else {
         payload_.push_back(byte);
     }
+    return Event::None;
+}
+
+FrameReader::Event FrameReader::feed(const uint8_t* data, size_t len, size_t& used) {
+    size_t i = 0;
+    while (i < len) {
+        if (inFrame_ && !escaped_) {
+            // Bulk copy of the plain run: a 16 KiB block is mostly such bytes.
+            const uint8_t* run = data + i;
+            const uint8_t* stop =
+                std::find_if(run, data + len, [](uint8_t b) { return b == kEnd || b == kEsc; });
+            payload_.insert(payload_.end(), run, stop);
+            i = static_cast<size_t>(stop - data);
+            if (i == len) {
+                break;
+            }
+        }
+        const Event event = feed(data[i++]);
+        if (event != Event::None) {
+            used = i;
+            return event;
+        }
+    }
+    used = len;
     return Event::None;
 }
 

@@ -33,6 +33,10 @@ class FrameReader {
 
     Event feed(uint8_t byte);
 
+    /// Feeds bytes from `data` until one completes an event other than None, or all
+    /// `len` are taken; `used` tells how many were taken (the event's byte included).
+    Event feed(const uint8_t* data, size_t len, size_t& used);
+
     /// The decoded payload of the frame that just ended.
     const std::vector<uint8_t>& payload() const { return payload_; }
 

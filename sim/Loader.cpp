@@ -74,24 +74,22 @@ void Loader::restartRom() {
 }
 
 size_t Loader::consume(const uint8_t* data, size_t len) {
-    for (size_t i = 0; i < len; ++i) {
-        switch (reader_.feed(data[i])) {
-            case FrameReader::Event::Stray:
-                // Without modem lines the only sign of the reset after FLASH_END is
-                // the host talking to the firmware's console.
-                if (d_.flashEnded) {
-                    d_.mode = Mode::Console;
-                    return i;
-                }
-                break;
-            case FrameReader::Event::Frame:
-                handle(reader_.payload());
-                if (d_.mode != Mode::RomLoader && d_.mode != Mode::Stub) {
-                    return i + 1;
-                }
-                break;
-            case FrameReader::Event::None:
-                break;
+    size_t pos = 0;
+    while (pos < len) {
+        size_t used = 0;
+        const FrameReader::Event event = reader_.feed(data + pos, len - pos, used);
+        pos += used;
+        if (event == FrameReader::Event::Stray && d_.flashEnded) {
+            // Without modem lines the only sign of the reset after FLASH_END is the
+            // host talking to the firmware's console, which gets this byte too.
+            d_.mode = Mode::Console;
+            return pos - 1;
+        }
+        if (event == FrameReader::Event::Frame) {
+            handle(reader_.payload());
+            if (d_.mode != Mode::RomLoader && d_.mode != Mode::Stub) {
+                return pos;
+            }
         }
     }
     return len;

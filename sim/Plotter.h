@@ -45,7 +45,7 @@ class Plotter {
     std::vector<uint8_t> onIdle(int timeoutMs);
 
     /// Opens `port` as a loopback bound to this plotter (handler and idle source).
-    /// The plotter must outlive the port's use and must not move meanwhile.
+    /// The plotter (moved or not) must outlive the port's use.
     void connectLoopback(SerialPort& port);
 
     /// When the next scheduled output is due (monotonic ns), if any is pending.
