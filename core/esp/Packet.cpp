@@ -1,6 +1,7 @@
 #include "Packet.h"
 
 #include <cstdio>
+#include <cstring>
 
 namespace esp {
 
@@ -28,9 +29,20 @@ uint16_t readLE16(const std::vector<uint8_t>& v, size_t offset) {
 }
 
 uint8_t calculateChecksum(const std::vector<uint8_t>& block) {
+    // Exclusive-or works lane by lane, so whole words are folded first.
+    uint64_t lanes = 0;
+    size_t i = 0;
+    for (; i + 8 <= block.size(); i += 8) {
+        uint64_t word = 0;
+        std::memcpy(&word, block.data() + i, sizeof word);
+        lanes ^= word;
+    }
     uint8_t sum = 0xEF;
-    for (const uint8_t byte : block) {
-        sum ^= byte;
+    for (int shift = 0; shift < 64; shift += 8) {
+        sum ^= static_cast<uint8_t>(lanes >> shift);
+    }
+    for (; i < block.size(); ++i) {
+        sum ^= block[i];
     }
     return sum;
 }

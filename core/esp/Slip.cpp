@@ -1,10 +1,35 @@
 #include "Slip.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace slip {
 
 namespace {
+
+// Firmware images are megabytes with a byte to escape only every hundred or so, so
+// plain runs are found a word at a time and copied whole.
+bool hasByte(uint64_t word, uint8_t byte) {
+    constexpr uint64_t kOnes = 0x0101010101010101;
+    constexpr uint64_t kHighs = 0x8080808080808080;
+    const uint64_t x = word ^ (kOnes * byte);
+    return ((x - kOnes) & ~x & kHighs) != 0;
+}
+
+const uint8_t* findSpecial(const uint8_t* p, const uint8_t* last) {
+    uint64_t word = 0;
+    while (last - p >= 8) {
+        std::memcpy(&word, p, sizeof word);
+        if (hasByte(word, END) || hasByte(word, ESC)) {
+            break;
+        }
+        p += 8;
+    }
+    while (p < last && *p != END && *p != ESC) {
+        ++p;
+    }
+    return p;
+}
 
 // Unescapes the bytes strictly between two END bytes; no value for a bad escape.
 std::optional<std::vector<uint8_t>> unescape(const uint8_t* begin, const uint8_t* end) {
@@ -35,16 +60,17 @@ std::vector<uint8_t> encode(const std::vector<uint8_t>& payload) {
     std::vector<uint8_t> frame;
     frame.reserve(payload.size() + 2);
     frame.push_back(END);
-    for (const uint8_t byte : payload) {
-        if (byte == END) {
-            frame.push_back(ESC);
-            frame.push_back(ESC_END);
-        } else if (byte == ESC) {
-            frame.push_back(ESC);
-            frame.push_back(ESC_ESC);
-        } else {
-            frame.push_back(byte);
+    const uint8_t* p = payload.data();
+    const uint8_t* const last = p + payload.size();
+    while (p < last) {
+        const uint8_t* special = findSpecial(p, last);
+        frame.insert(frame.end(), p, special);
+        if (special == last) {
+            break;
         }
+        frame.push_back(ESC);
+        frame.push_back(*special == END ? ESC_END : ESC_ESC);
+        p = special + 1;
     }
     frame.push_back(END);
     return frame;

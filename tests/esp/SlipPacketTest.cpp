@@ -57,6 +57,13 @@ TEST(Packet, BuildsRequests) {
     EXPECT_EQ(esp::readLE16(esp::buildCommandPacket(0x03, Bytes(300), 0), 2), 300);
     EXPECT_EQ(esp::calculateChecksum({0x01, 0x02, 0x03}), 0xEF ^ 0x01 ^ 0x02 ^ 0x03);
     EXPECT_EQ(esp::calculateChecksum({}), 0xEF);
+    Bytes block(16387);
+    uint8_t folded = 0xEF;
+    for (size_t i = 0; i < block.size(); ++i) {
+        block[i] = static_cast<uint8_t>(i * 31 + i / 253);
+        folded ^= block[i];
+    }
+    EXPECT_EQ(esp::calculateChecksum(block), folded);
     Bytes sync{0x07, 0x07, 0x12, 0x20};
     sync.resize(36, 0x55);
     EXPECT_EQ(esp::buildSyncPayload(), sync);
