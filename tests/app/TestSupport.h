@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QString>
 #include <QTest>
+#include <optional>
 
 #include "app/UpdateState.h"
 
