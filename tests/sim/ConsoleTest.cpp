@@ -67,6 +67,7 @@ TEST(SimConsole, CrcSelfCheck) {
 
 struct VersionCase {
     const char* name;
+    friend void PrintTo(const VersionCase& c, std::ostream* os) { *os << c.name; }
     std::function<void(sim::Config&)> setup;
     std::string reply;
 };
@@ -151,6 +152,7 @@ TEST(SimXModem, ChecksumModeRefusesABadBlockAndTakesItsRepeat) {
 
 struct XModemFault {
     const char* name;
+    friend void PrintTo(const XModemFault& c, std::ostream* os) { *os << c.name; }
     std::function<void(sim::Config&)> setup;
     std::vector<Bytes> answers;  // to block 1, block 2 three times, EOT, as far as listed
     bool stored;

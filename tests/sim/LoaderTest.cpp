@@ -142,6 +142,7 @@ TEST(SimLoader, WritesPaddedBlocksErasesWholeSectorsAndDigestsTheRegion) {
 
 struct Rejection {
     const char* name;
+    friend void PrintTo(const Rejection& c, std::ostream* os) { *os << c.name; }
     uint32_t seq;
     int lengthSkew;
     uint32_t checksumFlip;
@@ -216,7 +217,9 @@ TEST(SimLoader, WrongMd5AndLineLossFollowTheirCounts) {
 }
 
 struct FaultCase {
+    const char* name;
     sim::FaultKind kind;
+    friend void PrintTo(const FaultCase& c, std::ostream* os) { *os << c.name; }
     std::function<void(const Bytes& reply, Chip& chip)> check;
 };
 
@@ -238,36 +241,37 @@ const Bytes kAttachOk{0xC0, 0x01, kSpiAttach, 0x02, 0x00, 0, 0, 0, 0, 0x00, 0x00
 
 INSTANTIATE_TEST_SUITE_P(
     Kinds, SimResponseFault,
-    ::testing::Values(FaultCase{sim::FaultKind::Drop,
+    ::testing::Values(FaultCase{"Drop", sim::FaultKind::Drop,
                                 [](const Bytes& reply, Chip& chip) {
                                     EXPECT_TRUE(reply.empty());
                                     EXPECT_TRUE(chip.idle().empty());
                                 }},
-                      FaultCase{sim::FaultKind::Duplicate,
+                      FaultCase{"Duplicate", sim::FaultKind::Duplicate,
                                 [](const Bytes& reply, Chip& chip) {
                                     EXPECT_EQ(reply, kAttachOk);
                                     EXPECT_EQ(chip.idle(), kAttachOk);
                                 }},
-                      FaultCase{sim::FaultKind::Corrupt,
+                      FaultCase{"Corrupt", sim::FaultKind::Corrupt,
                                 [](const Bytes& reply, Chip&) {
                                     EXPECT_EQ(wire::frames(reply),
                                               (std::vector<std::optional<Bytes>>{std::nullopt}));
                                 }},
-                      FaultCase{sim::FaultKind::Truncate,
+                      FaultCase{"Truncate", sim::FaultKind::Truncate,
                                 [](const Bytes& reply, Chip&) {
                                     EXPECT_FALSE(reply.empty());
                                     EXPECT_TRUE(wire::frames(reply).empty());
                                 }},
-                      FaultCase{sim::FaultKind::GarbageBefore,
+                      FaultCase{"GarbageBefore", sim::FaultKind::GarbageBefore,
                                 [](const Bytes& reply, Chip&) {
                                     EXPECT_NE(reply.front(), 0xC0);
                                     EXPECT_EQ(wire::only(reply, 2).op, kSpiAttach);
                                 }},
-                      FaultCase{sim::FaultKind::WrongOpcode,
+                      FaultCase{"WrongOpcode", sim::FaultKind::WrongOpcode,
                                 [](const Bytes& reply, Chip&) {
                                     EXPECT_NE(wire::only(reply, 2).op, kSpiAttach);
                                 }},
-                      FaultCase{sim::FaultKind::ErrorStatus, [](const Bytes& reply, Chip&) {
+                      FaultCase{"ErrorStatus", sim::FaultKind::ErrorStatus,
+                                [](const Bytes& reply, Chip&) {
                                     const auto r = wire::only(reply, 2);
                                     EXPECT_EQ(r.status, 1);
                                     EXPECT_EQ(r.error, 0x09);
