@@ -89,15 +89,6 @@ TEST_F(DeviceJobsTest, QueryVersionTellsAnEmptyVersionFromNone) {
     EXPECT_EQ(esp::runQueryVersionJob(other), std::nullopt);
 }
 
-std::vector<uint8_t> partitionTable(uint8_t appType) {
-    std::vector<uint8_t> table(3072, 0xFF);
-    const uint8_t nvs[] = {0xAA, 0x50, 1, 2, 0x00, 0x90, 0, 0, 0x00, 0x50, 0, 0};
-    const uint8_t app[] = {0xAA, 0x50, appType, 0, 0x00, 0x00, 1, 0, 0x00, 0x00, 0x10, 0};
-    std::copy(std::begin(nvs), std::end(nvs), table.begin());
-    std::copy(std::begin(app), std::end(app), table.begin() + 32);
-    return table;
-}
-
 struct ProbeCase {
     const char* name;
     std::function<void(sim::Plotter&)> setup;

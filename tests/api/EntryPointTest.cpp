@@ -24,12 +24,12 @@ class EntryPointTest : public ::testing::Test {
 
     const std::vector<uint8_t> firmware = pattern(70000, 1);
     const std::vector<uint8_t> bootloader = pattern(20000, 2);
-    const std::vector<uint8_t> partitions = pattern(3072, 3);
+    const std::vector<uint8_t> partitions = partitionTable(0);
     const std::vector<uint8_t> bootApp = pattern(8192, 4);
     const std::vector<uint8_t> stub = stubImage();
 };
 
-TEST_F(EntryPointTest, FullFlashOverAPseudoTerminal) {
+TEST_F(EntryPointTest, FullFlashThenQueriesOverAPseudoTerminal) {
     sim::Config config;
     config.versionReport = "2.10.6 (sim)";
     sim::PtyPlotter device(config);
@@ -62,6 +62,13 @@ TEST_F(EntryPointTest, FullFlashOverAPseudoTerminal) {
         EXPECT_TRUE(std::equal(firmware.begin(), firmware.end(), flash.begin() + 0x10000));
         EXPECT_TRUE(std::equal(bootApp.begin(), bootApp.end(), flash.begin() + 0xE000));
     });
+
+    char* version = esp_query_version(device.path().c_str());
+    ASSERT_NE(version, nullptr);
+    EXPECT_STREQ(version, "2.10.6 (sim)");
+    std::free(version);
+    EXPECT_EQ(esp_probe_partition_table(device.path().c_str(), stub.data(), stub.size()), 1);
+    EXPECT_EQ(openDescriptors(), descriptors);
 }
 
 TEST_F(EntryPointTest, ConfigurationUploadOverAPseudoTerminal) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -50,6 +52,17 @@ inline std::vector<uint8_t> stubImage() {
     const auto body = pattern(120, 0x5A);
     image.insert(image.end(), body.begin(), body.end());
     return image;
+}
+
+/// A 3072-byte table: an NVS data entry at 0x9000, then an entry of `appType` at
+/// 0x10000, then erased flash.
+inline std::vector<uint8_t> partitionTable(uint8_t appType) {
+    std::vector<uint8_t> table(3072, 0xFF);
+    const uint8_t nvs[] = {0xAA, 0x50, 1, 2, 0x00, 0x90, 0, 0, 0x00, 0x50, 0, 0};
+    const uint8_t app[] = {0xAA, 0x50, appType, 0, 0x00, 0x00, 1, 0, 0x00, 0x00, 0x10, 0};
+    std::copy(std::begin(nvs), std::end(nvs), table.begin());
+    std::copy(std::begin(app), std::end(app), table.begin() + 32);
+    return table;
 }
 
 /// The loader's and the job's lines from the start of the job body up to a
