@@ -30,8 +30,8 @@ esp_error_t runUploadConfigJob(SerialPort& port, const uint8_t* data, size_t len
                                esp_progress_cb progress) {
     mono::sleepMs(kSettleMs);
     port.flush();
-    // The query wakes the console and makes it finish whatever it was printing;
-    // its answer is of no use here and is thrown away with the rest.
+    // One answered command first, so that the console sits idle at its prompt when
+    // the receive command comes; the answer itself is not needed.
     fluidnc::queryVersion(port, kVersionQueryMs);
     port.flush();
     if (!fluidnc::uploadConfig(port, data, length, progress, kHandshakeMs)) {
