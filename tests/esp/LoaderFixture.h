@@ -28,7 +28,7 @@ class LoaderTest : public ::testing::Test {
   protected:
     void SetUp() override {
         port.openLoopback([this](const uint8_t* d, size_t n) { return onWrite(Bytes(d, d + n)); },
-                          [this](int) { return nextPiece(); },
+                          [this](int) { return pieces.empty() ? Bytes{} : takePiece(); },
                           [this](SerialPort::Line l, bool level) {
                               lineCalls.push_back({l, level});
                           });
@@ -67,7 +67,6 @@ class LoaderTest : public ::testing::Test {
     std::function<Bytes(const Request&)> reply = [](const Request&) { return Bytes{}; };
     std::vector<Request> sent;
     std::deque<Bytes> pieces;
-    int idleCalls = 0;
     std::vector<std::pair<SerialPort::Line, bool>> lineCalls;
 
   private:
@@ -83,13 +82,9 @@ class LoaderTest : public ::testing::Test {
         return reply(sent.back());
     }
 
-    Bytes nextPiece() {
-        ++idleCalls;
-        Bytes piece;
-        if (!pieces.empty()) {
-            piece = std::move(pieces.front());
-            pieces.pop_front();
-        }
+    Bytes takePiece() {
+        Bytes piece = std::move(pieces.front());
+        pieces.pop_front();
         return piece;
     }
 };
