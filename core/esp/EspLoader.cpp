@@ -96,24 +96,25 @@ CommandResult EspLoader::sendCommand(uint8_t op, const std::vector<uint8_t>& pay
 }
 
 bool EspLoader::enterBootloader() {
-    // Each step sets the two lines in this order: the auto-reset circuit sees the
-    // short-lived combination between the calls, so the order is part of the sequence.
-    struct Step {
-        bool firstIsRts;
-        bool first;
-        bool second;
+    using Line = SerialPort::Line;
+    struct Level {
+        Line line;
+        bool asserted;
     };
-    static constexpr Step kSteps[] = {
-        {true, false, false}, {false, true, false}, {true, true, false},
-        {true, true, true},   {true, false, false},
+    // The auto-reset circuit also sees the short-lived combination between the two
+    // calls of a step, so their order is part of the sequence.
+    static constexpr Level kSteps[][2] = {
+        {{Line::RTS, false}, {Line::DTR, false}}, {{Line::DTR, true}, {Line::RTS, false}},
+        {{Line::RTS, true}, {Line::DTR, false}},  {{Line::RTS, true}, {Line::DTR, true}},
+        {{Line::RTS, false}, {Line::DTR, false}},
     };
-    for (const Step& step : kSteps) {
-        if (step.firstIsRts) {
-            port_.setRTS(step.first);
-            port_.setDTR(step.second);
-        } else {
-            port_.setDTR(step.first);
-            port_.setRTS(step.second);
+    for (const auto& step : kSteps) {
+        for (const Level& level : step) {
+            if (level.line == Line::DTR) {
+                port_.setDTR(level.asserted);
+            } else {
+                port_.setRTS(level.asserted);
+            }
         }
         mono::sleepMs(kLineHoldMs);
     }
