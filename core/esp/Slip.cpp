@@ -16,7 +16,7 @@ bool hasByte(uint64_t word, uint8_t byte) {
     return ((x - kOnes) & ~x & kHighs) != 0;
 }
 
-const uint8_t* findSpecial(const uint8_t* p, const uint8_t* last) {
+const uint8_t* findEscapable(const uint8_t* p, const uint8_t* last) {
     uint64_t word = 0;
     while (last - p >= 8) {
         std::memcpy(&word, p, sizeof word);
@@ -63,14 +63,14 @@ std::vector<uint8_t> encode(const std::vector<uint8_t>& payload) {
     const uint8_t* p = payload.data();
     const uint8_t* const last = p + payload.size();
     while (p < last) {
-        const uint8_t* special = findSpecial(p, last);
-        frame.insert(frame.end(), p, special);
-        if (special == last) {
+        const uint8_t* escapable = findEscapable(p, last);
+        frame.insert(frame.end(), p, escapable);
+        if (escapable == last) {
             break;
         }
         frame.push_back(ESC);
-        frame.push_back(*special == END ? ESC_END : ESC_ESC);
-        p = special + 1;
+        frame.push_back(*escapable == END ? ESC_END : ESC_ESC);
+        p = escapable + 1;
     }
     frame.push_back(END);
     return frame;
