@@ -16,14 +16,45 @@ struct UsbIds {
     unsigned long product = 0;
 };
 
-// Folds "." and ".." of `relative` onto `base` by text. Every link in sysfs is
-// relative and runs along real folders, so this gives the folder the kernel would
-// reach, for the price of no system call.
+// The sysfs root held open, so that every lookup below walks only the path
+// inside the tree. Paths inside it are written "/class/tty/..." here.
+class SysfsRoot {
+  public:
+    explicit SysfsRoot(const std::string& path)
+        : fd_(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {}
+    ~SysfsRoot() {
+        if (fd_ >= 0) {
+            ::close(fd_);
+        }
+    }
+    SysfsRoot(const SysfsRoot&) = delete;
+    SysfsRoot& operator=(const SysfsRoot&) = delete;
+
+    bool isOpen() const { return fd_ >= 0; }
+
+    int open(const std::string& inside, int flags) const {
+        return ::openat(fd_, inside.c_str() + 1, flags | O_CLOEXEC);
+    }
+
+    // Sysfs links are relative; an absolute one would lead out of the tree.
+    std::optional<std::string> readLink(const std::string& inside) const {
+        char target[4096];
+        const ssize_t len = ::readlinkat(fd_, inside.c_str() + 1, target, sizeof target);
+        if (len <= 0 || static_cast<size_t>(len) == sizeof target || target[0] == '/') {
+            return std::nullopt;
+        }
+        return std::string(target, static_cast<size_t>(len));
+    }
+
+  private:
+    int fd_;
+};
+
+// Folds "." and ".." of a relative link target onto `base` by text. Every link in
+// sysfs runs along real folders, so this gives the folder the kernel would reach,
+// for the price of no system call.
 std::string joinLexically(std::string_view base, std::string_view relative) {
     std::string out(base);
-    if (!relative.empty() && relative.front() == '/') {
-        out.clear();
-    }
     while (!relative.empty()) {
         const auto slash = relative.find('/');
         const auto part = relative.substr(0, slash);
@@ -42,24 +73,10 @@ std::string joinLexically(std::string_view base, std::string_view relative) {
     return out;
 }
 
-bool isBelow(const std::string& path, const std::string& root) {
-    return path.size() > root.size() && path.compare(0, root.size(), root) == 0 &&
-           path[root.size()] == '/';
-}
-
-std::optional<std::string> readLink(const std::string& path) {
-    char target[4096];
-    const ssize_t len = ::readlink(path.c_str(), target, sizeof target);
-    if (len <= 0 || static_cast<size_t>(len) == sizeof target) {
-        return std::nullopt;
-    }
-    return std::string(target, static_cast<size_t>(len));
-}
-
 // A missing file means the folder lacks that id; a present one that cannot be
 // read or parsed counts as the id 0, like an unconvertible registry number.
-std::optional<unsigned long> readHexFile(const std::string& path) {
-    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+std::optional<unsigned long> readHexFile(const SysfsRoot& root, const std::string& inside) {
+    const int fd = root.open(inside, O_RDONLY);
     if (fd < 0) {
         return std::nullopt;
     }
@@ -71,10 +88,10 @@ std::optional<unsigned long> readHexFile(const std::string& path) {
 
 // Only the nearest folder carrying both ids decides, as interface folders between
 // the tty and its USB device carry neither and hubs further up carry their own.
-std::optional<UsbIds> nearestUsbIds(std::string folder, const std::string& root) {
-    while (isBelow(folder, root)) {
-        if (const auto vendor = readHexFile(folder + "/idVendor")) {
-            if (const auto product = readHexFile(folder + "/idProduct")) {
+std::optional<UsbIds> nearestUsbIds(const SysfsRoot& root, std::string folder) {
+    while (!folder.empty()) {
+        if (const auto vendor = readHexFile(root, folder + "/idVendor")) {
+            if (const auto product = readHexFile(root, folder + "/idProduct")) {
                 return UsbIds{*vendor, *product};
             }
         }
@@ -85,24 +102,27 @@ std::optional<UsbIds> nearestUsbIds(std::string folder, const std::string& root)
 
 // The physical folder of the device behind class/tty/<name>, or none when the
 // entry has no device link (virtual consoles, pseudo-terminals).
-std::optional<std::string> deviceFolder(const std::string& root, const std::string& name) {
-    const std::string classFolder = root + "/class/tty";
-    const std::string entry = classFolder + "/" + name;
-    const auto deviceLink = readLink(entry + "/device");
+std::optional<std::string> deviceFolder(const SysfsRoot& root, const std::string& name) {
+    const std::string entry = "/class/tty/" + name;
+    const auto deviceLink = root.readLink(entry + "/device");
     if (!deviceLink) {
         return std::nullopt;
     }
-    const auto entryLink = readLink(entry);
-    const std::string entryFolder = entryLink ? joinLexically(classFolder, *entryLink) : entry;
+    const auto entryLink = root.readLink(entry);
+    const std::string entryFolder = entryLink ? joinLexically("/class/tty", *entryLink) : entry;
     return joinLexically(entryFolder, *deviceLink);
 }
 
 // The kernel lists a sysfs folder in hash order; sorting by name gives callers a
 // stable order in which ttyACM0 comes before ttyACM1.
-std::vector<std::string> sortedEntries(const std::string& folder) {
+std::vector<std::string> sortedEntries(const SysfsRoot& root, const std::string& inside) {
     std::vector<std::string> names;
-    DIR* dir = ::opendir(folder.c_str());
+    const int fd = root.open(inside, O_RDONLY | O_DIRECTORY);
+    DIR* dir = fd >= 0 ? ::fdopendir(fd) : nullptr;
     if (dir == nullptr) {
+        if (fd >= 0) {
+            ::close(fd);
+        }
         return names;
     }
     while (const dirent* entry = ::readdir(dir)) {
@@ -128,16 +148,16 @@ std::vector<ESPPortInfo> listESPPorts(unsigned short vendorId, unsigned short pr
 std::vector<ESPPortInfo> listESPPorts(unsigned short vendorId, unsigned short productId,
                                       const std::string& sysfsRoot, const std::string& devRoot) {
     std::vector<ESPPortInfo> ports;
-    std::string root = sysfsRoot;
-    while (!root.empty() && root.back() == '/') {
-        root.pop_back();
+    const SysfsRoot root(sysfsRoot);
+    if (!root.isOpen()) {
+        return ports;
     }
-    for (const auto& name : sortedEntries(root + "/class/tty")) {
+    for (const auto& name : sortedEntries(root, "/class/tty")) {
         const auto folder = deviceFolder(root, name);
         if (!folder) {
             continue;
         }
-        const auto ids = nearestUsbIds(*folder, root);
+        const auto ids = nearestUsbIds(root, *folder);
         if (!ids || !matches(*ids, vendorId, productId)) {
             continue;
         }
