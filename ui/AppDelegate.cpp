@@ -1,0 +1,120 @@
+#include "ui/AppDelegate.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLayout>
+#include <QMainWindow>
+#include <QScreen>
+#include <QUrl>
+
+#include "app/UpdateController.h"
+#include "ui/AboutWindow.h"
+#include "ui/UpdaterView.h"
+
+namespace {
+
+void centreOnScreen(QWidget* window) {
+    const QScreen* screen = window->screen();
+    if (screen == nullptr) {
+        return;
+    }
+    QRect frame = window->frameGeometry();
+    frame.moveCenter(screen->availableGeometry().center());
+    window->move(frame.topLeft());
+}
+
+void bringToFront(QWidget* window) {
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+}  // namespace
+
+AppDelegate::AppDelegate() : AppDelegate(std::make_unique<UpdateController>(), Options()) {}
+
+AppDelegate::AppDelegate(std::unique_ptr<UpdateController> controller, Options options)
+    : m_options(std::move(options)), m_updateController(std::move(controller)) {}
+
+AppDelegate::~AppDelegate() {
+    // The view and the About window go before the controller they observe.
+    m_window.reset();
+    m_aboutWindow.reset();
+}
+
+void AppDelegate::applicationDidFinishLaunching() {
+    QApplication::setQuitOnLastWindowClosed(true);
+    m_window = std::make_unique<QMainWindow>();
+    m_window->setWindowTitle(QStringLiteral("Teskal Firmware Updater"));
+    m_window->setCentralWidget(new UpdaterView(*m_updateController));
+    m_window->layout()->setSizeConstraint(QLayout::SetFixedSize);
+    setupMenus();
+    m_window->adjustSize();
+    centreOnScreen(m_window.get());
+    bringToFront(m_window.get());
+}
+
+void AppDelegate::showAbout() {
+    if (m_aboutWindow) {
+        bringToFront(m_aboutWindow.get());
+        return;
+    }
+    const QPixmap icon = QApplication::windowIcon().pixmap(QSize(64, 64));
+    m_aboutWindow =
+        std::make_unique<AboutWindow>(m_options.products, BuildConfig::buildDate(), icon);
+    centreOnScreen(m_aboutWindow.get());
+    m_escapeCloser = new EscapeCloser(m_aboutWindow.get(), this);
+    qApp->installEventFilter(m_escapeCloser);
+    bringToFront(m_aboutWindow.get());
+}
+
+void AppDelegate::openFirmwareFile() {
+    const auto path = m_options.chooseFile(
+        m_window.get(),
+        {QStringLiteral("Select a firmware binary (.bin)"), {QStringLiteral("bin")}});
+    if (path) {
+        m_updateController->chooseCustomFirmware(path);
+    }
+}
+
+void AppDelegate::useBundledFirmware() {
+    m_updateController->setCustomFirmwareURL(QUrl());
+    m_updateController->log(QStringLiteral("Using bundled firmware"));
+}
+
+void AppDelegate::toggleDetailedLogging(QAction* item) {
+    const bool enabled = !m_updateController->detailedLogging();
+    m_updateController->setDetailedLogging(enabled);
+    item->setChecked(enabled);
+}
+
+void AppDelegate::toggleWriteBootPartitions(QAction* item) {
+    const bool enabled = !m_updateController->writeBootPartitionsEnabled();
+    m_updateController->setWriteBootPartitionsEnabled(enabled);
+    item->setChecked(enabled);
+}
+
+void AppDelegate::toggleEraseAllFlash(QAction* item) {
+    const bool enabled = !m_updateController->eraseAllFlashEnabled();
+    m_updateController->setEraseAllFlashEnabled(enabled);
+    item->setChecked(enabled);
+}
+
+void AppDelegate::uploadConfigAction(QAction* item) {
+    bool isNumber = false;
+    const int index = item->data().toInt(&isNumber);
+    if (!isNumber || index < 0 || index >= m_options.products.size()) {
+        return;
+    }
+    const ProductConfig& product = m_options.products[index];
+    m_updateController->uploadConfig(product.configFile, product.name);
+}
+
+void AppDelegate::uploadConfigFromDisk() {
+    const auto path =
+        m_options.chooseFile(m_window.get(), {QStringLiteral("Select a configuration file (.yaml)"),
+                                              {QStringLiteral("yaml"), QStringLiteral("yml")}});
+    if (path) {
+        m_updateController->uploadConfigFromFile(*path);
+    }
+}

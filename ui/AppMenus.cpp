@@ -1,0 +1,91 @@
+#include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "app/UpdateController.h"
+#include "ui/AppDelegate.h"
+
+namespace {
+
+// The main window's menu bar is the only one on Linux, so its key equivalents must
+// also work while the About window is the active window.
+void setKey(QAction* action, const QKeySequence& key) {
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::ApplicationShortcut);
+}
+
+}  // namespace
+
+void AppDelegate::setupMenus() {
+    auto* bar = new QMenuBar(m_window.get());
+    m_window->setMenuBar(bar);
+    addApplicationMenu();
+    addFileMenu();
+    addOptionsMenu();
+    addConfigMenu();
+}
+
+QMenu* AppDelegate::addApplicationMenu() {
+    // macOS moves the two items into its application menu by their roles; elsewhere
+    // this menu stands in for it.
+    QMenu* menu = m_window->menuBar()->addMenu(QStringLiteral("Teskal Firmware Updater"));
+    QAction* about = menu->addAction(QStringLiteral("About Teskal Firmware Updater"), this,
+                                     &AppDelegate::showAbout);
+    about->setMenuRole(QAction::AboutRole);
+    menu->addSeparator();
+    QAction* quit = menu->addAction(QStringLiteral("Quit"), qApp, &QCoreApplication::quit);
+    quit->setMenuRole(QAction::QuitRole);
+    setKey(quit, QKeySequence(Qt::CTRL | Qt::Key_Q));
+    return menu;
+}
+
+QMenu* AppDelegate::addFileMenu() {
+    QMenu* menu = m_window->menuBar()->addMenu(QStringLiteral("File"));
+    QAction* open = menu->addAction(QStringLiteral("Open Firmware File\u2026"), this,
+                                    &AppDelegate::openFirmwareFile);
+    setKey(open, QKeySequence(Qt::CTRL | Qt::Key_O));
+    menu->addAction(QStringLiteral("Use Bundled Firmware"), this, &AppDelegate::useBundledFirmware);
+    return menu;
+}
+
+QMenu* AppDelegate::addOptionsMenu() {
+    QMenu* menu = m_window->menuBar()->addMenu(QStringLiteral("Options"));
+    addToggle(menu, QStringLiteral("Detailed Logging"), m_updateController->detailedLogging(),
+              &AppDelegate::toggleDetailedLogging);
+    menu->addSeparator();
+    addToggle(menu, QStringLiteral("Write Boot Partitions"),
+              m_updateController->writeBootPartitionsEnabled(),
+              &AppDelegate::toggleWriteBootPartitions);
+    addToggle(menu, QStringLiteral("Erase All Flash"), m_updateController->eraseAllFlashEnabled(),
+              &AppDelegate::toggleEraseAllFlash);
+    return menu;
+}
+
+QAction* AppDelegate::addToggle(QMenu* menu, const QString& title, bool checked,
+                                void (AppDelegate::*toggle)(QAction*)) {
+    QAction* item = menu->addAction(title);
+    item->setCheckable(true);
+    item->setChecked(checked);
+    connect(item, &QAction::triggered, this, [this, item, toggle] { (this->*toggle)(item); });
+    return item;
+}
+
+QMenu* AppDelegate::addConfigMenu() {
+    QMenu* menu = m_window->menuBar()->addMenu(QStringLiteral("Config"));
+    if (m_options.products.isEmpty()) {
+        menu->addAction(QStringLiteral("No products configured"))->setEnabled(false);
+    } else {
+        QMenu* products = menu->addMenu(QStringLiteral("Update Config"));
+        for (qsizetype index = 0; index < m_options.products.size(); ++index) {
+            QAction* item = products->addAction(m_options.products[index].name);
+            item->setData(static_cast<int>(index));
+            connect(item, &QAction::triggered, this, [this, item] { uploadConfigAction(item); });
+        }
+    }
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("Select from Disk..."), this,
+                    &AppDelegate::uploadConfigFromDisk);
+    return menu;
+}

@@ -1,0 +1,86 @@
+#include "ui/LogPanel.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QPainterPath>
+#include <QToolButton>
+
+#include "ui/Colors.h"
+#include "ui/LogView.h"
+
+namespace {
+
+constexpr int kPadding = 8;
+constexpr int kCopyRoom = 24;
+constexpr int kCornerRadius = 6;
+constexpr int kButtonPadding = 6;
+
+// Two overlapping pages, drawn here because no icon theme can be relied on.
+QIcon copyIcon(int size) {
+    const qreal scale = 2.0;
+    QPixmap pixmap(QSize(size, size) * scale);
+    pixmap.setDevicePixelRatio(scale);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPen pen(AppColors::secondaryText(), size / 12.0);
+    painter.setPen(pen);
+    const qreal page = size * 0.62;
+    const qreal corner = size / 10.0;
+    painter.drawRoundedRect(QRectF(size - page - 1, 1, page, page), corner, corner);
+    painter.setBrush(QGuiApplication::palette().color(QPalette::Base));
+    painter.drawRoundedRect(QRectF(1, size - page - 1, page, page), corner, corner);
+    return QIcon(pixmap);
+}
+
+}  // namespace
+
+LogPanel::LogPanel(QWidget* parent)
+    : QWidget(parent), m_view(new LogView(this)), m_copyButton(new QToolButton(this)) {
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(kPadding, kPadding, kPadding + kCopyRoom, kPadding);
+    layout->addWidget(m_view);
+
+    QFont font = m_copyButton->font();
+    font.setPointSizeF(12);
+    const int iconSize = QFontMetrics(font).height();
+    m_copyButton->setAutoRaise(true);
+    m_copyButton->setIcon(copyIcon(iconSize));
+    m_copyButton->setIconSize(QSize(iconSize, iconSize));
+    m_copyButton->setFixedSize(iconSize + 2 * kButtonPadding, iconSize + 2 * kButtonPadding);
+    m_copyButton->setToolTip(QStringLiteral("Copy log to clipboard"));
+    m_copyButton->setCursor(Qt::PointingHandCursor);
+    m_copyButton->hide();
+    connect(m_copyButton, &QToolButton::clicked, this, &LogPanel::copyToClipboard);
+}
+
+void LogPanel::setLines(const QStringList& lines) {
+    m_view->setLines(lines);
+    m_copyButton->setVisible(!lines.isEmpty());
+    m_copyButton->raise();
+}
+
+void LogPanel::copyToClipboard() {
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    clipboard->clear();
+    clipboard->setText(m_view->lines().join(QLatin1Char('\n')));
+}
+
+void LogPanel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPainterPath field;
+    field.addRoundedRect(QRectF(rect()), kCornerRadius, kCornerRadius);
+    painter.fillPath(field, palette().color(QPalette::Base));
+}
+
+void LogPanel::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    placeCopyButton();
+}
+
+void LogPanel::placeCopyButton() {
+    m_copyButton->move(width() - m_copyButton->width(), 0);
+}

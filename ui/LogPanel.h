@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+class LogView;
+class QToolButton;
+
+/// The log area of the main window: the scrolling lines on a rounded field of the
+/// text background colour, and, while there are lines, a copy button in the
+/// top-right corner. GUI thread only.
+class LogPanel : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit LogPanel(QWidget* parent = nullptr);
+
+    /// Shows `lines` (see `LogView::setLines`) and the copy button while there are any.
+    void setLines(const QStringList& lines);
+
+    LogView* view() const { return m_view; }
+    QToolButton* copyButton() const { return m_copyButton; }
+
+  public slots:
+    /// Replaces the clipboard's content with the lines joined by "\n" (no newline
+    /// after the last).
+    void copyToClipboard();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void placeCopyButton();
+
+    LogView* m_view;
+    QToolButton* m_copyButton;
+};

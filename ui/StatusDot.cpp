@@ -1,0 +1,20 @@
+#include "ui/StatusDot.h"
+
+#include <QPainter>
+
+StatusDot::StatusDot(QWidget* parent) : QWidget(parent) {
+    setFixedSize(10, 10);
+}
+
+void StatusDot::setColor(const QColor& color) {
+    m_color = color;
+    update();
+}
+
+void StatusDot::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_color);
+    painter.drawEllipse(QRectF(rect()));
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+/// A filled circle 10 pt across that shows whether a device is connected.
+class StatusDot : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit StatusDot(QWidget* parent = nullptr);
+
+    void setColor(const QColor& color);
+    const QColor& color() const { return m_color; }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QColor m_color;
+};

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+#include <optional>
+
+#include "app/UpdateState.h"
+
+class LogPanel;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class StatusDot;
+class UpdateController;
+
+/// The main window's content, 480 x 420: connection and status, the firmware that
+/// will be written, progress, the "Update Firmware" button and the log.
+///
+/// It keeps nothing of its own: the `show...` functions redraw one part from a
+/// value, and the constructor connects them to the controller's and its device
+/// monitor's published properties. The controller must outlive the view.
+/// GUI thread only.
+class UpdaterView : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit UpdaterView(UpdateController& controller, QWidget* parent = nullptr);
+
+    /// Progress bar by state; the button's enabled rule uses it too.
+    void showState(const UpdateState& state);
+    /// Status dot, port path "(path)" when there is one, the button's enabled rule.
+    void showConnection(bool isConnected, const std::optional<QString>& portPath);
+    void showStatusMessage(const QString& message);
+    void showFirmwareLabel(const QString& label);
+    /// The log lines; see `LogView::setLines` for scrolling.
+    void showLog(const QStringList& lines);
+
+    StatusDot* statusDot() const { return m_dot; }
+    QLabel* statusLabel() const { return m_status; }
+    QLabel* portLabel() const { return m_port; }
+    QLabel* firmwareLabel() const { return m_firmware; }
+    QProgressBar* progressBar() const { return m_progress; }
+    QPushButton* updateButton() const { return m_button; }
+    LogPanel* logPanel() const { return m_log; }
+
+  private:
+    void buildLayout();
+    void connectTo(UpdateController& controller);
+    void updateButtonEnabled();
+
+    StatusDot* m_dot;
+    QLabel* m_status;
+    QLabel* m_port;
+    QLabel* m_firmware;
+    QProgressBar* m_progress;
+    QPushButton* m_button;
+    LogPanel* m_log;
+    bool m_isConnected = false;
+    UpdateState m_state;
+};
