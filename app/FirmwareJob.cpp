@@ -17,42 +17,43 @@ std::optional<QByteArray> readWhole(const QString& path, QString* failure) {
     return file.readAll();
 }
 
+struct BootImages {
+    QByteArray bootloader;
+    QByteArray partitions;
+    QByteArray bootApp;
+
+    bool complete() const {
+        return !bootloader.isEmpty() && !partitions.isEmpty() && !bootApp.isEmpty();
+    }
+};
+
+// A missing or unreadable boot image is handed on empty.
+BootImages loadBootImages(const ResourceBundle& resources) {
+    const auto load = [&](const char* name) {
+        return resources.read(QString::fromLatin1(name), QStringLiteral("bin")).value_or("");
+    };
+    return {load("bootloader"), load("partitions"), load("boot_app0")};
+}
+
 }  // namespace
 
 void UpdateController::performFlash(const QString& port) {
-    QByteArray firmware;
-    const QUrl custom = customFirmwareURL();
-    if (custom.isEmpty()) {
-        const auto shipped = m_resources.read(QStringLiteral("firmware"), QStringLiteral("bin"));
-        if (!shipped) {
-            logError(QStringLiteral("Bundled firmware not found"));
-            return;
-        }
-        firmware = *shipped;
-        log(QStringLiteral("Updating firmware v") + BuildConfig::firmwareVersion() + "…");
-    } else {
-        QString failure;
-        const auto chosen = readWhole(custom.toLocalFile(), &failure);
-        if (!chosen) {
-            logError(QStringLiteral("Failed to load custom firmware: ") + failure);
-            return;
-        }
-        firmware = *chosen;
-        log(QStringLiteral("Updating firmware (custom: ") + custom.fileName() + ")…");
+    const auto firmware = loadFirmwareImage();
+    if (!firmware) {
+        return;
     }
-
-    const bool fullFlash = decideFullFlash(port);
+    // One reading of the flag serves the whole job: erasing the chip and then
+    // writing only the application would leave it without a bootloader.
+    const bool eraseAll = m_eraseAllFlash;
+    const bool fullFlash = decideFullFlash(port, eraseAll);
 
     const auto stub = m_resources.read(QStringLiteral("esp32s3_stub"), QStringLiteral("bin"));
     if (!stub) {
         logError(QStringLiteral("Flash stub not found in bundle"));
         return;
     }
-    const auto bin = QStringLiteral("bin");
-    const QByteArray bootloader = m_resources.read(QStringLiteral("bootloader"), bin).value_or("");
-    const QByteArray partitions = m_resources.read(QStringLiteral("partitions"), bin).value_or("");
-    const QByteArray bootApp = m_resources.read(QStringLiteral("boot_app0"), bin).value_or("");
-    if (fullFlash && (bootloader.isEmpty() || partitions.isEmpty() || bootApp.isEmpty())) {
+    const BootImages boot = loadBootImages(m_resources);
+    if (fullFlash && !boot.complete()) {
         logError(QStringLiteral("Missing bootloader resources for full flash"));
         return;
     }
@@ -61,9 +62,8 @@ void UpdateController::performFlash(const QString& port) {
     const std::optional<QString> expectedVersion =
         customFirmwareURL().isEmpty() ? std::optional(BuildConfig::firmwareVersion())
                                       : std::nullopt;
-    const bool eraseAll = m_eraseAllFlash;
     const esp_error_t result = FlasherBridge::flashFirmware(
-        port, firmware, bootloader, partitions, bootApp, *stub, fullFlash, eraseAll,
+        port, *firmware, boot.bootloader, boot.partitions, boot.bootApp, *stub, fullFlash, eraseAll,
         expectedVersion, flashProgressHandler(), libraryLogHandler());
     if (result != 0) {
         logError(errorMessage(result));
@@ -79,8 +79,29 @@ void UpdateController::performFlash(const QString& port) {
     }
 }
 
-bool UpdateController::decideFullFlash(const QString& port) {
-    if (m_eraseAllFlash || m_writeBootPartitions) {
+std::optional<QByteArray> UpdateController::loadFirmwareImage() {
+    const QUrl custom = customFirmwareURL();
+    if (custom.isEmpty()) {
+        const auto shipped = m_resources.read(QStringLiteral("firmware"), QStringLiteral("bin"));
+        if (!shipped) {
+            logError(QStringLiteral("Bundled firmware not found"));
+            return std::nullopt;
+        }
+        log(QStringLiteral("Updating firmware v") + BuildConfig::firmwareVersion() + "…");
+        return shipped;
+    }
+    QString failure;
+    const auto chosen = readWhole(custom.toLocalFile(), &failure);
+    if (!chosen) {
+        logError(QStringLiteral("Failed to load custom firmware: ") + failure);
+        return std::nullopt;
+    }
+    log(QStringLiteral("Updating firmware (custom: ") + custom.fileName() + ")…");
+    return chosen;
+}
+
+bool UpdateController::decideFullFlash(const QString& port, bool eraseAll) {
+    if (eraseAll || m_writeBootPartitions) {
         return true;
     }
     log(QStringLiteral("Checking device status…"));

@@ -55,12 +55,8 @@ void UpdateController::chooseCustomFirmware(const std::optional<QString>& path) 
 }
 
 void UpdateController::updateFirmware() {
-    const auto port = m_monitor->port();
+    const auto port = portForNewJob();
     if (!port) {
-        log(QStringLiteral("ERROR: No device connected"));
-        return;
-    }
-    if (refuseStart()) {
         return;
     }
     clearLog();
@@ -68,12 +64,8 @@ void UpdateController::updateFirmware() {
 }
 
 void UpdateController::uploadConfig(const QString& configFile, const QString& productName) {
-    const auto port = m_monitor->port();
+    const auto port = portForNewJob();
     if (!port) {
-        log(QStringLiteral("ERROR: No device connected"));
-        return;
-    }
-    if (refuseStart()) {
         return;
     }
     clearLog();
@@ -83,12 +75,8 @@ void UpdateController::uploadConfig(const QString& configFile, const QString& pr
 }
 
 void UpdateController::uploadConfigFromFile(const QString& path) {
-    const auto port = m_monitor->port();
+    const auto port = portForNewJob();
     if (!port) {
-        log(QStringLiteral("ERROR: No device connected"));
-        return;
-    }
-    if (refuseStart()) {
         return;
     }
     const QString fileName = QFileInfo(path).fileName();
@@ -105,12 +93,18 @@ void UpdateController::uploadConfigFromFile(const QString& path) {
     });
 }
 
-bool UpdateController::refuseStart() {
-    if (!m_jobRunning) {
-        return false;
+std::optional<QString> UpdateController::portForNewJob() {
+    const auto port = m_monitor->port();
+    if (!port) {
+        log(QStringLiteral("ERROR: No device connected"));
+        return std::nullopt;
     }
-    log(QStringLiteral("ERROR: Another operation is already running"));
-    return true;
+    // The bridge's handler slots serve one library call at a time.
+    if (m_jobRunning) {
+        log(QStringLiteral("ERROR: Another operation is already running"));
+        return std::nullopt;
+    }
+    return port;
 }
 
 void UpdateController::submit(std::function<void(UpdateController&)> job) {

@@ -91,6 +91,9 @@ class UpdateController : public QObject {
     static QString cleanFirmwareVersion(const QString& reply);
 
   public slots:
+    /// The three start operations refuse, with one "ERROR: " log line and no other
+    /// change, when no device is connected or a job is still running.
+    ///
     /// Starts a firmware update on the monitor's port.
     void updateFirmware();
     /// Starts an upload of a product's configuration from the resources.
@@ -111,11 +114,12 @@ class UpdateController : public QObject {
     static QString versionSuffix(const QByteArray& configData);
 
     void followConnection(bool connected);
-    bool refuseStart();
+    std::optional<QString> portForNewJob();
     void submit(std::function<void(UpdateController&)> job);
 
     void performFlash(const QString& port);
-    bool decideFullFlash(const QString& port);
+    std::optional<QByteArray> loadFirmwareImage();
+    bool decideFullFlash(const QString& port, bool eraseAll);
     void performConfigUpload(const QString& port, const QString& configFile,
                              const QString& productName);
     void performConfigUploadData(const QString& port, const QByteArray& configData);
