@@ -59,6 +59,9 @@ struct Config {
     int syncReplies = 8;      ///< responses to one answered SYNC, each its own frame
     bool greeting = true;     ///< the stub sends "OHAI" after MEM_END
     std::optional<int> wrongMd5At;  ///< this SPI_FLASH_MD5 (from 0) answers a wrong digest
+    /// This FLASH_DATA (from 0) is answered as written, but one of its bytes lands
+    /// wrong in flash (a weak cell); only the region's MD5 can tell.
+    std::optional<int> badFlashDataAt;
     std::vector<ResponseFault> responseFaults;
 
     // Firmware console.

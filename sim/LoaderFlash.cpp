@@ -75,7 +75,8 @@ Loader::Result Loader::flashData(const Request& r) {
     const uint32_t length = r.word(0);
     const uint32_t seq = r.word(1);
     d_.note("FLASH_DATA " + std::to_string(seq));
-    if (d_.config.goneAfterFlashData == flashDataSeen_++) {
+    const int index = flashDataSeen_++;
+    if (d_.config.goneAfterFlashData == index) {
         d_.loseLine();
         return std::nullopt;
     }
@@ -93,6 +94,9 @@ Loader::Result Loader::flashData(const Request& r) {
     uint8_t* target = d_.flash.data() + write_->next;
     for (uint32_t i = 0; i < length; ++i) {
         target[i] &= data[i];
+    }
+    if (d_.config.badFlashDataAt == index && length > 0) {
+        target[length / 2] ^= 0x10;
     }
     write_->next += length;
     ++write_->nextSeq;
