@@ -96,7 +96,6 @@ void ControllerSimTest::applicationOnlyWhenTheConsoleAnswers() {
     QCOMPARE(log.count("ERROR: Another operation is already running"), 1);
     QVERIFY(log.contains("Flash plan: 2 entries (app only)"));
     QVERIFY(log.contains("Verifying firmware version..."));  // the shipped version is expected
-    QVERIFY(!controller.statusMessage().isEmpty());
 
     QCOMPARE(firstBusy(harness.states()), UpdateState::flashing(0));
     QVERIFY(reached(harness.states(), UpdateState::Kind::flashing, 0.84f));
@@ -105,7 +104,7 @@ void ControllerSimTest::applicationOnlyWhenTheConsoleAnswers() {
     QVERIFY(flashAt(plotter, 0x10000, firmware.size()) == firmware);
     QCOMPARE(flashAt(plotter, 0x0, 16), QByteArray(16, char(0xFF)));
 
-    QTRY_COMPARE_WITH_TIMEOUT(controller.state(), UpdateState::ready(), 1000);
+    QTRY_COMPARE_WITH_TIMEOUT(controller.state(), UpdateState::ready(), 2000);
     QCOMPARE(controller.statusMessage(), QStringLiteral("Device connected"));
 }
 

@@ -162,7 +162,7 @@ void ControllerTest::failures() {
              stateBeforeError);
 
     // The next poll brings the controller back to ready; the log keeps the outcome.
-    QTRY_COMPARE_WITH_TIMEOUT(controller.state(), UpdateState::ready(), 1000);
+    QTRY_COMPARE_WITH_TIMEOUT(controller.state(), UpdateState::ready(), 2000);
     QCOMPARE(controller.statusMessage(), QStringLiteral("Device connected"));
     QCOMPARE(controller.logMessages().last(), QStringLiteral("ERROR: ") + message);
 }
