@@ -58,8 +58,10 @@ LogPanel::LogPanel(QWidget* parent)
 
 void LogPanel::setLines(const QStringList& lines) {
     m_view->setLines(lines);
-    m_copyButton->setVisible(!lines.isEmpty());
-    m_copyButton->raise();
+    if (lines.isEmpty() != m_copyButton->isHidden()) {
+        m_copyButton->setVisible(!lines.isEmpty());
+        m_copyButton->raise();
+    }
 }
 
 void LogPanel::copyToClipboard() {

@@ -14,6 +14,35 @@
 
 namespace {
 
+QFont logFont(bool bold) {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSizeF(11);
+    font.setBold(bold);
+    return font;
+}
+
+// QFontInfo::fixedPitch() is false for some monospaced fonts from fontconfig, so
+// the pitch is judged by the advances of a wide, a narrow and a blank character.
+qreal cellWidth(const QFont& regular, const QFont& bold) {
+    qreal cell = 0;
+    for (const QFont& font : {regular, bold}) {
+        const QFontMetricsF metrics(font);
+        const qreal wide = metrics.horizontalAdvance(QLatin1Char('M'));
+        if (metrics.horizontalAdvance(QLatin1Char('i')) != wide ||
+            metrics.horizontalAdvance(QLatin1Char(' ')) != wide) {
+            return 0;
+        }
+        cell = std::max(cell, wide);
+    }
+    return cell;
+}
+
+// Printable Latin-1 and Latin Extended-A: one cell each in any fixed-pitch font.
+bool isCellText(const QString& line) {
+    return std::all_of(line.begin(), line.end(),
+                       [](QChar c) { return c.unicode() >= 0x20 && c.unicode() < 0x180; });
+}
+
 QTextOption wrapOption() {
     QTextOption option(Qt::AlignLeft | Qt::AlignTop);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -24,11 +53,17 @@ QTextOption wrapOption() {
 
 LogView::LogView(QWidget* parent)
     : QAbstractScrollArea(parent),
-      m_regular(QFontDatabase::systemFont(QFontDatabase::FixedFont)),
+      m_regular(logFont(false)),
+      m_bold(logFont(true)),
+      m_regularHeight(QFontMetrics(m_regular).height()),
+      m_boldHeight(QFontMetrics(m_bold).height()),
+      m_cellWidth(cellWidth(m_regular, m_bold)),
       m_spacing(2) {
-    m_regular.setPointSizeF(11);
-    m_bold = m_regular;
-    m_bold.setBold(true);
+    // Lines may arrive far faster than a screen refreshes; the scroll bar and the
+    // lines are redrawn at most once per frame.
+    m_refresh.setSingleShot(true);
+    m_refresh.setInterval(16);
+    connect(&m_refresh, &QTimer::timeout, this, &LogView::refresh);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -61,9 +96,19 @@ void LogView::setLines(const QStringList& lines) {
             appendLine(line);
         }
     }
+    if (lines.size() != shown) {
+        m_scrollPending = !lines.isEmpty();
+    }
+    if (!m_refresh.isActive()) {
+        m_refresh.start();
+    }
+}
+
+void LogView::refresh() {
     updateScrollRange();
-    if (lines.size() != shown && !lines.isEmpty()) {
+    if (m_scrollPending) {
         scrollToBottom();
+        m_scrollPending = false;
     }
     viewport()->update();
 }
@@ -76,10 +121,9 @@ void LogView::appendLine(const QString& line) {
 }
 
 int LogView::measure(const QString& line) const {
-    const QFontMetrics metrics(fontFor(line));
     const int width = std::max(1, viewport()->width());
-    if (metrics.horizontalAdvance(line) <= width) {
-        return metrics.height();
+    if (fitsOnOneLine(line, width)) {
+        return isErrorLine(line) ? m_boldHeight : m_regularHeight;
     }
     QTextLayout layout(line, fontFor(line));
     layout.setTextOption(wrapOption());
@@ -91,6 +135,15 @@ int LogView::measure(const QString& line) const {
     }
     layout.endLayout();
     return qCeil(height);
+}
+
+// Shaping a line costs far more than the rest of an append, so lines whose width
+// follows from their length are not shaped.
+bool LogView::fitsOnOneLine(const QString& line, int width) const {
+    if (m_cellWidth > 0 && isCellText(line)) {
+        return line.size() * m_cellWidth <= width;
+    }
+    return QFontMetricsF(fontFor(line)).horizontalAdvance(line) <= width;
 }
 
 void LogView::remeasure() {
@@ -108,8 +161,10 @@ void LogView::updateScrollRange() {
     const int visible = viewport()->height();
     QScrollBar* bar = verticalScrollBar();
     bar->setRange(0, std::max(0, m_contentHeight - visible));
-    bar->setPageStep(visible);
-    bar->setSingleStep(QFontMetrics(m_regular).height() + m_spacing);
+    if (bar->pageStep() != visible) {
+        bar->setPageStep(visible);
+        bar->setSingleStep(m_regularHeight + m_spacing);
+    }
 }
 
 void LogView::scrollToBottom() {

@@ -3,6 +3,7 @@
 #include <QAbstractScrollArea>
 #include <QFont>
 #include <QStringList>
+#include <QTimer>
 #include <vector>
 
 /// The log's lines, one wrapped text per entry, 2 pt apart, in the fixed-pitch
@@ -19,7 +20,8 @@ class LogView : public QAbstractScrollArea {
     /// Shows `lines`. A list that extends the one shown (same count up to its last
     /// shown line) only measures the new lines; any other list replaces them all.
     /// When the count changed and is not zero, scrolls so that the last line lies at
-    /// the bottom edge of the visible area.
+    /// the bottom edge of the visible area. The lines are taken at once; scroll bar
+    /// and drawing follow within one frame (16 ms), once for any number of calls.
     void setLines(const QStringList& lines);
 
     /// The lines shown, oldest first.
@@ -40,15 +42,23 @@ class LogView : public QAbstractScrollArea {
     void appendLine(const QString& line);
     void remeasure();
     int measure(const QString& line) const;
+    bool fitsOnOneLine(const QString& line, int width) const;
+    void refresh();
     void updateScrollRange();
     void scrollToBottom();
 
     QFont m_regular;
     QFont m_bold;
+    int m_regularHeight;
+    int m_boldHeight;
+    // Advance of one character cell; 0 when the font is not fixed-pitch.
+    qreal m_cellWidth;
     int m_spacing;
     QStringList m_lines;
     // Top edge of each line in content coordinates; the content's height follows
     // the last line.
     std::vector<int> m_tops;
     int m_contentHeight = 0;
+    bool m_scrollPending = false;
+    QTimer m_refresh;
 };
