@@ -62,8 +62,8 @@ AboutWindow::AboutWindow(const QList<ProductConfig>& products, const QString& bu
                          labelTint(0.26), this)) {
     setWindowTitle(QStringLiteral("About Teskal Firmware Updater"));
     setFixedSize(kWidth, kHeight);
-    fillInformation(products);
     placeContent(icon);
+    fillInformation(products);
 }
 
 QString AboutWindow::firmwareSourceUrl() {
