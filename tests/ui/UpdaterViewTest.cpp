@@ -21,14 +21,6 @@ namespace {
 
 enum class Bar { hidden, determinate, indeterminate };
 
-QStringList numberedLines(int count, const QString& prefix = QStringLiteral("line ")) {
-    QStringList lines;
-    for (int i = 0; i < count; ++i) {
-        lines.append(prefix + QString::number(i));
-    }
-    return lines;
-}
-
 }  // namespace
 
 Q_DECLARE_METATYPE(Bar)
@@ -234,8 +226,9 @@ void UpdaterViewTest::scrollsToTheLastLineWhenTheCountChanges() {
 }
 
 void UpdaterViewTest::aLongerListThatIsNotAnExtensionReplacesTheLines() {
-    m_view->showLog(numberedLines(2, QStringLiteral("old ")));
-    const QStringList replacement = numberedLines(3, QStringLiteral("new "));
+    m_view->showLog({QStringLiteral("old 0"), QStringLiteral("old 1")});
+    const QStringList replacement{QStringLiteral("new 0"), QStringLiteral("new 1"),
+                                  QStringLiteral("new 2")};
     m_view->showLog(replacement);
     QCOMPARE(m_view->logPanel()->view()->lines(), replacement);
 }
