@@ -21,6 +21,7 @@ rm -rf "$run"
 mkdir -p "$run/artifacts"
 total=0
 findings=0
+passed=0
 for target in "${targets[@]}"; do
     binary=build-fuzz/fuzz/fuzz_$target
     if [ ! -x "$binary" ]; then
@@ -35,10 +36,13 @@ for target in "${targets[@]}"; do
         echo "fuzz_$target: FINDING"
         tail -n 60 "$log"
         findings=$((findings + 1))
+    else
+        passed=$((passed + 1))
     fi
     executions=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log" | tail -n 1)
     echo "fuzz_$target: ${executions:-0} executions"
     total=$((total + ${executions:-0}))
 done
-echo "fuzzing: $total executions, $findings targets with findings"
+echo "fuzzing: $total executions in ${seconds} s per target"
+echo "fuzz: $passed passed, $findings failed"
 [ "$findings" -eq 0 ]
