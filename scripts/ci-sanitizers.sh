@@ -4,6 +4,12 @@
 #   tsan  the application-core tests (worker and GUI-thread hand-offs) under
 #         ThreadSanitizer
 # Any report fails the run: the sanitizers abort on their first finding.
+#
+# Qt's libraries are not instrumented. The tsan preset therefore has the sanitizer
+# ignore the memory accesses of Qt's own code (ignore_noninstrumented_modules) and
+# preloads tests/reliability/TsanQtHandOff.cpp, which tells it about the one
+# synchronisation of Qt's that the application relies on: the queued-call hand-off
+# from the worker to the GUI thread. No report is suppressed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -17,9 +23,7 @@ for preset in "${presets[@]}"; do
             exit 2
             ;;
     esac
-    werror=OFF
-    [ "${CI:-}" = "true" ] && werror=ON
-    cmake --preset "$preset" -DTFU_WERROR="$werror" > /dev/null
+    cmake --preset "$preset" > /dev/null
     cmake --build --preset "$preset"
     ctest --preset "$preset"
 done
