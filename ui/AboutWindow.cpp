@@ -67,7 +67,7 @@ AboutWindow::AboutWindow(const QList<ProductConfig>& products, const QString& bu
 }
 
 QString AboutWindow::firmwareSourceUrl() {
-    return QStringLiteral("https://github.com/bdring/FluidNC");
+    return QStringLiteral("https://github.com/corvane/teskal-firmware");
 }
 
 QString AboutWindow::stubSourceUrl() {
