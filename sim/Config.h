@@ -84,6 +84,11 @@ struct Config {
     std::optional<int> goneAtMd5;              ///< on this SPI_FLASH_MD5 (from 0), unanswered
     std::optional<int> goneAfterXModemBlocks;  ///< after this many blocks were acknowledged
 
+    /// After this many FLASH_DATA were answered the chip hangs with the line still
+    /// there: it answers nothing and takes no more bytes, so over a pseudo-terminal
+    /// the host's writes stall once the line's buffer is full.
+    std::optional<int> hangAfterFlashData;
+
     // Timing. Loader frames that must reach the host in reads of their own (the
     // greeting, extra SYNC replies, READ_FLASH data, duplicates) follow one another
     // `frameGapMs` apart; the delays postpone the response of their command.

@@ -30,6 +30,7 @@ struct Device {
     bool appFlashed = false;  ///< ... and a FLASH_BEGIN at the application's offset before it
     int64_t flashEndNs = 0;
     std::optional<std::string> flashedVersion;  ///< from the running application's descriptor
+    bool hung = false;  ///< the chip hangs: it takes no more bytes from the line
 
     void note(std::string entry) { transcript.push_back(std::move(entry)); }
 

@@ -100,6 +100,9 @@ Loader::Result Loader::flashData(const Request& r) {
     }
     write_->next += length;
     ++write_->nextSeq;
+    if (d_.config.hangAfterFlashData == index + 1) {
+        d_.hung = true;
+    }
     return answer(0, {}, d_.config.flashBlockDelayMs);
 }
 

@@ -42,7 +42,7 @@ int ceilMs(int64_t ns) {
 
 std::vector<uint8_t> Plotter::Impl::onHostBytes(const uint8_t* data, size_t len) {
     size_t pos = 0;
-    while (pos < len && device.mode != Mode::Gone) {
+    while (pos < len && device.mode != Mode::Gone && !device.hung) {
         const Mode before = device.mode;
         pos += isLoaderMode(before) ? loader.consume(data + pos, len - pos)
                                     : console.consume(data + pos, len - pos);
@@ -107,6 +107,10 @@ std::vector<uint8_t> Plotter::takeDueOutput(int64_t nowNs) {
 
 Plotter::Mode Plotter::mode() const {
     return impl_->device.mode;
+}
+
+bool Plotter::hung() const {
+    return impl_->device.hung;
 }
 
 const std::vector<uint8_t>& Plotter::flash() const {

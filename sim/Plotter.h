@@ -57,6 +57,9 @@ class Plotter {
 
     Mode mode() const;
 
+    /// True once the chip has hung (`Config::hangAfterFlashData`): it takes nothing more.
+    bool hung() const;
+
     /// The simulated flash, `Config::flashSize` bytes, 0xFF when erased.
     const std::vector<uint8_t>& flash() const;
 

@@ -37,6 +37,7 @@ struct PtyPlotter::Impl {
 
     void run();
     int pollTimeoutMs();
+    bool deviceHung() const;
     bool serviceWakeUp();
     void readInput();
     void writeScheduled();
@@ -107,7 +108,11 @@ PtyPlotter::Impl::~Impl() {
 
 void PtyPlotter::Impl::run() {
     for (;;) {
-        pollfd fds[2] = {{wakeRead, POLLIN, 0}, {master, POLLIN, 0}};
+        pollfd fds[2] = {{wakeRead, POLLIN, 0}, {master, 0, 0}};
+        // A hung chip takes nothing more, so the host's writes pile up in the line.
+        if (!deviceHung()) {
+            fds[1].events = POLLIN;
+        }
         if (outputSent < output.size()) {
             fds[1].events |= POLLOUT;
         }
@@ -141,6 +146,11 @@ int PtyPlotter::Impl::pollTimeoutMs() {
     }
     const int64_t wait = std::max(*due, scheduledNotBeforeNs) - mono::nowNs();
     return wait <= 0 ? 0 : static_cast<int>((wait + 999'999) / 1'000'000);
+}
+
+bool PtyPlotter::Impl::deviceHung() const {
+    std::lock_guard lock(mutex);
+    return plotter.hung();
 }
 
 bool PtyPlotter::Impl::serviceWakeUp() {
