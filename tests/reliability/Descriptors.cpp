@@ -19,14 +19,13 @@ size_t openDescriptorCount() {
     return count;
 }
 
-bool holdsOpen(const std::string& path) {
+size_t descriptorsOn(const std::string& path) {
+    size_t count = 0;
     for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
         std::error_code error;
-        if (fs::read_symlink(entry.path(), error) == path) {
-            return true;
-        }
+        count += fs::read_symlink(entry.path(), error) == path ? 1 : 0;
     }
-    return false;
+    return count;
 }
 
 size_t heapInUse() {

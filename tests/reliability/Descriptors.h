@@ -9,8 +9,8 @@ namespace reliability {
 /// The number of open descriptors of this process.
 size_t openDescriptorCount();
 
-/// True when one of this process's descriptors refers to `path` (a device node).
-bool holdsOpen(const std::string& path);
+/// How many of this process's descriptors refer to `path` (a device node).
+size_t descriptorsOn(const std::string& path);
 
 /// Bytes in use on the allocator's heap (mallinfo2's uordblks); 0 under an
 /// allocator that does not report it.

@@ -93,6 +93,9 @@ const std::vector<Fault>& flashFaults() {
             return knob("goneAfterFlashData", *(c.goneAfterFlashData = pick(r, 0, 6)));
         },
         [](sim::Config& c, Rng& r) { return knob("goneAtMd5", *(c.goneAtMd5 = pick(r, 0, 3))); },
+        [](sim::Config& c, Rng& r) {
+            return knob("hangAfterFlashData", *(c.hangAfterFlashData = pick(r, 1, 6)));
+        },
         [](sim::Config& c, Rng&) { return (c.silentConsole = true, "silentConsole"); },
         [](sim::Config& c, Rng&) { return (c.okBeforeVersion = true, "okBeforeVersion"); },
         [](sim::Config& c, Rng& r) {
