@@ -89,7 +89,8 @@ class Hygiene : public ::testing::Test {
                 return esp::runFlashJob(port, request(), nullptr, nullptr) == 0;
             case 4:
             case 5:
-                return esp::runUploadConfigJob(port, config_.data(), config_.size(), nullptr) == 0;
+                return esp::runUploadConfigJob(port, configFile.data(), configFile.size(),
+                                               nullptr) == 0;
             case 6:
                 return esp::runQueryVersionJob(port).has_value();
             default:
@@ -112,7 +113,7 @@ class Hygiene : public ::testing::Test {
 
     const std::vector<uint8_t> firmware = pattern(40000, 1);
     const std::vector<uint8_t> partitions = pattern(3072, 3);
-    const std::vector<uint8_t> config_ = pattern(5000, 7);
+    const std::vector<uint8_t> configFile = pattern(5000, 7);
     const std::vector<uint8_t> stub = stubImage();
 };
 
