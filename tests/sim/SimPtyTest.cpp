@@ -5,14 +5,16 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <string>
+#include <vector>
 
-#include "Wire.h"
+#include "esp/Packet.h"
+#include "esp/Slip.h"
 #include "sim/PtyPlotter.h"
 
 namespace {
 
-using wire::Bytes;
+using Bytes = std::vector<uint8_t>;
 
 int openRaw(const std::string& path) {
     const int fd = ::open(path.c_str(), O_RDWR | O_NOCTTY);
@@ -25,15 +27,10 @@ int openRaw(const std::string& path) {
     return fd;
 }
 
-// Reads what arrives within `ms`, one read call per element.
-std::vector<Bytes> readFor(int fd, int ms) {
+// Every read until the line stays quiet for `quietMs`, one element per read call.
+std::vector<Bytes> readUntilQuiet(int fd, int quietMs) {
     std::vector<Bytes> reads;
-    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);
-    while (std::chrono::steady_clock::now() < end) {
-        pollfd p{fd, POLLIN, 0};
-        if (::poll(&p, 1, 10) <= 0) {
-            continue;
-        }
+    for (pollfd p{fd, POLLIN, 0}; ::poll(&p, 1, quietMs) > 0; p.revents = 0) {
         uint8_t buf[4096];
         const ssize_t n = ::read(fd, buf, sizeof buf);
         if (n <= 0) {
@@ -44,31 +41,33 @@ std::vector<Bytes> readFor(int fd, int ms) {
     return reads;
 }
 
-Bytes joined(const std::vector<Bytes>& reads) {
-    Bytes all;
-    for (const auto& r : reads) {
-        all.insert(all.end(), r.begin(), r.end());
-    }
-    return all;
-}
-
 TEST(SimPty, ServesConsoleAndLoaderUntilUnplugged) {
     sim::PtyPlotter plotter;
     const int fd = openRaw(plotter.path());
     ASSERT_GE(fd, 0);
 
     ASSERT_EQ(::write(fd, "$I\n", 3), 3);
-    EXPECT_NE(wire::str(joined(readFor(fd, 200))).find("[VER:FluidNC v3.7.8 (sim):]\r\n"),
-              std::string::npos);
+    std::string console;
+    for (const Bytes& r : readUntilQuiet(fd, 200)) {
+        console.append(r.begin(), r.end());
+    }
+    EXPECT_NE(console.find("[VER:FluidNC v3.7.8 (sim):]\r\n"), std::string::npos);
 
-    Bytes sync{0x07, 0x07, 0x12, 0x20};
-    sync.resize(36, 0x55);
-    const Bytes frame = wire::request(0x08, sync);
+    const Bytes frame =
+        slip::encode(esp::buildCommandPacket(esp::SYNC, esp::buildSyncPayload(), 0));
     ASSERT_EQ(::write(fd, frame.data(), frame.size()), static_cast<ssize_t>(frame.size()));
-    const auto reads = readFor(fd, 300);
-    EXPECT_EQ(wire::frames(joined(reads)).size(), 8u);
+    const auto reads = readUntilQuiet(fd, 300);
+    Bytes all;
+    for (const Bytes& r : reads) {
+        all.insert(all.end(), r.begin(), r.end());
+    }
+    size_t frames = 0;
+    for (size_t at = 0; const auto found = slip::readFrame(all.data() + at, all.size() - at);) {
+        at += found->second;
+        ++frames;
+    }
+    EXPECT_EQ(frames, 8u);
     EXPECT_GE(reads.size(), 2u) << "the extra replies follow as separate writes";
-
     plotter.inspect([](const sim::Plotter& p) {
         EXPECT_EQ(p.mode(), sim::Mode::RomLoader);
         EXPECT_EQ(p.transcript(), (std::vector<std::string>{"$I", "SYNC"}));

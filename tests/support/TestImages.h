@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "esp/Packet.h"
+
+/// Images shared by the core test areas. Header-only, stateless.
+namespace testimg {
+
+/// Bytes that vary with the position and a seed, so regions and blocks differ.
+inline std::vector<uint8_t> pattern(size_t size, uint8_t seed = 0) {
+    std::vector<uint8_t> bytes(size);
+    for (size_t i = 0; i < size; ++i) {
+        bytes[i] = static_cast<uint8_t>(seed + i * 31 + i / 509);
+    }
+    return bytes;
+}
+
+/// A stub image: the five header words (text at 0x40380000, data at 0x3FC90000,
+/// entry 0x40380004), then `textSize + dataSize` bytes of body.
+inline std::vector<uint8_t> stubImage(uint32_t textSize = 100, uint32_t dataSize = 20) {
+    std::vector<uint8_t> image;
+    for (uint32_t word : {0x40380000u, textSize, 0x3FC90000u, dataSize, 0x40380004u}) {
+        esp::packLE32(image, word);
+    }
+    const auto body = pattern(textSize + dataSize, 0x5A);
+    image.insert(image.end(), body.begin(), body.end());
+    return image;
+}
+
+}  // namespace testimg
