@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,75 +19,69 @@ class DeviceJobsTest : public ::testing::Test {
   protected:
     void SetUp() override { clearRecords(); }
 
-    void connect() { plotter.connectLoopback(port); }
+    // A fresh plotter set up by `setup`, connected to `port`.
+    sim::Plotter& device(const std::function<void(sim::Config&)>& setup = [](auto&) {}) {
+        auto& plotter = plotters.emplace_back(std::make_unique<sim::Plotter>());
+        setup(plotter->config());
+        plotter->connectLoopback(port);
+        return *plotter;
+    }
 
-    sim::Plotter plotter;
+    std::vector<std::unique_ptr<sim::Plotter>> plotters;
     SerialPort port;
 };
 
-const std::string kYaml = "meta: sim 1.0\nname: test\naxes:\n  x:\n    steps_per_mm: 80\n";
-
 std::vector<uint8_t> configFile(size_t size) {
+    const std::string yaml = "meta: sim 1.0\nname: test\naxes:\n  x:\n    steps_per_mm: 80\n";
     std::vector<uint8_t> file;
     while (file.size() < size) {
-        file.insert(file.end(), kYaml.begin(), kYaml.end());
+        file.insert(file.end(), yaml.begin(), yaml.end());
     }
     file.resize(size);
     return file;
 }
 
-TEST_F(DeviceJobsTest, UploadStoresTheFileAndRestartsTheFirmware) {
-    connect();
-    const auto file = configFile(3000);
-    ASSERT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress), 0u);
-    EXPECT_EQ(plotter.storedConfig(), file);
-    ASSERT_FALSE(progressCalls.empty());
-    EXPECT_EQ(progressCalls.back(), std::make_pair(1.0f, std::string("Uploading config file...")));
-    const auto& transcript = plotter.transcript();
-    const auto query = std::find(transcript.begin(), transcript.end(), "$I");
-    const auto block = std::find(transcript.begin(), transcript.end(), "XMODEM 1");
-    EXPECT_LT(query, block);
-    ASSERT_NE(block, transcript.end());
-    EXPECT_EQ(transcript.back(), "$Bye");
-}
-
-TEST_F(DeviceJobsTest, UploadOfAnEmptyFileStillRestarts) {
-    connect();
-    ASSERT_EQ(esp::runUploadConfigJob(port, nullptr, 0, recordProgress), 0u);
-    EXPECT_TRUE(progressCalls.empty());
-    EXPECT_EQ(plotter.transcript().back(), "$Bye");
+TEST_F(DeviceJobsTest, UploadStoresTheFileAfterTheQueryAndRestarts) {
+    for (const size_t size : {3000, 0}) {
+        clearRecords();
+        const auto& plotter = device();
+        const auto file = configFile(size);
+        ASSERT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress), 0u);
+        const auto& transcript = plotter.transcript();
+        EXPECT_EQ(transcript.front(), "$I");
+        EXPECT_EQ(transcript.back(), "$Bye");
+        if (size == 0) {
+            EXPECT_TRUE(progressCalls.empty());
+            continue;
+        }
+        EXPECT_EQ(plotter.storedConfig(), file);
+        EXPECT_EQ(transcript[2], "XMODEM 1");
+        ASSERT_FALSE(progressCalls.empty());
+        EXPECT_EQ(progressCalls.back(),
+                  std::make_pair(1.0f, std::string("Uploading config file...")));
+    }
 }
 
 TEST_F(DeviceJobsTest, UploadFailuresReturn8WithoutRestart) {
-    plotter.config().xmodemHandshake = false;
-    connect();
-    const auto file = configFile(100);
+    const auto& unanswered = device([](auto& c) { c.xmodemHandshake = false; });
+    const auto file = configFile(5000);
     EXPECT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress), 8u);
     const decltype(progressCalls) report = {{0.0f, "XModem: no handshake received (30s timeout)"}};
     EXPECT_EQ(progressCalls, report);
 
-    sim::Plotter cancelling;
-    cancelling.config().xmodemCanBlock = 2;
-    SerialPort other;
-    cancelling.connectLoopback(other);
-    const auto larger = configFile(5000);
-    EXPECT_EQ(esp::runUploadConfigJob(other, larger.data(), larger.size(), nullptr), 8u);
-    for (const auto* device : {&plotter, &cancelling}) {
-        EXPECT_FALSE(device->storedConfig().has_value());
-        EXPECT_NE(device->transcript().back(), "$Bye");
+    const auto& cancelling = device([](auto& c) { c.xmodemCanBlock = 2; });
+    EXPECT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), nullptr), 8u);
+    for (const auto* plotter : {&unanswered, &cancelling}) {
+        EXPECT_FALSE(plotter->storedConfig().has_value());
+        EXPECT_NE(plotter->transcript().back(), "$Bye");
     }
 }
 
 TEST_F(DeviceJobsTest, QueryVersionTellsAnEmptyVersionFromNone) {
-    plotter.config().versionReport = "";
-    connect();
+    device([](auto& c) { c.versionReport = ""; });
     EXPECT_EQ(esp::runQueryVersionJob(port), std::string());
-
-    sim::Plotter silent;
-    silent.config().silentConsole = true;
-    SerialPort other;
-    silent.connectLoopback(other);
-    EXPECT_EQ(esp::runQueryVersionJob(other), std::nullopt);
+    device([](auto& c) { c.silentConsole = true; });
+    EXPECT_EQ(esp::runQueryVersionJob(port), std::nullopt);
 }
 
 struct ProbeCase {
@@ -98,8 +93,7 @@ struct ProbeCase {
 class ProbeTest : public DeviceJobsTest, public ::testing::WithParamInterface<ProbeCase> {};
 
 TEST_P(ProbeTest, ReadsTheTableThroughTheStub) {
-    GetParam().setup(plotter);
-    connect();
+    GetParam().setup(device());
     const auto stub = stubImage();
     EXPECT_EQ(esp::runProbePartitionTableJob(port, stub.data(), stub.size()), GetParam().expected);
 }

@@ -94,8 +94,11 @@ TEST(PortDiscovery, ListsEveryMatchingDeviceInNameOrder) {
     tree.tty("ttyACM0", kHub + "/1-3/1-3:1.0");
     tree.ids(kHub + "/1-4", "303a", "1002");
     tree.tty("ttyACM2", kHub + "/1-4/1-4:1.0");
+    tree.ids(kHub + "/1-7", "1303a", "71001");  // only the low sixteen bits count
+    tree.tty("ttyACM3", kHub + "/1-7/1-7:1.0");
     EXPECT_EQ(tree.found(),
-              (std::vector<std::string>{tree.dev() + "/ttyACM0", tree.dev() + "/ttyACM1"}));
+              (std::vector<std::string>{tree.dev() + "/ttyACM0", tree.dev() + "/ttyACM1",
+                                        tree.dev() + "/ttyACM3"}));
     EXPECT_EQ(tree.found(0x303A, 0x1002), std::vector<std::string>{tree.dev() + "/ttyACM2"});
 }
 
@@ -111,13 +114,6 @@ TEST(PortDiscovery, OnlyTheNearestFolderWithBothIdsDecides) {
     tree.ids(kHub + "/1-6/1-6:1.0/port", "", "6001");
     tree.tty("ttyACM0", kHub + "/1-6/1-6:1.0/port");
     EXPECT_EQ(tree.found(), std::vector<std::string>{tree.dev() + "/ttyACM0"});
-}
-
-TEST(PortDiscovery, ComparesTheLowSixteenBitsOfWideIds) {
-    FakeSysfs tree;
-    tree.ids(kHub + "/1-7", "1303a", "71001");
-    tree.tty("ttyACM3", kHub + "/1-7/1-7:1.0");
-    EXPECT_EQ(tree.found(), std::vector<std::string>{tree.dev() + "/ttyACM3"});
 }
 
 TEST(PortDiscovery, SkipsEntriesWithoutDeviceLinkOrNode) {

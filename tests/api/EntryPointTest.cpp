@@ -35,32 +35,27 @@ TEST_F(EntryPointTest, FullFlashThenQueriesOverAPseudoTerminal) {
     sim::PtyPlotter device(config);
     const size_t descriptors = openDescriptors();
 
-    const esp_error_t code = esp_flash_firmware(
-        device.path().c_str(), firmware.data(), firmware.size(), bootloader.data(),
-        bootloader.size(), partitions.data(), partitions.size(), bootApp.data(), bootApp.size(),
-        stub.data(), stub.size(), 1, 0, "2.10.6", recordProgress, recordLog);
-
-    ASSERT_EQ(code, 0u);
+    ASSERT_EQ(esp_flash_firmware(device.path().c_str(), firmware.data(), firmware.size(),
+                                 bootloader.data(), bootloader.size(), partitions.data(),
+                                 partitions.size(), bootApp.data(), bootApp.size(), stub.data(),
+                                 stub.size(), 1, 0, "2.10.6", recordProgress, recordLog),
+              0u);
     EXPECT_EQ(openDescriptors(), descriptors);
-    std::vector<std::string> expected = {"Opening port: " + device.path()};
-    for (const auto& part : std::vector<std::vector<std::string>>{
-             preambleLines(),
-             {"Flash plan: 4 entries (FULL)", "  0x00000: 20000 bytes", "  0x08000: 3072 bytes",
-              "  0x0E000: 8192 bytes", "  0x10000: 70000 bytes"},
-             regionLines(0x0, bootloader),
-             regionLines(0x8000, partitions),
-             regionLines(0xE000, bootApp),
-             regionLines(0x10000, firmware),
-             {"FLASH_END OK", "Verifying firmware version...",
-              "Device running firmware 2.10.6 (sim)"}}) {
-        expected.insert(expected.end(), part.begin(), part.end());
-    }
-    EXPECT_EQ(logLines, expected);
+    EXPECT_EQ(logLines,
+              concat({{"Opening port: " + device.path()},
+                      preambleLines(),
+                      {"Flash plan: 4 entries (FULL)", "  0x00000: 20000 bytes",
+                       "  0x08000: 3072 bytes", "  0x0E000: 8192 bytes", "  0x10000: 70000 bytes"},
+                      regionLines(0x0, bootloader),
+                      regionLines(0x8000, partitions),
+                      regionLines(0xE000, bootApp),
+                      regionLines(0x10000, firmware),
+                      {"FLASH_END OK", "Verifying firmware version...",
+                       "Device running firmware 2.10.6 (sim)"}}));
     EXPECT_FLOAT_EQ(progressCalls.back().first, 0.85f);
     device.inspect([&](const sim::Plotter& plotter) {
-        const auto& flash = plotter.flash();
-        EXPECT_TRUE(std::equal(firmware.begin(), firmware.end(), flash.begin() + 0x10000));
-        EXPECT_TRUE(std::equal(bootApp.begin(), bootApp.end(), flash.begin() + 0xE000));
+        EXPECT_TRUE(
+            std::equal(firmware.begin(), firmware.end(), plotter.flash().begin() + 0x10000));
     });
 
     char* version = esp_query_version(device.path().c_str());
@@ -71,31 +66,13 @@ TEST_F(EntryPointTest, FullFlashThenQueriesOverAPseudoTerminal) {
     EXPECT_EQ(openDescriptors(), descriptors);
 }
 
-TEST_F(EntryPointTest, ConfigurationUploadOverAPseudoTerminal) {
-    sim::PtyPlotter device;
-    const std::string yaml = "meta: sim 1.0\nname: plotter\n";
-    const std::vector<uint8_t> file(yaml.begin(), yaml.end());
-
-    EXPECT_EQ(esp_upload_config(device.path().c_str(), file.data(), file.size(), recordProgress,
-                                recordLog),
-              0u);
-    EXPECT_TRUE(logLines.empty());
-    ASSERT_FALSE(progressCalls.empty());
-    EXPECT_FLOAT_EQ(progressCalls.back().first, 1.0f);
-    device.inspect([&](const sim::Plotter& plotter) {
-        EXPECT_EQ(plotter.storedConfig(), file);
-        EXPECT_EQ(plotter.transcript().back(), "$Bye");
-    });
-}
-
 TEST_F(EntryPointTest, PortThatCannotBeOpened) {
     const char* missing = "/nonexistent/ttyACM0";
     EXPECT_EQ(esp_flash_firmware(missing, firmware.data(), firmware.size(), nullptr, 0, nullptr, 0,
                                  nullptr, 0, stub.data(), stub.size(), 0, 0, "2.10.6",
                                  recordProgress, recordLog),
               2u);
-    EXPECT_EQ(logLines, (std::vector<std::string>{"Opening port: /nonexistent/ttyACM0",
-                                                  "Failed to open port"}));
+    EXPECT_EQ(logLines, (Lines{"Opening port: /nonexistent/ttyACM0", "Failed to open port"}));
     clearRecords();
     EXPECT_EQ(esp_upload_config(missing, firmware.data(), 10, recordProgress, recordLog), 2u);
     EXPECT_EQ(esp_query_version(missing), nullptr);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <iterator>
@@ -9,14 +8,18 @@
 #include <vector>
 
 #include "esp/EspLoader.h"
-#include "esp/Packet.h"
 #include "serial/Clock.h"
+#include "tests/support/TestImages.h"
 
-/// Callback recorders and images for the job tests. The library's callbacks are
-/// plain function pointers, so what they receive is kept in globals.
+/// Callback recorders and expected log lines for the job tests. The library's
+/// callbacks are plain function pointers, so what they receive is kept in globals.
 namespace jobtest {
 
-inline std::vector<std::string> logLines;
+using testimg::pattern;
+using testimg::stubImage;
+using Lines = std::vector<std::string>;
+
+inline Lines logLines;
 inline std::vector<int64_t> logTimesNs;  // clock reading at each line
 inline std::vector<std::pair<float, std::string>> progressCalls;
 
@@ -27,31 +30,10 @@ inline void recordLog(const char* line) {
 inline void recordProgress(float fraction, const char* stage) {
     progressCalls.emplace_back(fraction, stage);
 }
-
 inline void clearRecords() {
     logLines.clear();
     logTimesNs.clear();
     progressCalls.clear();
-}
-
-/// Bytes that vary with the position and a seed, so regions differ from each other.
-inline std::vector<uint8_t> pattern(size_t size, uint8_t seed) {
-    std::vector<uint8_t> bytes(size);
-    for (size_t i = 0; i < size; ++i) {
-        bytes[i] = static_cast<uint8_t>(seed + i * 31 + i / 509);
-    }
-    return bytes;
-}
-
-/// A stub image: header, 100 bytes of text at 0x40380000, 20 bytes of data.
-inline std::vector<uint8_t> stubImage() {
-    std::vector<uint8_t> image;
-    for (uint32_t word : {0x40380000u, 100u, 0x3FC90000u, 20u, 0x40380004u}) {
-        esp::packLE32(image, word);
-    }
-    const auto body = pattern(120, 0x5A);
-    image.insert(image.end(), body.begin(), body.end());
-    return image;
 }
 
 /// A 3072-byte table: an NVS data entry at 0x9000, then an entry of `appType` at
@@ -65,9 +47,17 @@ inline std::vector<uint8_t> partitionTable(uint8_t appType) {
     return table;
 }
 
-/// The loader's and the job's lines from the start of the job body up to a
-/// running, attached stub, for a healthy chip and the image of `stubImage`.
-inline std::vector<std::string> preambleLines() {
+inline Lines concat(std::initializer_list<Lines> parts) {
+    Lines all;
+    for (const auto& part : parts) {
+        all.insert(all.end(), part.begin(), part.end());
+    }
+    return all;
+}
+
+/// The lines from the start of a job up to a running, attached stub, for a healthy
+/// chip and the default `stubImage`.
+inline Lines preambleLines() {
     return {"Entering bootloader...",
             "Syncing...",
             "Sync OK",
@@ -83,23 +73,20 @@ inline std::vector<std::string> preambleLines() {
             "SPI_ATTACH OK"};
 }
 
-/// The loader's lines for a region written and verified without trouble.
-inline std::vector<std::string> regionLines(uint32_t address, const std::vector<uint8_t>& data) {
-    char addr[16];
-    std::snprintf(addr, sizeof addr, "0x%08x", address);
-    const auto digest = esp::EspLoader::md5(data.data(), data.size());
+/// The lines for a region written and verified without trouble.
+inline Lines regionLines(uint32_t address, const std::vector<uint8_t>& data) {
+    char head[96];
+    std::snprintf(head, sizeof head, "addr=0x%08x size=%zu", address, data.size());
     std::string hex;
-    for (uint8_t byte : digest) {
+    for (uint8_t byte : esp::EspLoader::md5(data.data(), data.size())) {
         char two[3];
         std::snprintf(two, sizeof two, "%02x", byte);
         hex += two;
     }
-    const size_t blocks = (data.size() + 16383) / 16384;
-    const std::string size = std::to_string(data.size());
-    return {"FLASH_BEGIN addr=" + std::string(addr) + " size=" + size +
-                " blocks=" + std::to_string(blocks) + " blockSize=16384",
+    const std::string blocks = std::to_string((data.size() + 16383) / 16384);
+    return {"FLASH_BEGIN " + std::string(head) + " blocks=" + blocks + " blockSize=16384",
             "FLASH_BEGIN OK (erase complete)",
-            "VERIFY addr=" + std::string(addr) + " size=" + size,
+            "VERIFY " + std::string(head),
             "VERIFY local_md5=" + hex,
             "VERIFY flash_md5=" + hex,
             "VERIFY OK"};
