@@ -11,9 +11,11 @@
 #include "esp/Packet.h"
 #include "esp/Slip.h"
 #include "serial/Clock.h"
+#include "tests/support/TestImages.h"
 
 using Bytes = std::vector<uint8_t>;
 using Lines = std::vector<std::string>;
+using testimg::words;
 
 /// One request as the scripted device decoded it.
 struct Request {
@@ -44,14 +46,6 @@ class LoaderTest : public ::testing::Test {
         packet.insert(packet.end(), {status, error});
         packet.resize(8 + size, 0);
         return slip::encode(packet);
-    }
-
-    static Bytes words(std::initializer_list<uint32_t> values) {
-        Bytes out;
-        for (const uint32_t v : values) {
-            esp::packLE32(out, v);
-        }
-        return out;
     }
 
     /// Virtual milliseconds that `fn` took.

@@ -14,20 +14,13 @@
 namespace {
 
 using Bytes = std::vector<uint8_t>;
+using testimg::words;
 
 constexpr uint8_t kAck = 0x06;
 constexpr uint8_t kNak = 0x15;
 
 Bytes request(uint8_t op, const Bytes& payload, uint32_t checksum = 0) {
     return slip::encode(esp::buildCommandPacket(op, payload, checksum));
-}
-
-Bytes words(std::initializer_list<uint32_t> values) {
-    Bytes out;
-    for (uint32_t v : values) {
-        esp::packLE32(out, v);
-    }
-    return out;
 }
 
 Bytes dataRequest(uint8_t op, const Bytes& data, uint32_t seq) {

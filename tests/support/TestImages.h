@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <vector>
 
 #include "esp/Packet.h"
@@ -16,6 +17,15 @@ inline std::vector<uint8_t> pattern(size_t size, uint8_t seed = 0) {
         bytes[i] = static_cast<uint8_t>(seed + i * 31 + i / 509);
     }
     return bytes;
+}
+
+/// Little-endian words, as every command payload is laid out.
+inline std::vector<uint8_t> words(std::initializer_list<uint32_t> values) {
+    std::vector<uint8_t> out;
+    for (uint32_t v : values) {
+        esp::packLE32(out, v);
+    }
+    return out;
 }
 
 /// A stub image: the five header words (text at 0x40380000, data at 0x3FC90000,
