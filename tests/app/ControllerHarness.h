@@ -1,51 +1,77 @@
 #pragma once
 
-#include <QObject>
-#include <QStringList>
-#include <QTemporaryDir>
+#include <QTest>
+#include <cstring>
 #include <memory>
 #include <optional>
 
 #include "app/UpdateController.h"
 
-/// An UpdateController whose device detection answers a path the test sets, with
-/// a record of every state and status it published.
+/// Lets QCOMPARE print states.
+inline char* toString(const UpdateState& state) {
+    return QTest::toString(state.toString());
+}
+
+/// An UpdateController whose device detection answers the path a test plugs in,
+/// with a record of the states and status lines it published.
 class ControllerHarness : public QObject {
-    Q_OBJECT
-
-  public:
-    explicit ControllerHarness(const QString& resourcesRoot);
-    ~ControllerHarness() override;
-
-    UpdateController& controller() { return *m_controller; }
-
-    /// The path the next polls detect; empty: no device.
-    void setPort(const QString& path);
-    /// Waits until the controller has followed a poll to ready (or idle).
-    bool waitForConnection(bool connected, int timeoutMs = 2000);
-
-    /// Forgets the recorded states and statuses.
-    void clearHistory();
-    const QList<UpdateState>& states() const { return m_states; }
-    const QStringList& statuses() const { return m_statuses; }
-    /// Waits for the first error, flashComplete or configComplete recorded since
-    /// the last `clearHistory`. Lines logged after a success may still be on their way.
-    std::optional<UpdateState> waitForOutcome(int timeoutMs);
-
-  private:
+    // Declared first: the controller's detector shares it.
     std::shared_ptr<QByteArray> m_port = std::make_shared<QByteArray>();
-    std::unique_ptr<UpdateController> m_controller;
-    QList<UpdateState> m_states;
-    QStringList m_statuses;
-};
 
-/// A copy of the development resources without the named top-level files
-/// (e.g. "esp32s3_stub.bin") or configurations (e.g. "configs/Halcot.yaml").
-class ResourcesWithout {
   public:
-    explicit ResourcesWithout(const QStringList& missing);
-    QString root() const { return m_dir.path(); }
+    explicit ControllerHarness(const QString& resourcesRoot = TFU_DEV_RESOURCES_DIR)
+        : controller(ResourceBundle(resourcesRoot), [port = m_port](uint16_t, uint16_t) -> char* {
+              return port->isEmpty() ? nullptr : strdup(port->constData());
+          }) {
+        connect(&controller, &UpdateController::stateChanged, this,
+                [this](const UpdateState& state) { states.append(state); });
+        connect(&controller, &UpdateController::statusMessageChanged, this,
+                [this](const QString& status) { statuses.append(status); });
+    }
 
-  private:
-    QTemporaryDir m_dir;
+    /// Plugs in `path` (empty: unplugs), waits until a poll has made the controller
+    /// ready (or idle), then forgets the history.
+    bool plug(const QString& path) {
+        *m_port = path.toUtf8();
+        states.clear();
+        const UpdateState wanted = path.isEmpty() ? UpdateState::idle() : UpdateState::ready();
+        const bool followed = QTest::qWaitFor([&] { return states.contains(wanted); }, 2000);
+        states.clear();
+        statuses.clear();
+        return followed;
+    }
+
+    /// The first error, flashComplete or configComplete recorded, waiting up to
+    /// `timeoutMs`. Lines logged after a success may still be on their way.
+    std::optional<UpdateState> waitForOutcome(int timeoutMs) {
+        using K = UpdateState::Kind;
+        std::optional<UpdateState> outcome;
+        const bool found = QTest::qWaitFor(
+            [&] {
+                for (const auto& state : states) {
+                    if (state.kind() == K::error || state.kind() == K::flashComplete ||
+                        state.kind() == K::configComplete) {
+                        outcome = state;
+                        return true;
+                    }
+                }
+                return false;
+            },
+            timeoutMs);
+        return found ? outcome : std::nullopt;
+    }
+
+    /// The first busy state recorded; ready when there was none.
+    UpdateState firstBusy() const {
+        for (const auto& state : states) {
+            if (state.isBusy()) {
+                return state;
+            }
+        }
+        return UpdateState::ready();
+    }
+
+    UpdateController controller;
+    QList<UpdateState> states;
+    QStringList statuses;
 };

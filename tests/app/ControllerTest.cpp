@@ -1,14 +1,30 @@
+#include <QDirIterator>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include "ControllerHarness.h"
-#include "TestSupport.h"
 
 namespace {
 
 const QString kMissingPort = QStringLiteral("/dev/tfu-no-such-port");
 const QString kShipped = QStringLiteral("Updating firmware v2.10.6\u2026");
+const QString kOpenFailed = QStringLiteral("Could not open serial port. Is another app using it?");
+
+/// A copy of the development resources without the named files.
+struct ResourcesWithout {
+    explicit ResourcesWithout(const QStringList& missing) {
+        const QDir source(TFU_DEV_RESOURCES_DIR);
+        QDir(dir.path()).mkpath(QStringLiteral("configs"));
+        QDirIterator files(source.path(), QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString relative = source.relativeFilePath(files.next());
+            if (!missing.contains(relative)) {
+                QFile::copy(files.filePath(), dir.filePath(relative));
+            }
+        }
+    }
+    QTemporaryDir dir;
+};
 
 }  // namespace
 
@@ -17,57 +33,43 @@ class ControllerTest : public QObject {
 
   private slots:
     void followsTheConnection();
-    void startWithoutDeviceOnlyLogs();
-    void unreadableConfigFileOnlyLogs();
+    void refusedStartsOnlyLog();
     void failures_data();
     void failures();
     void customFirmwareChoice();
 };
 
 void ControllerTest::followsTheConnection() {
-    ControllerHarness harness(TFU_DEV_RESOURCES_DIR);
-    auto& controller = harness.controller();
-    QCOMPARE(controller.state(), UpdateState::idle());
-    QCOMPARE(controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
-    QCOMPARE(controller.firmwareLabel(), QStringLiteral("Firmware version 2.10.6"));
+    ControllerHarness harness;
+    QCOMPARE(harness.controller.state(), UpdateState::idle());
+    QCOMPARE(harness.controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
 
-    harness.setPort(kMissingPort);
-    QVERIFY(harness.waitForConnection(true));
-    QCOMPARE(controller.statusMessage(), QStringLiteral("Device connected"));
-    QCOMPARE(controller.deviceMonitor()->portPath(), kMissingPort);
+    QVERIFY(harness.plug(kMissingPort));
+    QCOMPARE(harness.controller.statusMessage(), QStringLiteral("Device connected"));
+    QCOMPARE(harness.controller.deviceMonitor()->portPath(), kMissingPort);
 
-    harness.setPort({});
-    QVERIFY(harness.waitForConnection(false));
-    QCOMPARE(controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
+    QVERIFY(harness.plug({}));
+    QCOMPARE(harness.controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
 }
 
-void ControllerTest::startWithoutDeviceOnlyLogs() {
-    ControllerHarness harness(TFU_DEV_RESOURCES_DIR);
-    auto& controller = harness.controller();
+void ControllerTest::refusedStartsOnlyLog() {
+    ControllerHarness harness;
+    auto& controller = harness.controller;
     controller.log("earlier line");
     controller.updateFirmware();
     controller.uploadConfig("Halcot.yaml", "Corvane Halcot");
-    controller.uploadConfigFromFile(QStringLiteral(TFU_DEV_RESOURCES_DIR "/configs/mrv.yaml"));
+    controller.uploadConfigFromFile(TFU_DEV_RESOURCES_DIR "/configs/mrv.yaml");
     const QString refused = QStringLiteral("ERROR: No device connected");
     QTRY_COMPARE(controller.logMessages(),
                  QStringList({"earlier line", refused, refused, refused}));
-    QCOMPARE(controller.state(), UpdateState::idle());
-}
 
-void ControllerTest::unreadableConfigFileOnlyLogs() {
-    ControllerHarness harness(TFU_DEV_RESOURCES_DIR);
-    auto& controller = harness.controller();
-    harness.setPort(kMissingPort);
-    QVERIFY(harness.waitForConnection(true));
-    controller.log("earlier line");
-    harness.clearHistory();
+    // With a device, an unreadable file is refused before any job starts.
+    QVERIFY(harness.plug(kMissingPort));
     controller.uploadConfigFromFile("/nonexistent/folder/machine.yaml");
-    QTRY_COMPARE(controller.logMessages(),
-                 QStringList({"earlier line", "ERROR: Could not read file: machine.yaml"}));
+    QTRY_COMPARE(controller.logMessages().last(),
+                 QStringLiteral("ERROR: Could not read file: machine.yaml"));
     QTest::qWait(300);
-    for (const auto& state : harness.states()) {
-        QCOMPARE(state, UpdateState::ready());
-    }
+    QVERIFY(harness.states.count(UpdateState::ready()) == harness.states.size());
 }
 
 void ControllerTest::failures_data() {
@@ -77,48 +79,33 @@ void ControllerTest::failures_data() {
     QTest::addColumn<bool>("detailedLogging");
     QTest::addColumn<QString>("config");  // empty: a firmware update
     QTest::addColumn<QString>("message");
-    QTest::addColumn<QStringList>("log");
-    QTest::addColumn<UpdateState>("stateBeforeError");
+    QTest::addColumn<QStringList>("logBeforeError");
 
-    const auto error = [](const QString& message) { return QStringLiteral("ERROR: ") + message; };
-    const UpdateState none = UpdateState::ready();
-    QString message = "Bundled firmware not found";
     QTest::newRow("shipped image missing")
-        << QStringList{"firmware.bin"} << QString() << true << false << QString() << message
-        << QStringList{error(message)} << none;
-    message = "Failed to load custom firmware: No such file or directory";
+        << QStringList{"firmware.bin"} << QString() << true << false << QString()
+        << "Bundled firmware not found" << QStringList{};
     QTest::newRow("custom image unreadable")
-        << QStringList{} << "/nonexistent/custom.bin" << true << false << QString() << message
-        << QStringList{error(message)} << none;
-    message = "Flash stub not found in bundle";
+        << QStringList{} << "/nonexistent/custom.bin" << true << false << QString()
+        << "Failed to load custom firmware: No such file or directory" << QStringList{};
     QTest::newRow("stub missing") << QStringList{"esp32s3_stub.bin"} << QString() << true << false
-                                  << QString() << message << QStringList{kShipped, error(message)}
-                                  << none;
-    message = "Missing bootloader resources for full flash";
+                                  << QString() << "Flash stub not found in bundle"
+                                  << QStringList{kShipped};
     QTest::newRow("no answer, partition table missing")
-        << QStringList{"partitions.bin"} << QString() << false << false << QString() << message
+        << QStringList{"partitions.bin"} << QString() << false << false << QString()
+        << "Missing bootloader resources for full flash"
         << QStringList{kShipped, "Checking device status\u2026",
-                       "Device not responding \u2014 writing boot partitions + firmware.",
-                       error(message)}
-        << none;
-    message = "Could not open serial port. Is another app using it?";
-    QTest::newRow("library fails, plain log")
-        << QStringList{} << QString() << true << false << QString() << message
-        << QStringList{kShipped, error(message)} << UpdateState::flashing(0);
+                       "Device not responding \u2014 writing boot partitions + firmware."};
+    QTest::newRow("library fails, plain log") << QStringList{} << QString() << true << false
+                                              << QString() << kOpenFailed << QStringList{kShipped};
     QTest::newRow("library fails, detailed log")
-        << QStringList{} << QString() << true << true << QString() << message
-        << QStringList{kShipped, "Opening port: " + kMissingPort, "Failed to open port",
-                       error(message)}
-        << UpdateState::flashing(0);
-    message = "Config file not found in bundle: Halcot.yaml";
+        << QStringList{} << QString() << true << true << QString() << kOpenFailed
+        << QStringList{kShipped, "Opening port: " + kMissingPort, "Failed to open port"};
     QTest::newRow("configuration missing")
         << QStringList{"configs/Halcot.yaml"} << QString() << false << false << "Halcot.yaml"
-        << message << QStringList{error(message)} << UpdateState::uploadingConfig(0);
-    message = "Could not open serial port. Is another app using it?";
+        << "Config file not found in bundle: Halcot.yaml" << QStringList{};
     QTest::newRow("configuration, library fails")
-        << QStringList{} << QString() << false << false << "Halcot.yaml" << message
-        << QStringList{"Preparing Corvane Halcot config v1.2.0-devset", error(message)}
-        << UpdateState::uploadingConfig(0);
+        << QStringList{} << QString() << false << false << "Halcot.yaml" << kOpenFailed
+        << QStringList{"Preparing Corvane Halcot config v1.2.0-devset"};
 }
 
 void ControllerTest::failures() {
@@ -128,49 +115,39 @@ void ControllerTest::failures() {
     QFETCH(bool, detailedLogging);
     QFETCH(QString, config);
     QFETCH(QString, message);
-    QFETCH(QStringList, log);
-    QFETCH(UpdateState, stateBeforeError);
+    QFETCH(QStringList, logBeforeError);
 
     const ResourcesWithout resources(missing);
-    ControllerHarness harness(resources.root());
-    auto& controller = harness.controller();
+    ControllerHarness harness(resources.dir.path());
+    auto& controller = harness.controller;
     controller.setWriteBootPartitionsEnabled(writeBootPartitions);
     controller.setDetailedLogging(detailedLogging);
     if (!customFirmware.isEmpty()) {
         controller.setCustomFirmwareURL(QUrl::fromLocalFile(customFirmware));
     }
-    harness.setPort(kMissingPort);
-    QVERIFY(harness.waitForConnection(true));
     controller.log("line of an earlier job");
-    QTRY_COMPARE(controller.logMessages().size(), 1);
-    harness.clearHistory();
+    QVERIFY(harness.plug(kMissingPort));
 
     if (config.isEmpty()) {
         controller.updateFirmware();
     } else {
         controller.uploadConfig(config, "Corvane Halcot");
     }
-    const auto outcome = harness.waitForOutcome(5000);
-    QCOMPARE(outcome, std::optional(UpdateState::error(message)));
-    QCOMPARE(controller.logMessages(), log);
-    QVERIFY(harness.statuses().contains(message));
-    const auto& states = harness.states();
-    const qsizetype errorAt = states.indexOf(UpdateState::error(message));
-    const auto busyBefore = std::find_if(states.begin(), states.begin() + errorAt,
-                                         [](const UpdateState& s) { return s.isBusy(); });
-    QCOMPARE(busyBefore == states.begin() + errorAt ? UpdateState::ready() : *busyBefore,
-             stateBeforeError);
+    QCOMPARE(harness.waitForOutcome(5000), std::optional(UpdateState::error(message)));
+    QCOMPARE(controller.logMessages(), logBeforeError + QStringList{"ERROR: " + message});
+    QVERIFY(harness.statuses.contains(message));
 
     // The next poll brings the controller back to ready; the log keeps the outcome.
     QTRY_COMPARE_WITH_TIMEOUT(controller.state(), UpdateState::ready(), 2000);
     QCOMPARE(controller.statusMessage(), QStringLiteral("Device connected"));
-    QCOMPARE(controller.logMessages().last(), QStringLiteral("ERROR: ") + message);
+    QCOMPARE(controller.logMessages().last(), "ERROR: " + message);
 }
 
 void ControllerTest::customFirmwareChoice() {
-    ControllerHarness harness(TFU_DEV_RESOURCES_DIR);
-    auto& controller = harness.controller();
+    ControllerHarness harness;
+    auto& controller = harness.controller;
     QSignalSpy changes(&controller, &UpdateController::customFirmwareURLChanged);
+    QCOMPARE(controller.firmwareLabel(), QStringLiteral("Firmware version 2.10.6"));
 
     controller.chooseCustomFirmware(QStringLiteral("/home/user/builds/custom-2.11.bin"));
     QCOMPARE(controller.customFirmwareURL(),
