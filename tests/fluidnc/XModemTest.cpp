@@ -3,6 +3,7 @@
 #include <map>
 #include <numeric>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -161,18 +162,15 @@ TEST_P(XModemModeTest, SendsPaddedBlocksWithTheCheckTheReceiverAskedFor) {
 INSTANTIATE_TEST_SUITE_P(Modes, XModemModeTest,
                          ::testing::Values(ModeCase{'C', 1029}, ModeCase{NAK, 1028}));
 
-TEST_F(XModemTest, WholeBlockFileGetsNoPaddingBlock) {
-    const auto file = sampleFile(1024);
-    ASSERT_TRUE(upload(file));
-    ASSERT_EQ(receiver.blocks.size(), 1u);
-    EXPECT_TRUE(std::equal(file.begin(), file.end(), receiver.blocks[0].begin() + 3));
-}
-
-TEST_F(XModemTest, EmptyFileSendsOnlyTheEndOfTransmission) {
-    ASSERT_TRUE(upload({}));
-    EXPECT_TRUE(receiver.blocks.empty());
-    EXPECT_EQ(receiver.eots, 1);
-    EXPECT_TRUE(progressCalls.empty());
+TEST_F(XModemTest, WholeBlocksGetNoPaddingBlockAndAnEmptyFileOnlyEnds) {
+    for (const size_t size : {1024, 0}) {
+        receiver = FakeReceiver{};
+        progressCalls.clear();
+        ASSERT_TRUE(upload(sampleFile(size)));
+        EXPECT_EQ(receiver.blocks.size(), size / 1024);
+        EXPECT_EQ(progressCalls.size(), size / 1024);
+        EXPECT_EQ(receiver.eots, 1);
+    }
 }
 
 TEST_F(XModemTest, BlockNumbersWrapAfter255) {
@@ -210,16 +208,13 @@ TEST_F(XModemTest, GivesUpAfter25TransmissionsOfOneBlock) {
     EXPECT_EQ(receiver.eots, 0);
 }
 
-TEST_F(XModemTest, RepeatsTheEndOfTransmissionUntilAcknowledged) {
-    receiver.eotRefusals = 3;
-    EXPECT_TRUE(upload(sampleFile(10)));
-    EXPECT_EQ(receiver.eots, 4);
-}
-
-TEST_F(XModemTest, FailsAfter25UnacknowledgedEnds) {
-    receiver.eotRefusals = 100;
-    EXPECT_FALSE(upload(sampleFile(10)));
-    EXPECT_EQ(receiver.eots, 25);
+TEST_F(XModemTest, RepeatsTheEndOfTransmissionUpTo25Times) {
+    for (const auto& [refusals, ok, eots] : {std::tuple{3, true, 4}, std::tuple{100, false, 25}}) {
+        receiver = FakeReceiver{};
+        receiver.eotRefusals = refusals;
+        EXPECT_EQ(upload(sampleFile(10)), ok);
+        EXPECT_EQ(receiver.eots, eots);
+    }
 }
 
 TEST_F(XModemTest, ConsoleTextBeforeTheHandshakeUsesUpTries) {
