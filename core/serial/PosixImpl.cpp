@@ -1,13 +1,11 @@
 #include "PosixImpl.h"
 
 #include <fcntl.h>
-#include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/select.h>
 #include <termios.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 
 #include "Clock.h"
@@ -16,12 +14,6 @@ namespace {
 
 // Below a microsecond the select time-out would truncate to zero and turn into a poll.
 constexpr int64_t kMinWaitNs = 1'000;
-// A device that takes no byte for this long has hung with the line still there (a USB
-// endpoint that stays busy); its write fails instead of blocking the job for ever.
-constexpr int kWriteStallMs = 10'000;
-// A pseudo-terminal does not always signal the room its reader has made, so a full
-// line is tried again after this long whether or not it said so.
-constexpr int kWriteRetryMs = 20;
 
 timeval toTimeval(int64_t ns) {
     timeval tv{};
@@ -37,13 +29,12 @@ PosixImpl::~PosixImpl() {
 }
 
 bool PosixImpl::open(const std::string& path) {
-    // Non-blocking throughout: opening cannot hang on carrier detect, reads wait in
-    // select, and writes wait in poll, so that a device that stops taking bytes
-    // cannot hold a write for ever.
+    // O_NONBLOCK only so that opening cannot hang on carrier detect; I/O blocks later.
     fd_ = ::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK);
     if (fd_ < 0) {
         return false;
     }
+    ::fcntl(fd_, F_SETFL, ::fcntl(fd_, F_GETFL) & ~O_NONBLOCK);
     if (!configure()) {
         close();
         return false;
@@ -68,9 +59,6 @@ bool PosixImpl::configure() {
 
 void PosixImpl::close() {
     if (fd_ >= 0) {
-        // Bytes a hung device never took would hold close() for the driver's
-        // closing wait (up to 30 s on USB serial ports).
-        ::tcflush(fd_, TCOFLUSH);
         ::close(fd_);
         fd_ = -1;
     }
@@ -81,32 +69,15 @@ bool PosixImpl::write(const uint8_t* data, size_t len) {
         return false;
     }
     size_t done = 0;
-    mono::Deadline stall(kWriteStallMs);
     while (done < len) {
         const ssize_t n = ::write(fd_, data + done, len - done);
-        if (n > 0) {
+        if (n >= 0) {
             done += static_cast<size_t>(n);
-            stall = mono::Deadline(kWriteStallMs);
-            continue;
-        }
-        if (n < 0 && errno == EINTR) {
-            continue;
-        }
-        // The line's buffer is full: wait until the device takes bytes again.
-        if ((n < 0 && errno != EAGAIN) || !waitWritable(stall)) {
+        } else if (errno != EINTR) {
             return false;
         }
     }
     return true;
-}
-
-bool PosixImpl::waitWritable(const mono::Deadline& stall) const {
-    const int remaining = stall.remainingMs();
-    if (remaining <= 0) {
-        return false;
-    }
-    pollfd writable{fd_, POLLOUT, 0};
-    return ::poll(&writable, 1, std::min(remaining, kWriteRetryMs)) >= 0 || errno == EINTR;
 }
 
 size_t PosixImpl::read(uint8_t* buf, size_t len, int timeoutMs) {

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "Clock.h"
 #include "SerialPort.h"
 
 /// A device node driven through the POSIX terminal interface. Owns its descriptor
@@ -29,9 +28,6 @@ class PosixImpl final : public SerialPort::Impl {
   private:
     bool configure();
     bool setModemBit(int bit, bool level);
-    /// Waits a short while for the device to take bytes again; false once `stall`
-    /// has passed or the wait failed.
-    bool waitWritable(const mono::Deadline& stall) const;
 
     int fd_ = -1;
 };

@@ -65,7 +65,6 @@ class SerialPort {
     bool isOpen() const;
 
     /// Writes every byte, retrying interrupted and partial writes; 0 bytes is true.
-    /// False when the write fails or a device node takes no byte for 10 s (it hung).
     bool write(const uint8_t* data, size_t len);
     bool write(const std::vector<uint8_t>& data);
 
