@@ -1,13 +1,10 @@
 #include <QAction>
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTemporaryDir>
-#include <QTextBlock>
 #include <QTextBrowser>
 #include <QTimer>
 
@@ -15,55 +12,22 @@
 #include "app/UpdateController.h"
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
-#include "ui/UpdaterView.h"
 
 namespace {
 
-// One line per item: "title|shortcut|flags", submenus indented, "---" for separators.
-void describeMenu(const QMenu* menu, const QString& indent, QStringList& out) {
-    for (const QAction* action : menu->actions()) {
-        if (action->isSeparator()) {
-            out.append(indent + QStringLiteral("---"));
-            continue;
-        }
-        QString flags;
-        flags += action->isEnabled() ? QString() : QStringLiteral("disabled ");
-        flags += action->isCheckable() ? QStringLiteral("checkable ") : QString();
-        flags += action->data().isValid() ? QStringLiteral("tag=") + action->data().toString()
-                                          : QString();
-        out.append(indent + action->text() + QLatin1Char('|') +
-                   action->shortcut().toString(QKeySequence::PortableText) + QLatin1Char('|') +
-                   flags.trimmed());
-        if (action->menu() != nullptr) {
-            describeMenu(action->menu(), indent + QStringLiteral("  "), out);
+// One line per item, "title|shortcut|flags", submenus indented, "---" for separators.
+void describe(const QList<QAction*>& actions, const QString& indent, QStringList& out) {
+    for (const QAction* item : actions) {
+        QString line = item->isSeparator() ? QStringLiteral("---")
+                                           : item->text() + '|' + item->shortcut().toString() + '|';
+        line += item->isEnabled() ? "" : "disabled";
+        line += item->isCheckable() ? "checkable" : "";
+        line += item->data().isValid() ? "tag=" + item->data().toString() : QString();
+        out.append(indent + line);
+        if (item->menu() != nullptr) {
+            describe(item->menu()->actions(), indent + "  ", out);
         }
     }
-}
-
-QStringList describeMenuBar(const QMenuBar* bar) {
-    QStringList out;
-    for (const QAction* top : bar->actions()) {
-        out.append(QStringLiteral("[") + top->text() + QLatin1Char(']'));
-        describeMenu(top->menu(), QStringLiteral("  "), out);
-    }
-    return out;
-}
-
-// A label keeps its place's horizontal extent and vertical centre; it may only grow.
-bool sitsIn(const QWidget* label, const QRect& place) {
-    const QRect actual = label->geometry();
-    return actual.left() == place.left() && actual.width() == place.width() &&
-           actual.height() >= place.height() &&
-           qAbs((actual.top() + actual.bottom()) - (place.top() + place.bottom())) <= 1;
-}
-
-QAction* findAction(const QMenuBar* bar, const QString& text) {
-    for (QAction* action : bar->findChildren<QAction*>()) {
-        if (action->text() == text) {
-            return action;
-        }
-    }
-    return nullptr;
 }
 
 }  // namespace
@@ -75,24 +39,20 @@ class AppDelegateTest : public QObject {
     void init();
     void cleanup();
 
-    void mainWindowHasItsTitleAndFixedSize();
     void menuBarMatchesTheTable();
     void emptyProductTableDisablesTheProductMenu();
     void togglesFlipTheFlagAndTheCheckMark_data();
     void togglesFlipTheFlagAndTheCheckMark();
-    void checkMarksStartFromTheController();
     void productItemsUploadByTagWithinRange();
-    void firstProductUploadsItsConfigUnderItsName();
-    void firmwareMenuUsesTheDialogAndTheBundledImage();
-    void configFromDiskUsesTheDialog();
-    void aboutWindowIsBuiltOnceAndComesBackUnchanged();
-    void aboutWindowPlacesItsContent();
+    void fileItemsAskForTheirKindOfFile();
+    void aboutWindowIsBuiltOnceAndReused();
     void escapeClosesAboutOnlyWhileItIsActive();
     void closingTheMainWindowQuitsOnlyAfterAboutCloses();
 
   private:
     void launch(QList<ProductConfig> products);
     QAction* action(const QString& text) const;
+    QStringList menus() const;
 
     QTemporaryDir m_resources;
     FakePort m_port;
@@ -111,7 +71,6 @@ void AppDelegateTest::init() {
 void AppDelegateTest::cleanup() {
     m_delegate.reset();
     m_port.unplug();
-    QApplication::setWindowIcon(QIcon());
 }
 
 void AppDelegateTest::launch(QList<ProductConfig> products) {
@@ -130,67 +89,60 @@ void AppDelegateTest::launch(QList<ProductConfig> products) {
 }
 
 QAction* AppDelegateTest::action(const QString& text) const {
-    return findAction(m_delegate->window()->menuBar(), text);
+    for (QAction* item : m_delegate->window()->menuBar()->findChildren<QAction*>()) {
+        if (item->text() == text) {
+            return item;
+        }
+    }
+    return nullptr;
 }
 
-void AppDelegateTest::mainWindowHasItsTitleAndFixedSize() {
-    QMainWindow* window = m_delegate->window();
-    QCOMPARE(window->windowTitle(), QStringLiteral("Teskal Firmware Updater"));
-    QVERIFY(qobject_cast<UpdaterView*>(window->centralWidget()) != nullptr);
-    QCOMPARE(window->centralWidget()->size(), QSize(480, 420));
-    QCOMPARE(window->minimumSize(), window->maximumSize());
-    QCOMPARE(window->height(), 420 + window->menuBar()->height());
-    QVERIFY(QApplication::quitOnLastWindowClosed());
+QStringList AppDelegateTest::menus() const {
+    QStringList out;
+    describe(m_delegate->window()->menuBar()->actions(), {}, out);
+    return out;
 }
 
 void AppDelegateTest::menuBarMatchesTheTable() {
     const QStringList expected{
-        QStringLiteral("[Teskal Firmware Updater]"),
-        QStringLiteral("  About Teskal Firmware Updater||"),
-        QStringLiteral("  ---"),
-        QStringLiteral("  Quit|Ctrl+Q|"),
-        QStringLiteral("[File]"),
-        QStringLiteral("  Open Firmware File\u2026|Ctrl+O|"),
-        QStringLiteral("  Use Bundled Firmware||"),
-        QStringLiteral("[Options]"),
-        QStringLiteral("  Detailed Logging||checkable"),
-        QStringLiteral("  ---"),
-        QStringLiteral("  Write Boot Partitions||checkable"),
-        QStringLiteral("  Erase All Flash||checkable"),
-        QStringLiteral("[Config]"),
-        QStringLiteral("  Update Config||"),
-        QStringLiteral("    Alpha||tag=0"),
-        QStringLiteral("    Beta||tag=1"),
-        QStringLiteral("  ---"),
-        QStringLiteral("  Select from Disk...||"),
+        "Teskal Firmware Updater||",
+        "  About Teskal Firmware Updater||",
+        "  ---",
+        "  Quit|Ctrl+Q|",
+        "File||",
+        "  Open Firmware File\u2026|Ctrl+O|",
+        "  Use Bundled Firmware||",
+        "Options||",
+        "  Detailed Logging||checkable",
+        "  ---",
+        "  Write Boot Partitions||checkable",
+        "  Erase All Flash||checkable",
+        "Config||",
+        "  Update Config||",
+        "    Alpha||tag=0",
+        "    Beta||tag=1",
+        "  ---",
+        "  Select from Disk...||",
     };
-    QCOMPARE(describeMenuBar(m_delegate->window()->menuBar()), expected);
-    QCOMPARE(action(QStringLiteral("About Teskal Firmware Updater"))->menuRole(),
-             QAction::AboutRole);
-    QCOMPARE(action(QStringLiteral("Quit"))->menuRole(), QAction::QuitRole);
-    QCOMPARE(action(QStringLiteral("Update Config"))->menu()->title(),
-             QStringLiteral("Update Config"));
+    QCOMPARE(menus(), expected);
+    QCOMPARE(action("About Teskal Firmware Updater")->menuRole(), QAction::AboutRole);
+    QCOMPARE(action("Quit")->menuRole(), QAction::QuitRole);
+    QCOMPARE(m_delegate->window()->windowTitle(), QStringLiteral("Teskal Firmware Updater"));
 }
 
 void AppDelegateTest::emptyProductTableDisablesTheProductMenu() {
     launch({});
-    const QStringList menus = describeMenuBar(m_delegate->window()->menuBar());
-    const qsizetype config = menus.indexOf(QStringLiteral("[Config]"));
-    QCOMPARE(menus.mid(config),
-             (QStringList{QStringLiteral("[Config]"),
-                          QStringLiteral("  No products configured||disabled"),
-                          QStringLiteral("  ---"), QStringLiteral("  Select from Disk...||")}));
+    QCOMPARE(menus().mid(menus().indexOf("Config||")),
+             QStringList({"Config||", "  No products configured||disabled", "  ---",
+                          "  Select from Disk...||"}));
 }
 
 void AppDelegateTest::togglesFlipTheFlagAndTheCheckMark_data() {
     QTest::addColumn<QString>("title");
     QTest::addColumn<QByteArray>("flag");
-    QTest::newRow("detailed logging")
-        << QStringLiteral("Detailed Logging") << QByteArray("detailedLogging");
-    QTest::newRow("write boot partitions")
-        << QStringLiteral("Write Boot Partitions") << QByteArray("writeBootPartitionsEnabled");
-    QTest::newRow("erase all flash")
-        << QStringLiteral("Erase All Flash") << QByteArray("eraseAllFlashEnabled");
+    QTest::newRow("detailed") << "Detailed Logging" << QByteArray("detailedLogging");
+    QTest::newRow("boot") << "Write Boot Partitions" << QByteArray("writeBootPartitionsEnabled");
+    QTest::newRow("erase") << "Erase All Flash" << QByteArray("eraseAllFlashEnabled");
 }
 
 void AppDelegateTest::togglesFlipTheFlagAndTheCheckMark() {
@@ -198,30 +150,14 @@ void AppDelegateTest::togglesFlipTheFlagAndTheCheckMark() {
     QFETCH(QByteArray, flag);
     QAction* item = action(title);
     const UpdateController& controller = m_delegate->updateController();
-    const auto flagValue = [&] { return controller.property(flag.constData()).toBool(); };
-
-    item->trigger();
-    QCOMPARE(flagValue(), true);
-    QCOMPARE(item->isChecked(), true);
-    item->trigger();
-    QCOMPARE(flagValue(), false);
-    QCOMPARE(item->isChecked(), false);
-}
-
-void AppDelegateTest::checkMarksStartFromTheController() {
-    m_delegate = std::make_unique<AppDelegate>(
-        std::make_unique<UpdateController>(ResourceBundle(m_resources.path()), m_port.detector()),
-        AppDelegate::Options());
-    m_delegate->updateController().setEraseAllFlashEnabled(true);
-    m_delegate->applicationDidFinishLaunching();
-    QVERIFY(action(QStringLiteral("Erase All Flash"))->isChecked());
-    QVERIFY(!action(QStringLiteral("Detailed Logging"))->isChecked());
-    QVERIFY(!action(QStringLiteral("Write Boot Partitions"))->isChecked());
+    for (const bool on : {true, false}) {
+        item->trigger();
+        QCOMPARE(controller.property(flag.constData()).toBool(), on);
+        QCOMPARE(item->isChecked(), on);
+    }
 }
 
 void AppDelegateTest::productItemsUploadByTagWithinRange() {
-    // Without a device, an upload that reaches the controller logs this line.
-    const QStringList refused{QStringLiteral("ERROR: No device connected")};
     QAction probe;
     for (const QVariant& tag : {QVariant(-1), QVariant(2), QVariant(), QVariant("x")}) {
         probe.setData(tag);
@@ -230,143 +166,50 @@ void AppDelegateTest::productItemsUploadByTagWithinRange() {
     QTest::qWait(50);
     QCOMPARE(m_delegate->updateController().logMessages(), QStringList());
 
+    // Without a device, an upload that reaches the controller logs this line.
     probe.setData(1);
     m_delegate->uploadConfigAction(&probe);
-    QTRY_COMPARE(m_delegate->updateController().logMessages(), refused);
+    QTRY_COMPARE(m_delegate->updateController().logMessages(),
+                 QStringList{"ERROR: No device connected"});
 }
 
-void AppDelegateTest::firstProductUploadsItsConfigUnderItsName() {
-    QVERIFY(QDir(m_resources.path()).mkpath(QStringLiteral("configs")));
-    QFile config(m_resources.filePath(QStringLiteral("configs/alpha.yaml")));
-    QVERIFY(config.open(QIODevice::WriteOnly));
-    config.write("name: alpha\nmeta: \"1.4.2\"\n");
-    config.close();
-    m_port.plug("/nonexistent/ttyACM7");
-    QTRY_VERIFY(m_delegate->updateController().deviceMonitor()->isConnected());
-
-    QAction* first = action(QStringLiteral("Alpha"));
-    QCOMPARE(first->data().toInt(), 0);
-    first->trigger();
-    QTRY_VERIFY(!m_delegate->updateController().logMessages().isEmpty());
-    QCOMPARE(m_delegate->updateController().logMessages().first(),
-             QStringLiteral("Preparing Alpha config v1.4.2"));
-    QTRY_VERIFY(m_delegate->updateController().state().kind() == UpdateState::Kind::error);
-}
-
-void AppDelegateTest::firmwareMenuUsesTheDialogAndTheBundledImage() {
+void AppDelegateTest::fileItemsAskForTheirKindOfFile() {
     UpdateController& controller = m_delegate->updateController();
-    action(QStringLiteral("Open Firmware File\u2026"))->trigger();
-    QCOMPARE(m_requests.size(), 1);
-    QCOMPARE(m_requests[0].message, QStringLiteral("Select a firmware binary (.bin)"));
-    QCOMPARE(m_requests[0].extensions, QStringList{QStringLiteral("bin")});
-    QVERIFY(controller.customFirmwareURL().isEmpty());
-
+    action("Select from Disk...")->trigger();  // cancelled
     m_chosenFile = QStringLiteral("/tmp/firmware/custom-2.11.bin");
-    action(QStringLiteral("Open Firmware File\u2026"))->trigger();
+    action("Open Firmware File\u2026")->trigger();
+    QCOMPARE(m_requests.size(), 2);
+    QCOMPARE(m_requests[0].extensions, QStringList({"yaml", "yml"}));
+    QCOMPARE(m_requests[1].message, QStringLiteral("Select a firmware binary (.bin)"));
+    QCOMPARE(m_requests[1].extensions, QStringList{"bin"});
     QCOMPARE(controller.customFirmwareURL().toLocalFile(), *m_chosenFile);
-    QTRY_COMPARE(controller.logMessages(),
-                 QStringList{QStringLiteral("Custom firmware: custom-2.11.bin")});
+    QTRY_COMPARE(controller.logMessages(), QStringList{"Custom firmware: custom-2.11.bin"});
 
-    action(QStringLiteral("Use Bundled Firmware"))->trigger();
+    action("Use Bundled Firmware")->trigger();
     QVERIFY(controller.customFirmwareURL().isEmpty());
     QTRY_COMPARE(controller.logMessages().last(), QStringLiteral("Using bundled firmware"));
 }
 
-void AppDelegateTest::configFromDiskUsesTheDialog() {
-    UpdateController& controller = m_delegate->updateController();
-    QAction* fromDisk = action(QStringLiteral("Select from Disk..."));
-    fromDisk->trigger();
-    QCOMPARE(m_requests.size(), 1);
-    QCOMPARE(m_requests[0].message, QStringLiteral("Select a configuration file (.yaml)"));
-    QCOMPARE(m_requests[0].extensions,
-             (QStringList{QStringLiteral("yaml"), QStringLiteral("yml")}));
-    QTest::qWait(50);
-    QVERIFY(controller.logMessages().isEmpty());
-
-    m_port.plug("/nonexistent/ttyACM7");
-    QTRY_VERIFY(controller.deviceMonitor()->isConnected());
-    m_chosenFile = m_resources.filePath(QStringLiteral("missing.yaml"));
-    fromDisk->trigger();
-    QTRY_COMPARE(controller.logMessages(),
-                 QStringList{QStringLiteral("ERROR: Could not read file: missing.yaml")});
-}
-
-void AppDelegateTest::aboutWindowIsBuiltOnceAndComesBackUnchanged() {
+void AppDelegateTest::aboutWindowIsBuiltOnceAndReused() {
     QVERIFY(m_delegate->aboutWindow() == nullptr);
-    action(QStringLiteral("About Teskal Firmware Updater"))->trigger();
+    action("About Teskal Firmware Updater")->trigger();
     AboutWindow* about = m_delegate->aboutWindow();
-    QVERIFY(about != nullptr);
     QVERIFY(QTest::qWaitForWindowExposed(about));
-    QCOMPARE(about->windowTitle(), QStringLiteral("About Teskal Firmware Updater"));
-    QCOMPARE(about->size(), QSize(420, 520));
-    QCOMPARE(about->minimumSize(), about->maximumSize());
-
-    const QString expected = QStringLiteral(
-                                 "Supported products:\n  Alpha\n  Beta\n\nLicenses:\n"
-                                 "  Firmware: GPL v3 (based on FluidNC)\n  Source: ") +
-                             AboutWindow::firmwareSourceUrl() +
-                             QStringLiteral("\n\n  Flash stub: Apache License 2.0\n  Source: ") +
-                             AboutWindow::stubSourceUrl() + QStringLiteral("\n");
-    QCOMPARE(about->information()->toPlainText(), expected);
-    QCOMPARE(about->titleLabel()->text(), QStringLiteral("Corvane\nTeskal Firmware Updater"));
+    QVERIFY(
+        about->information()->toPlainText().startsWith("Supported products:\n  Alpha\n  Beta\n"));
     QCOMPARE(about->versionLabel()->text(),
-             QStringLiteral("Firmware v2.10.6 (build ") + BuildConfig::buildDate() + ")");
+             "Firmware v2.10.6 (build " + BuildConfig::buildDate() + ")");
 
     about->close();
-    QVERIFY(!about->isVisible());
     m_delegate->showAbout();
     QCOMPARE(m_delegate->aboutWindow(), about);
     QVERIFY(about->isVisible());
-    QCOMPARE(about->information()->toPlainText(), expected);
-}
-
-void AppDelegateTest::aboutWindowPlacesItsContent() {
-    // Each link as "address shown-text".
-    const auto links = [](const AboutWindow& about) {
-        QStringList found;
-        for (QTextBlock block = about.information()->document()->begin(); block.isValid();
-             block = block.next()) {
-            for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) {
-                const QTextCharFormat format = fragment.fragment().charFormat();
-                if (format.isAnchor()) {
-                    found.append(format.anchorHref() + QLatin1Char(' ') +
-                                 fragment.fragment().text());
-                }
-            }
-        }
-        return found;
-    };
-
-    const AboutWindow plain({}, QStringLiteral("20260101"), QPixmap());
-    QVERIFY(plain.iconLabel() == nullptr);
-    QVERIFY(sitsIn(plain.titleLabel(), QRect(20, 26, 380, 48)));
-    QVERIFY(sitsIn(plain.versionLabel(), QRect(20, 84, 380, 18)));
-    QCOMPARE(plain.information()->geometry(), QRect(30, 126, 360, 344));
-    QVERIFY(sitsIn(plain.footerLabel(), QRect(20, 486, 380, 18)));
-    QVERIFY(plain.information()->toPlainText().startsWith(
-        QStringLiteral("Supported products:\n\n\nLicenses:\n")));
-    const QString firmware = AboutWindow::firmwareSourceUrl();
-    const QString stub = AboutWindow::stubSourceUrl();
-    QCOMPARE(links(plain), (QStringList{firmware + ' ' + firmware, stub + ' ' + stub}));
-    QVERIFY(QUrl(firmware).isValid() && QUrl(firmware).scheme() == QStringLiteral("https"));
-    QVERIFY(QUrl(stub).isValid() && QUrl(stub).scheme() == QStringLiteral("https"));
-
-    QPixmap icon(128, 128);
-    icon.fill(Qt::blue);
-    const AboutWindow withIcon({}, QStringLiteral("20260101"), icon);
-    QCOMPARE(withIcon.iconLabel()->geometry(), QRect(178, 30, 64, 64));
-    QVERIFY(sitsIn(withIcon.titleLabel(), QRect(20, 106, 380, 48)));
-    QVERIFY(sitsIn(withIcon.versionLabel(), QRect(20, 164, 380, 18)));
-    QCOMPARE(withIcon.information()->geometry(), QRect(30, 206, 360, 264));
-    QVERIFY(sitsIn(withIcon.footerLabel(), QRect(20, 486, 380, 18)));
 }
 
 void AppDelegateTest::escapeClosesAboutOnlyWhileItIsActive() {
     QMainWindow* window = m_delegate->window();
     m_delegate->showAbout();
     AboutWindow* about = m_delegate->aboutWindow();
-    QVERIFY(QTest::qWaitForWindowActive(about));
-
     window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(window));
     QTest::keyClick(window, Qt::Key_Escape);
@@ -374,15 +217,11 @@ void AppDelegateTest::escapeClosesAboutOnlyWhileItIsActive() {
 
     about->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(about));
+    QTest::keyClick(about, Qt::Key_A);  // other keys pass
+    QVERIFY(about->isVisible());
     QTest::keyClick(about, Qt::Key_Escape);
     QVERIFY(!about->isVisible());
     QVERIFY(window->isVisible());
-
-    // Other keys reach the window unchanged.
-    m_delegate->showAbout();
-    QVERIFY(QTest::qWaitForWindowActive(about));
-    QTest::keyClick(about, Qt::Key_A);
-    QVERIFY(about->isVisible());
 }
 
 void AppDelegateTest::closingTheMainWindowQuitsOnlyAfterAboutCloses() {
@@ -397,8 +236,7 @@ void AppDelegateTest::closingTheMainWindowQuitsOnlyAfterAboutCloses() {
         m_delegate->aboutWindow()->close();
     });
     QTimer giveUp;
-    giveUp.setSingleShot(true);
-    connect(&giveUp, &QTimer::timeout, qApp, [] { QCoreApplication::exit(1); });
+    giveUp.callOnTimeout([] { QCoreApplication::exit(1); });
     giveUp.start(5000);
     QCOMPARE(QCoreApplication::exec(), 0);
     QVERIFY(runningAfterMainClosed);

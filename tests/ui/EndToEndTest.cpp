@@ -3,9 +3,9 @@
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTest>
 #include <cstring>
 
-#include "UiTestSupport.h"
 #include "app/BuildConfig.h"
 #include "app/UpdateController.h"
 #include "sim/PtyPlotter.h"
@@ -25,11 +25,11 @@ class EndToEndTest : public QObject {
 
 void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     sim::PtyPlotter plotter;
-    const std::string port = plotter.path();
-    AppDelegate delegate(std::make_unique<UpdateController>(
-                             ResourceBundle(QStringLiteral(TFU_DEV_RESOURCES_DIR)),
-                             [port](uint16_t, uint16_t) { return strdup(port.c_str()); }),
-                         AppDelegate::Options());
+    AppDelegate delegate(
+        std::make_unique<UpdateController>(
+            ResourceBundle(QStringLiteral(TFU_DEV_RESOURCES_DIR)),
+            [port = plotter.path()](uint16_t, uint16_t) { return strdup(port.c_str()); }),
+        AppDelegate::Options());
     delegate.applicationDidFinishLaunching();
     auto* view = qobject_cast<UpdaterView*>(delegate.window()->centralWidget());
     const QStringList& log = view->logPanel()->view()->lines();
@@ -47,8 +47,7 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     QTRY_VERIFY(view->updateButton()->isEnabled());
     QTest::mouseClick(view->updateButton(), Qt::LeftButton);
     QTRY_VERIFY_WITH_TIMEOUT(log.contains(QStringLiteral("Firmware update complete.")), 60000);
-    QVERIFY(barShown);
-    QVERIFY(buttonHeldDisabled);
+    QVERIFY(barShown && buttonHeldDisabled);
     QTRY_VERIFY(view->updateButton()->isEnabled());
 
     const ProductConfig& product = BuildConfig::products().first();

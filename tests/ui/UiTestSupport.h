@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QString>
 #include <QTest>
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <string>
