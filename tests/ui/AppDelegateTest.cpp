@@ -6,7 +6,6 @@
 #include <QMenuBar>
 #include <QTemporaryDir>
 #include <QTextBrowser>
-#include <QTimer>
 
 #include "UiTestSupport.h"
 #include "app/UpdateController.h"
@@ -44,10 +43,8 @@ class AppDelegateTest : public QObject {
     void togglesFlipTheFlagAndTheCheckMark_data();
     void togglesFlipTheFlagAndTheCheckMark();
     void productItemsUploadByTagWithinRange();
-    void fileItemsAskForTheirKindOfFile();
     void aboutWindowIsBuiltOnceAndReused();
     void escapeClosesAboutOnlyWhileItIsActive();
-    void closingTheMainWindowQuitsOnlyAfterAboutCloses();
 
   private:
     void launch(QList<ProductConfig> products);
@@ -55,34 +52,24 @@ class AppDelegateTest : public QObject {
     QStringList menus() const;
 
     QTemporaryDir m_resources;
-    FakePort m_port;
     std::unique_ptr<AppDelegate> m_delegate;
-    QList<FileRequest> m_requests;
-    std::optional<QString> m_chosenFile;
 };
 
 void AppDelegateTest::init() {
-    m_requests.clear();
-    m_chosenFile.reset();
     launch({{QStringLiteral("Alpha"), QStringLiteral("alpha.yaml")},
             {QStringLiteral("Beta"), QStringLiteral("beta.yaml")}});
 }
 
 void AppDelegateTest::cleanup() {
     m_delegate.reset();
-    m_port.unplug();
 }
 
 void AppDelegateTest::launch(QList<ProductConfig> products) {
     m_delegate.reset();
     AppDelegate::Options options;
     options.products = std::move(products);
-    options.chooseFile = [this](QWidget*, const FileRequest& request) {
-        m_requests.append(request);
-        return m_chosenFile;
-    };
     m_delegate = std::make_unique<AppDelegate>(
-        std::make_unique<UpdateController>(ResourceBundle(m_resources.path()), m_port.detector()),
+        std::make_unique<UpdateController>(ResourceBundle(m_resources.path()), noDevice),
         std::move(options));
     m_delegate->applicationDidFinishLaunching();
     QVERIFY(QTest::qWaitForWindowExposed(m_delegate->window()));
@@ -173,23 +160,6 @@ void AppDelegateTest::productItemsUploadByTagWithinRange() {
                  QStringList{"ERROR: No device connected"});
 }
 
-void AppDelegateTest::fileItemsAskForTheirKindOfFile() {
-    UpdateController& controller = m_delegate->updateController();
-    action("Select from Disk...")->trigger();  // cancelled
-    m_chosenFile = QStringLiteral("/tmp/firmware/custom-2.11.bin");
-    action("Open Firmware File\u2026")->trigger();
-    QCOMPARE(m_requests.size(), 2);
-    QCOMPARE(m_requests[0].extensions, QStringList({"yaml", "yml"}));
-    QCOMPARE(m_requests[1].message, QStringLiteral("Select a firmware binary (.bin)"));
-    QCOMPARE(m_requests[1].extensions, QStringList{"bin"});
-    QCOMPARE(controller.customFirmwareURL().toLocalFile(), *m_chosenFile);
-    QTRY_COMPARE(controller.logMessages(), QStringList{"Custom firmware: custom-2.11.bin"});
-
-    action("Use Bundled Firmware")->trigger();
-    QVERIFY(controller.customFirmwareURL().isEmpty());
-    QTRY_COMPARE(controller.logMessages().last(), QStringLiteral("Using bundled firmware"));
-}
-
 void AppDelegateTest::aboutWindowIsBuiltOnceAndReused() {
     QVERIFY(m_delegate->aboutWindow() == nullptr);
     action("About Teskal Firmware Updater")->trigger();
@@ -222,24 +192,6 @@ void AppDelegateTest::escapeClosesAboutOnlyWhileItIsActive() {
     QTest::keyClick(about, Qt::Key_Escape);
     QVERIFY(!about->isVisible());
     QVERIFY(window->isVisible());
-}
-
-void AppDelegateTest::closingTheMainWindowQuitsOnlyAfterAboutCloses() {
-    m_delegate->showAbout();
-    QVERIFY(QTest::qWaitForWindowExposed(m_delegate->aboutWindow()));
-
-    // Quitting on the last window happens only inside the application's event loop.
-    bool runningAfterMainClosed = false;
-    QTimer::singleShot(0, this, [&] { m_delegate->window()->close(); });
-    QTimer::singleShot(100, this, [&] {
-        runningAfterMainClosed = true;
-        m_delegate->aboutWindow()->close();
-    });
-    QTimer giveUp;
-    giveUp.callOnTimeout([] { QCoreApplication::exit(1); });
-    giveUp.start(5000);
-    QCOMPARE(QCoreApplication::exec(), 0);
-    QVERIFY(runningAfterMainClosed);
 }
 
 QTEST_MAIN(AppDelegateTest)

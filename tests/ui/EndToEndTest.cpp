@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QProgressBar>
@@ -49,6 +50,8 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     QTRY_VERIFY_WITH_TIMEOUT(log.contains(QStringLiteral("Firmware update complete.")), 60000);
     QVERIFY(barShown && buttonHeldDisabled);
     QTRY_VERIFY(view->updateButton()->isEnabled());
+    QTRY_COMPARE(view->statusLabel()->text(), QStringLiteral("Device connected"));
+    QCOMPARE(view->portLabel()->text(), "(" + QString::fromStdString(plotter.path()) + ")");
 
     const ProductConfig& product = BuildConfig::products().first();
     for (QAction* item : delegate.window()->menuBar()->findChildren<QAction*>()) {

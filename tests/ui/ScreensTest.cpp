@@ -39,9 +39,8 @@ void ScreensTest::save(QWidget* window, const QString& name) {
 
 void ScreensTest::mainWindowStates() {
     QTemporaryDir resources;
-    FakePort port;
     AppDelegate delegate(
-        std::make_unique<UpdateController>(ResourceBundle(resources.path()), port.detector()),
+        std::make_unique<UpdateController>(ResourceBundle(resources.path()), noDevice),
         AppDelegate::Options());
     delegate.applicationDidFinishLaunching();
     QMainWindow* window = delegate.window();

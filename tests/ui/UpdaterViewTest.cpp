@@ -29,43 +29,29 @@ class UpdaterViewTest : public QObject {
 
   private slots:
     void init();
-    void cleanup();
 
-    void buttonAndProgressFollowStateAndConnection_data();
-    void buttonAndProgressFollowStateAndConnection();
-    void statusRowShowsPortOnlyWhenPresent();
+    void buttonProgressAndStatusRowFollowStateAndConnection_data();
+    void buttonProgressAndStatusRowFollowStateAndConnection();
     void errorLinesAreBold();
     void copyButtonShownWithLinesCopiesThem();
     void scrollsToTheLastLineWhenTheCountChanges();
-    void followsTheControllerAndItsMonitor();
 
   private:
-    // The monitor stays silent unless a test lets it speak, so states shown by a
-    // test are not replaced by "ready" or "idle" at the next poll.
+    // The monitor stays silent, so states shown by a test are not replaced by
+    // "ready" or "idle" at the next poll.
     QTemporaryDir m_resources;
-    FakePort m_port;
-    std::unique_ptr<UpdateController> m_controller;
-    std::unique_ptr<QSignalBlocker> m_quietMonitor;
+    UpdateController m_controller{ResourceBundle(m_resources.path()), noDevice};
+    QSignalBlocker m_quietMonitor{m_controller.deviceMonitor()};
     std::unique_ptr<UpdaterView> m_view;
 };
 
 void UpdaterViewTest::init() {
-    m_controller =
-        std::make_unique<UpdateController>(ResourceBundle(m_resources.path()), m_port.detector());
-    m_quietMonitor = std::make_unique<QSignalBlocker>(m_controller->deviceMonitor());
-    m_view = std::make_unique<UpdaterView>(*m_controller);
+    m_view = std::make_unique<UpdaterView>(m_controller);
     m_view->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_view.get()));
 }
 
-void UpdaterViewTest::cleanup() {
-    m_view.reset();
-    m_quietMonitor.reset();
-    m_controller.reset();
-    m_port.unplug();
-}
-
-void UpdaterViewTest::buttonAndProgressFollowStateAndConnection_data() {
+void UpdaterViewTest::buttonProgressAndStatusRowFollowStateAndConnection_data() {
     QTest::addColumn<UpdateState>("state");
     QTest::addColumn<bool>("connected");
     QTest::addColumn<bool>("enabled");
@@ -91,7 +77,7 @@ void UpdaterViewTest::buttonAndProgressFollowStateAndConnection_data() {
     }
 }
 
-void UpdaterViewTest::buttonAndProgressFollowStateAndConnection() {
+void UpdaterViewTest::buttonProgressAndStatusRowFollowStateAndConnection() {
     QFETCH(UpdateState, state);
     QFETCH(bool, connected);
     QFETCH(bool, enabled);
@@ -101,8 +87,14 @@ void UpdaterViewTest::buttonAndProgressFollowStateAndConnection() {
     // over from construction.
     m_view->showConnection(!connected, std::nullopt);
     m_view->showState(UpdateState::syncing());
-    m_view->showConnection(connected, QStringLiteral("/dev/ttyACM0"));
+    m_view->showConnection(
+        connected, connected ? std::optional(QStringLiteral("/dev/ttyACM0")) : std::nullopt);
     m_view->showState(state);
+
+    QCOMPARE(m_view->portLabel()->isVisibleTo(m_view.get()), connected);
+    QVERIFY(!connected || m_view->portLabel()->text() == QStringLiteral("(/dev/ttyACM0)"));
+    QCOMPARE(m_view->statusDot()->color(),
+             connected ? AppColors::connected() : AppColors::disconnected());
 
     QCOMPARE(m_view->updateButton()->isEnabled(), enabled);
     const QProgressBar* progress = m_view->progressBar();
@@ -114,17 +106,6 @@ void UpdaterViewTest::buttonAndProgressFollowStateAndConnection() {
     } else if (bar == Bar::indeterminate) {
         QCOMPARE(progress->maximum(), 0);
     }
-}
-
-void UpdaterViewTest::statusRowShowsPortOnlyWhenPresent() {
-    m_view->showConnection(true, QStringLiteral("/dev/ttyACM0"));
-    QVERIFY(m_view->portLabel()->isVisibleTo(m_view.get()));
-    QCOMPARE(m_view->portLabel()->text(), QStringLiteral("(/dev/ttyACM0)"));
-    QCOMPARE(m_view->statusDot()->color(), AppColors::connected());
-
-    m_view->showConnection(false, std::nullopt);
-    QVERIFY(!m_view->portLabel()->isVisibleTo(m_view.get()));
-    QCOMPARE(m_view->statusDot()->color(), AppColors::disconnected());
 }
 
 void UpdaterViewTest::errorLinesAreBold() {
@@ -180,28 +161,6 @@ void UpdaterViewTest::scrollsToTheLastLineWhenTheCountChanges() {
     m_view->showLog({});
     QTRY_COMPARE(bar->maximum(), 0);
     QCOMPARE(bar->value(), 0);
-}
-
-void UpdaterViewTest::followsTheControllerAndItsMonitor() {
-    m_quietMonitor.reset();
-    QCOMPARE(m_view->statusLabel()->text(), QStringLiteral("Waiting for device…"));
-    QCOMPARE(m_view->firmwareLabel()->text(), QStringLiteral("Firmware version 2.10.6"));
-
-    // A port that does not open: the job fails at once on the empty resources.
-    m_port.plug("/nonexistent/ttyACM7");
-    QTRY_VERIFY(m_view->updateButton()->isEnabled());
-    QCOMPARE(m_view->statusLabel()->text(), QStringLiteral("Device connected"));
-    QCOMPARE(m_view->portLabel()->text(), QStringLiteral("(/nonexistent/ttyACM7)"));
-    QTest::mouseClick(m_view->updateButton(), Qt::LeftButton);
-    QTRY_COMPARE(m_view->logPanel()->view()->lines(),
-                 QStringList{QStringLiteral("ERROR: Bundled firmware not found")});
-
-    m_controller->chooseCustomFirmware(QStringLiteral("/some/where/custom.bin"));
-    QCOMPARE(m_view->firmwareLabel()->text(), QStringLiteral("custom.bin"));
-
-    m_port.unplug();
-    QTRY_VERIFY(!m_view->updateButton()->isEnabled());
-    QCOMPARE(m_view->statusLabel()->text(), QStringLiteral("Waiting for device…"));
 }
 
 QTEST_MAIN(UpdaterViewTest)
