@@ -131,8 +131,11 @@ Bytes xmodemBlock(const Bytes& file, size_t offset, uint8_t number, bool crc) {
     Bytes data(1024, 0x1A);
     std::copy(file.begin() + offset, file.begin() + std::min(file.size(), offset + 1024),
               data.begin());
-    Bytes out{0x02, number, static_cast<uint8_t>(0xFF - number)};
-    out.insert(out.end(), data.begin(), data.end());
+    Bytes out(3 + data.size());
+    out[0] = 0x02;
+    out[1] = number;
+    out[2] = static_cast<uint8_t>(0xFF - number);
+    std::copy(data.begin(), data.end(), out.begin() + 3);
     if (crc) {
         const uint16_t c = fluidnc::crc16(data.data(), data.size());
         out.insert(out.end(), {static_cast<uint8_t>(c >> 8), static_cast<uint8_t>(c)});
