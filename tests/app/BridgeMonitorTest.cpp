@@ -73,9 +73,7 @@ void BridgeMonitorTest::bridgeConvertsNullAndInvalidTexts() {
 
 void BridgeMonitorTest::monitorPublishesPathBeforeConnectionOnEveryPoll() {
     QByteArray present("/dev/pts/77");
-    int detections = 0;
     DeviceMonitor monitor([&](uint16_t vendor, uint16_t product) -> char* {
-        ++detections;
         if (vendor != 0x303A || product != 0x1001 || present.isEmpty()) {
             return nullptr;
         }
@@ -102,7 +100,6 @@ void BridgeMonitorTest::monitorPublishesPathBeforeConnectionOnEveryPoll() {
     publications.clear();
     QTRY_VERIFY_WITH_TIMEOUT(publications.size() >= 2, 2000);
     QCOMPARE(publications.mid(0, 2), QStringList({"path ", "connected 0"}));
-    QVERIFY(detections >= 3);
 }
 
 QTEST_GUILESS_MAIN(BridgeMonitorTest)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTest>
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <optional>
@@ -44,31 +45,22 @@ class ControllerHarness : public QObject {
     /// The first error, flashComplete or configComplete recorded, waiting up to
     /// `timeoutMs`. Lines logged after a success may still be on their way.
     std::optional<UpdateState> waitForOutcome(int timeoutMs) {
-        using K = UpdateState::Kind;
-        std::optional<UpdateState> outcome;
-        const bool found = QTest::qWaitFor(
-            [&] {
-                for (const auto& state : states) {
-                    if (state.kind() == K::error || state.kind() == K::flashComplete ||
-                        state.kind() == K::configComplete) {
-                        outcome = state;
-                        return true;
-                    }
-                }
-                return false;
-            },
-            timeoutMs);
-        return found ? outcome : std::nullopt;
+        const auto outcome = [this] {
+            return std::find_if(states.begin(), states.end(), [](const UpdateState& s) {
+                return !s.isBusy() && s != UpdateState::ready() && s != UpdateState::idle();
+            });
+        };
+        if (!QTest::qWaitFor([&] { return outcome() != states.end(); }, timeoutMs)) {
+            return std::nullopt;
+        }
+        return *outcome();
     }
 
     /// The first busy state recorded; ready when there was none.
     UpdateState firstBusy() const {
-        for (const auto& state : states) {
-            if (state.isBusy()) {
-                return state;
-            }
-        }
-        return UpdateState::ready();
+        const auto busy = std::find_if(states.begin(), states.end(),
+                                       [](const UpdateState& s) { return s.isBusy(); });
+        return busy == states.end() ? UpdateState::ready() : *busy;
     }
 
     UpdateController controller;

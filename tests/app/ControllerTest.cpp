@@ -73,64 +73,58 @@ void ControllerTest::refusedStartsOnlyLog() {
 
 void ControllerTest::failures_data() {
     QTest::addColumn<QStringList>("missing");
-    QTest::addColumn<QString>("customFirmware");
-    QTest::addColumn<bool>("writeBootPartitions");
-    QTest::addColumn<bool>("detailedLogging");
-    QTest::addColumn<QString>("config");  // empty: a firmware update
+    // "update" or "config"; an update may ask the console first ("probe"), log in
+    // detail ("detailed") or use an unreadable custom image ("custom").
+    QTest::addColumn<QString>("job");
     QTest::addColumn<QString>("message");
     QTest::addColumn<QStringList>("logBeforeError");
 
-    QTest::newRow("shipped image missing")
-        << QStringList{"firmware.bin"} << QString() << true << false << QString()
-        << "Bundled firmware not found" << QStringList{};
+    QTest::newRow("shipped image missing") << QStringList{"firmware.bin"} << "update"
+                                           << "Bundled firmware not found" << QStringList{};
     QTest::newRow("custom image unreadable")
-        << QStringList{} << "/nonexistent/custom.bin" << true << false << QString()
+        << QStringList{} << "update custom"
         << "Failed to load custom firmware: No such file or directory" << QStringList{};
-    QTest::newRow("stub missing") << QStringList{"esp32s3_stub.bin"} << QString() << true << false
-                                  << QString() << "Flash stub not found in bundle"
-                                  << QStringList{kShipped};
+    QTest::newRow("stub missing") << QStringList{"esp32s3_stub.bin"} << "update"
+                                  << "Flash stub not found in bundle" << QStringList{kShipped};
     QTest::newRow("no answer, partition table missing")
-        << QStringList{"partitions.bin"} << QString() << false << false << QString()
+        << QStringList{"partitions.bin"} << "update probe"
         << "Missing bootloader resources for full flash"
         << QStringList{kShipped, "Checking device status\u2026",
                        "Device not responding \u2014 writing boot partitions + firmware."};
-    QTest::newRow("library fails, plain log") << QStringList{} << QString() << true << false
-                                              << QString() << kOpenFailed << QStringList{kShipped};
+    QTest::newRow("library fails, plain log")
+        << QStringList{} << "update" << kOpenFailed << QStringList{kShipped};
     QTest::newRow("library fails, detailed log")
-        << QStringList{} << QString() << true << true << QString() << kOpenFailed
+        << QStringList{} << "update detailed" << kOpenFailed
         << QStringList{kShipped, "Opening port: " + kMissingPort, "Failed to open port"};
     QTest::newRow("configuration missing")
-        << QStringList{"configs/Halcot.yaml"} << QString() << false << false << "Halcot.yaml"
+        << QStringList{"configs/Halcot.yaml"} << "config"
         << "Config file not found in bundle: Halcot.yaml" << QStringList{};
     QTest::newRow("configuration, library fails")
-        << QStringList{} << QString() << false << false << "Halcot.yaml" << kOpenFailed
+        << QStringList{} << "config" << kOpenFailed
         << QStringList{"Preparing Corvane Halcot config v1.2.0-devset"};
 }
 
 void ControllerTest::failures() {
     QFETCH(QStringList, missing);
-    QFETCH(QString, customFirmware);
-    QFETCH(bool, writeBootPartitions);
-    QFETCH(bool, detailedLogging);
-    QFETCH(QString, config);
+    QFETCH(QString, job);
     QFETCH(QString, message);
     QFETCH(QStringList, logBeforeError);
 
     const ResourcesWithout resources(missing);
     ControllerHarness harness(resources.dir.path());
     auto& controller = harness.controller;
-    controller.setWriteBootPartitionsEnabled(writeBootPartitions);
-    controller.setDetailedLogging(detailedLogging);
-    if (!customFirmware.isEmpty()) {
-        controller.setCustomFirmwareURL(QUrl::fromLocalFile(customFirmware));
+    controller.setWriteBootPartitionsEnabled(!job.contains("probe"));
+    controller.setDetailedLogging(job.contains("detailed"));
+    if (job.contains("custom")) {
+        controller.setCustomFirmwareURL(QUrl::fromLocalFile("/nonexistent/custom.bin"));
     }
     controller.log("line of an earlier job");
     QVERIFY(harness.plug(kMissingPort));
 
-    if (config.isEmpty()) {
-        controller.updateFirmware();
+    if (job == "config") {
+        controller.uploadConfig("Halcot.yaml", "Corvane Halcot");
     } else {
-        controller.uploadConfig(config, "Corvane Halcot");
+        controller.updateFirmware();
     }
     QCOMPARE(harness.waitForOutcome(5000), std::optional(UpdateState::error(message)));
     QCOMPARE(controller.logMessages(), logBeforeError + QStringList{"ERROR: " + message});
