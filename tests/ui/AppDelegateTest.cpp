@@ -36,7 +36,6 @@ class AppDelegateTest : public QObject {
 
   private slots:
     void init();
-    void cleanup();
 
     void menuBarMatchesTheTable();
     void emptyProductTableDisablesTheProductMenu();
@@ -58,10 +57,6 @@ class AppDelegateTest : public QObject {
 void AppDelegateTest::init() {
     launch({{QStringLiteral("Alpha"), QStringLiteral("alpha.yaml")},
             {QStringLiteral("Beta"), QStringLiteral("beta.yaml")}});
-}
-
-void AppDelegateTest::cleanup() {
-    m_delegate.reset();
 }
 
 void AppDelegateTest::launch(QList<ProductConfig> products) {
