@@ -7,6 +7,7 @@
 #include "esp/Packet.h"
 #include "serial/Clock.h"
 #include "sim/Plotter.h"
+#include "tests/support/TestImages.h"
 
 // Whole jobs against the simulated plotter, every reply of which passes through
 // the fuzz input on its way to the host: kept, dropped, bit-flipped, cut short,
@@ -61,29 +62,11 @@ class ReplyMutator {
     size_t pos_ = 0;
 };
 
-std::vector<uint8_t> pattern(size_t size, uint8_t seed) {
-    std::vector<uint8_t> bytes(size);
-    for (size_t i = 0; i < size; ++i) {
-        bytes[i] = static_cast<uint8_t>(seed + i * 31 + i / 509);
-    }
-    return bytes;
-}
-
-std::vector<uint8_t> stubImage() {
-    std::vector<uint8_t> image;
-    for (const uint32_t word : {0x40380000u, 100u, 0x3FC90000u, 20u, 0x40380004u}) {
-        esp::packLE32(image, word);
-    }
-    const auto body = pattern(120, 0x5A);
-    image.insert(image.end(), body.begin(), body.end());
-    return image;
-}
-
-const std::vector<uint8_t> kFirmware = pattern(3000, 1);
-const std::vector<uint8_t> kBootloader = pattern(1000, 2);
-const std::vector<uint8_t> kPartitions = pattern(3072, 3);
-const std::vector<uint8_t> kBootApp = pattern(8192, 4);
-const std::vector<uint8_t> kStub = stubImage();
+const std::vector<uint8_t> kFirmware = testimg::pattern(3000, 1);
+const std::vector<uint8_t> kBootloader = testimg::pattern(1000, 2);
+const std::vector<uint8_t> kPartitions = testimg::pattern(3072, 3);
+const std::vector<uint8_t> kBootApp = testimg::pattern(8192, 4);
+const std::vector<uint8_t> kStub = testimg::stubImage();
 
 esp_error_t flash(SerialPort& port, uint8_t choice) {
     esp::FlashRequest request;

@@ -19,6 +19,7 @@
 #include "esp/Packet.h"
 #include "serial/Clock.h"
 #include "sim/Plotter.h"
+#include "tests/support/TestImages.h"
 
 // Every run draws its faults from a seed derived from its index; a failure names
 // the seed, and drawFlashScenario / drawUploadScenario replay it.
@@ -41,24 +42,6 @@ void recordLog(const char* line) {
 }
 void recordProgress(float, const char* stage) {
     stages.emplace_back(stage);
-}
-
-std::vector<uint8_t> pattern(size_t size, uint8_t seed) {
-    std::vector<uint8_t> bytes(size);
-    for (size_t i = 0; i < size; ++i) {
-        bytes[i] = static_cast<uint8_t>(seed + i * 31 + i / 509);
-    }
-    return bytes;
-}
-
-std::vector<uint8_t> stubImage() {
-    std::vector<uint8_t> image;
-    for (const uint32_t word : {0x40380000u, 7000u, 0x3FC90000u, 20u, 0x40380004u}) {
-        esp::packLE32(image, word);
-    }
-    const auto body = pattern(7020, 0x5A);
-    image.insert(image.end(), body.begin(), body.end());
-    return image;
 }
 
 /// Aborts the process, naming the seed, when one run hangs in wall time.
@@ -137,10 +120,10 @@ struct Tally {
 
 class FaultCampaign : public ::testing::Test {
   protected:
-    const std::vector<uint8_t> bootloader = pattern(20000, 2);
-    const std::vector<uint8_t> partitions = pattern(3072, 3);
-    const std::vector<uint8_t> bootApp = pattern(8192, 4);
-    const std::vector<uint8_t> stub = stubImage();
+    const std::vector<uint8_t> bootloader = testimg::pattern(20000, 2);
+    const std::vector<uint8_t> partitions = testimg::pattern(3072, 3);
+    const std::vector<uint8_t> bootApp = testimg::pattern(8192, 4);
+    const std::vector<uint8_t> stub = testimg::stubImage(7000, 20);
     Watchdog watchdog;
 };
 
@@ -161,7 +144,8 @@ TEST_F(FaultCampaign, FlashingJobKeepsItsPromisesUnderRandomFaults) {
         const uint32_t seed = kFlashSeedBase + static_cast<uint32_t>(run);
         const FlashScenario s = drawFlashScenario(seed);
         SCOPED_TRACE(seedText(seed) + ", faults: " + describe(s.faults));
-        const std::vector<uint8_t> firmware = pattern(s.firmwareSize, static_cast<uint8_t>(run));
+        const std::vector<uint8_t> firmware =
+            testimg::pattern(s.firmwareSize, static_cast<uint8_t>(run));
         esp::FlashRequest request;
         request.firmware = firmware.data();
         request.firmwareLen = firmware.size();

@@ -10,6 +10,7 @@
 #include "api/esp_flasher.h"
 #include "esp/Packet.h"
 #include "sim/Plotter.h"
+#include "tests/support/TestImages.h"
 
 // A long series of jobs, good and bad, must leave nothing behind: no descriptor,
 // no heap that grows with the number of jobs.
@@ -23,24 +24,6 @@ constexpr int kWarmUpJobs = 100;
 // (images of tens of KiB) times 900 jobs would not fit.
 constexpr size_t kHeapTolerance = 64 * 1024;
 constexpr const char* kMissingPort = "/dev/tfu-no-such-port";
-
-std::vector<uint8_t> pattern(size_t size, uint8_t seed) {
-    std::vector<uint8_t> bytes(size);
-    for (size_t i = 0; i < size; ++i) {
-        bytes[i] = static_cast<uint8_t>(seed + i * 31 + i / 509);
-    }
-    return bytes;
-}
-
-std::vector<uint8_t> stubImage() {
-    std::vector<uint8_t> image;
-    for (const uint32_t word : {0x40380000u, 100u, 0x3FC90000u, 20u, 0x40380004u}) {
-        esp::packLE32(image, word);
-    }
-    const auto body = pattern(120, 0x5A);
-    image.insert(image.end(), body.begin(), body.end());
-    return image;
-}
 
 class Hygiene : public ::testing::Test {
   protected:
@@ -111,10 +94,10 @@ class Hygiene : public ::testing::Test {
         return !refused;
     }
 
-    const std::vector<uint8_t> firmware = pattern(40000, 1);
-    const std::vector<uint8_t> partitions = pattern(3072, 3);
-    const std::vector<uint8_t> configFile = pattern(5000, 7);
-    const std::vector<uint8_t> stub = stubImage();
+    const std::vector<uint8_t> firmware = testimg::pattern(40000, 1);
+    const std::vector<uint8_t> partitions = testimg::pattern(3072, 3);
+    const std::vector<uint8_t> configFile = testimg::pattern(5000, 7);
+    const std::vector<uint8_t> stub = testimg::stubImage();
 };
 
 TEST_F(Hygiene, ThousandJobsLeaveDescriptorsAndHeapFlat) {

@@ -9,6 +9,7 @@
 #include "api/esp_flasher.h"
 #include "esp/Packet.h"
 #include "sim/PtyPlotter.h"
+#include "tests/support/TestImages.h"
 
 // The plotter's cable is pulled in the middle of a job, over a real pseudo-terminal
 // and the real clock. Once the simulator has closed its side, every read of the
@@ -18,24 +19,6 @@ namespace {
 
 using namespace reliability;
 using Clock = std::chrono::steady_clock;
-
-std::vector<uint8_t> pattern(size_t size, uint8_t seed) {
-    std::vector<uint8_t> bytes(size);
-    for (size_t i = 0; i < size; ++i) {
-        bytes[i] = static_cast<uint8_t>(seed + i * 31 + i / 509);
-    }
-    return bytes;
-}
-
-std::vector<uint8_t> stubImage() {
-    std::vector<uint8_t> image;
-    for (const uint32_t word : {0x40380000u, 100u, 0x3FC90000u, 20u, 0x40380004u}) {
-        esp::packLE32(image, word);
-    }
-    const auto body = pattern(120, 0x5A);
-    image.insert(image.end(), body.begin(), body.end());
-    return image;
-}
 
 double secondsSince(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
@@ -53,8 +36,8 @@ class Unplug : public ::testing::Test {
         EXPECT_EQ(descriptorsOn(plotter.path()), 0u) << "the job left its port open";
     }
 
-    const std::vector<uint8_t> firmware = pattern(5 * 16384 + 123, 1);
-    const std::vector<uint8_t> stub = stubImage();
+    const std::vector<uint8_t> firmware = testimg::pattern(5 * 16384 + 123, 1);
+    const std::vector<uint8_t> stub = testimg::stubImage();
 };
 
 TEST_F(Unplug, DuringBlockWritesTheJobReportsAWriteFailureAfterTheBlockTimeOut) {
@@ -82,7 +65,7 @@ TEST_F(Unplug, DuringAnXModemTransferTheUploadFails) {
     sim::Config config;
     config.goneAfterXModemBlocks = 2;
     sim::PtyPlotter plotter(config);
-    const auto configFile = pattern(6000, 9);
+    const auto configFile = testimg::pattern(6000, 9);
     const auto start = Clock::now();
     EXPECT_EQ(esp_upload_config(plotter.path().c_str(), configFile.data(), configFile.size(),
                                 nullptr, nullptr),
