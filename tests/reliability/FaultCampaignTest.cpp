@@ -2,21 +2,17 @@
 
 #include <algorithm>
 #include <chrono>
-#include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
+#include <future>
 #include <map>
-#include <mutex>
 #include <optional>
-#include <sstream>
 #include <string>
-#include <thread>
 #include <vector>
 
-#include "LogForms.h"
-#include "Scenario.h"
+#include "Campaign.h"
 #include "api/Jobs.h"
-#include "esp/Packet.h"
 #include "serial/Clock.h"
 #include "sim/Plotter.h"
 #include "tests/support/TestImages.h"
@@ -26,13 +22,6 @@
 namespace {
 
 using namespace reliability;
-
-constexpr int kFlashRuns = 1000;
-constexpr int kUploadRuns = 400;
-constexpr uint32_t kFlashSeedBase = 0xF1A50000;
-constexpr uint32_t kUploadSeedBase = 0xC0F10000;
-// A run that takes this long in wall time is hanging, whatever its virtual clock says.
-constexpr auto kWallLimit = std::chrono::seconds(20);
 
 std::vector<std::string> logLines;
 std::vector<std::string> stages;
@@ -44,108 +33,70 @@ void recordProgress(float, const char* stage) {
     stages.emplace_back(stage);
 }
 
-/// Aborts the process, naming the seed, when one run hangs in wall time.
-class Watchdog {
-  public:
-    Watchdog() : thread_([this] { watch(); }) {}
-    ~Watchdog() {
-        {
-            std::lock_guard lock(mutex_);
-            stop_ = true;
-        }
-        wake_.notify_all();
-        thread_.join();
-    }
-    void arm(uint32_t seed) {
-        std::lock_guard lock(mutex_);
-        seed_ = seed;
-        startedAt_ = std::chrono::steady_clock::now();
-    }
-
-  private:
-    void watch() {
-        std::unique_lock lock(mutex_);
-        while (!wake_.wait_for(lock, std::chrono::milliseconds(200), [this] { return stop_; })) {
-            if (std::chrono::steady_clock::now() - startedAt_ > kWallLimit) {
-                std::fprintf(stderr, "run with seed 0x%08X hangs\n", seed_);
-                std::abort();
-            }
-        }
-    }
-
-    std::mutex mutex_;
-    std::condition_variable wake_;
-    bool stop_ = false;
-    uint32_t seed_ = 0;
-    std::chrono::steady_clock::time_point startedAt_ = std::chrono::steady_clock::now();
-    std::thread thread_;
+struct Outcome {
+    esp_error_t code;
+    int64_t elapsedMs;  ///< virtual time
 };
+
+// A run that takes this long in wall time hangs, whatever its virtual clock says;
+// the job runs on a thread of its own so the hang can be named before aborting.
+Outcome guarded(uint32_t seed, const std::function<esp_error_t()>& job) {
+    auto result = std::async(std::launch::async, [&] {
+        const int64_t startNs = mono::nowNs();
+        const esp_error_t code = job();
+        return Outcome{code, (mono::nowNs() - startNs) / 1'000'000};
+    });
+    if (result.wait_for(std::chrono::seconds(20)) != std::future_status::ready) {
+        std::fprintf(stderr, "run with seed 0x%08X hangs\n", seed);
+        std::abort();
+    }
+    return result.get();
+}
 
 int failureCount() {
     return ::testing::UnitTest::GetInstance()->current_test_info()->result()->total_part_count();
 }
 
-std::string seedText(uint32_t seed) {
-    std::ostringstream text;
-    text << "seed 0x" << std::hex << seed;
-    return text.str();
-}
-
-/// Runs per result code, and the run that came closest to its time bound.
-struct Tally {
+/// Runs `runs` seeds from `seedBase` through `run`, which checks one run and returns
+/// its result code; stops after five failed runs and prints the runs per result.
+void campaign(const char* job, int runs, uint32_t seedBase,
+              const std::function<unsigned(uint32_t)>& run) {
     std::map<unsigned, int> outcomes;
-    double worstShare = 0;
-    int64_t worstMs = 0;
-    int64_t worstBoundMs = 0;
-
-    void add(unsigned code, int64_t elapsedMs, int64_t boundMs) {
-        ++outcomes[code];
-        const double share = static_cast<double>(elapsedMs) / static_cast<double>(boundMs);
-        if (share > worstShare) {
-            worstShare = share;
-            worstMs = elapsedMs;
-            worstBoundMs = boundMs;
-        }
+    int failedRuns = 0;
+    for (int i = 0; i < runs && failedRuns < 5; ++i) {
+        const int before = failureCount();
+        ++outcomes[run(seedBase + static_cast<uint32_t>(i))];
+        failedRuns += failureCount() > before ? 1 : 0;
     }
-
-    void print(const char* job) const {
-        std::printf("%s: runs per outcome\n", job);
-        for (const auto& [code, count] : outcomes) {
-            std::printf("  result %2u  %4d runs\n", code, count);
-        }
-        std::printf("  closest to its bound: %.1f s of virtual time, bound %.1f s\n",
-                    static_cast<double>(worstMs) / 1000, static_cast<double>(worstBoundMs) / 1000);
+    std::printf("%s: runs per outcome\n", job);
+    for (const auto& [code, count] : outcomes) {
+        std::printf("  result %2u  %4d runs\n", code, count);
     }
-};
-
-class FaultCampaign : public ::testing::Test {
-  protected:
-    const std::vector<uint8_t> bootloader = testimg::pattern(20000, 2);
-    const std::vector<uint8_t> partitions = testimg::pattern(3072, 3);
-    const std::vector<uint8_t> bootApp = testimg::pattern(8192, 4);
-    const std::vector<uint8_t> stub = testimg::stubImage(7000, 20);
-    Watchdog watchdog;
-};
-
-struct Region {
-    uint32_t address;
-    const std::vector<uint8_t>* bytes;
-};
-
-bool holds(const sim::Plotter& plotter, const Region& region) {
-    const auto& flash = plotter.flash();
-    return std::equal(region.bytes->begin(), region.bytes->end(), flash.begin() + region.address);
 }
 
-TEST_F(FaultCampaign, FlashingJobKeepsItsPromisesUnderRandomFaults) {
-    Tally tally;
-    int failedRuns = 0;
-    for (int run = 0; run < kFlashRuns && failedRuns < 5; ++run) {
-        const uint32_t seed = kFlashSeedBase + static_cast<uint32_t>(run);
+std::string trace(uint32_t seed, const std::vector<std::string>& faults) {
+    char text[32];
+    std::snprintf(text, sizeof text, "seed 0x%08X, faults:", seed);
+    std::string all = text;
+    for (const auto& fault : faults) {
+        all += " " + fault;
+    }
+    return faults.empty() ? all + " none" : all;
+}
+
+bool holds(const sim::Plotter& plotter, uint32_t address, const std::vector<uint8_t>& bytes) {
+    return std::equal(bytes.begin(), bytes.end(), plotter.flash().begin() + address);
+}
+
+TEST(FaultCampaign, FlashingJobKeepsItsPromisesUnderRandomFaults) {
+    const auto bootloader = testimg::pattern(20000, 2);
+    const auto partitions = testimg::pattern(3072, 3);
+    const auto bootApp = testimg::pattern(8192, 4);
+    const auto stub = testimg::stubImage(7000, 20);
+    campaign("flashing job", 1000, 0xF1A50000, [&](uint32_t seed) {
         const FlashScenario s = drawFlashScenario(seed);
-        SCOPED_TRACE(seedText(seed) + ", faults: " + describe(s.faults));
-        const std::vector<uint8_t> firmware =
-            testimg::pattern(s.firmwareSize, static_cast<uint8_t>(run));
+        SCOPED_TRACE(trace(seed, s.faults));
+        const auto firmware = testimg::pattern(s.firmwareSize, static_cast<uint8_t>(seed));
         esp::FlashRequest request;
         request.firmware = firmware.data();
         request.firmwareLen = firmware.size();
@@ -160,85 +111,58 @@ TEST_F(FaultCampaign, FlashingJobKeepsItsPromisesUnderRandomFaults) {
         request.fullFlash = s.fullFlash;
         request.eraseAll = s.eraseAll;
         request.expectedVersion = s.expectedVersion.c_str();
-
         sim::Plotter plotter(s.config);
         SerialPort port;
         plotter.connectLoopback(port);
         logLines.clear();
-        watchdog.arm(seed);
-        const int64_t startNs = mono::nowNs();
-        const esp_error_t code = esp::runFlashJob(port, request, recordProgress, recordLog);
-        const int64_t elapsedMs = (mono::nowNs() - startNs) / 1'000'000;
-        const int64_t boundMs = flashJobBoundMs(request);
-        tally.add(code, elapsedMs, boundMs);
+        const Outcome out = guarded(
+            seed, [&] { return esp::runFlashJob(port, request, recordProgress, recordLog); });
 
-        const int before = failureCount();
-        EXPECT_TRUE(code == 0 || (code >= 3 && code <= 7)) << "result " << code;
-        EXPECT_LE(elapsedMs, boundMs) << "virtual ms";
+        EXPECT_TRUE(out.code == 0 || (out.code >= 3 && out.code <= 7)) << "result " << out.code;
+        EXPECT_LE(out.elapsedMs, flashJobBoundMs(request)) << "virtual ms";
         for (const auto& line : logLines) {
             EXPECT_TRUE(isDefinedLogLine(line)) << "undefined log line: \"" << line << "\"";
         }
-        if (code == 0) {
-            std::vector<Region> plan;
-            if (s.fullFlash) {
-                plan = {{0x0, &bootloader}, {0x8000, &partitions}};
-            }
-            if (s.withBootApp) {
-                plan.push_back({0xE000, &bootApp});
-            }
-            plan.push_back({0x10000, &firmware});
-            for (const Region& region : plan) {
-                EXPECT_TRUE(holds(plotter, region)) << "success without region " << region.address;
-            }
+        if (out.code == 0) {
+            EXPECT_TRUE(!s.fullFlash ||
+                        (holds(plotter, 0x0, bootloader) && holds(plotter, 0x8000, partitions)));
+            EXPECT_TRUE(!s.withBootApp || holds(plotter, 0xE000, bootApp));
+            EXPECT_TRUE(holds(plotter, 0x10000, firmware));
         } else {
-            EXPECT_TRUE(explainsFailure(logLines, code))
-                << "result " << code << " after \"" << (logLines.empty() ? "" : logLines.back())
+            EXPECT_TRUE(explainsFailure(logLines, out.code))
+                << "result " << out.code << " after \"" << (logLines.empty() ? "" : logLines.back())
                 << "\"";
         }
-        if (s.faults.empty()) {
-            EXPECT_EQ(code, 0u) << "a healthy device failed";
-        }
-        failedRuns += failureCount() > before ? 1 : 0;
-    }
-    tally.print("flashing job");
+        EXPECT_TRUE(out.code == 0 || !s.faults.empty()) << "a healthy device failed";
+        return out.code;
+    });
 }
 
-TEST_F(FaultCampaign, ConfigurationUploadKeepsItsPromisesUnderRandomFaults) {
-    Tally tally;
-    int failedRuns = 0;
-    for (int run = 0; run < kUploadRuns && failedRuns < 5; ++run) {
-        const uint32_t seed = kUploadSeedBase + static_cast<uint32_t>(run);
+TEST(FaultCampaign, ConfigurationUploadKeepsItsPromisesUnderRandomFaults) {
+    campaign("configuration upload", 400, 0xC0F10000, [&](uint32_t seed) {
         const UploadScenario s = drawUploadScenario(seed);
-        SCOPED_TRACE(seedText(seed) + ", faults: " + describe(s.faults));
+        SCOPED_TRACE(trace(seed, s.faults));
         sim::Plotter plotter(s.config);
         SerialPort port;
         plotter.connectLoopback(port);
         stages.clear();
-        watchdog.arm(seed);
-        const int64_t startNs = mono::nowNs();
-        const esp_error_t code =
-            esp::runUploadConfigJob(port, s.file.data(), s.file.size(), recordProgress);
-        const int64_t elapsedMs = (mono::nowNs() - startNs) / 1'000'000;
-        const int64_t boundMs = uploadJobBoundMs(s.file.size());
-        tally.add(code, elapsedMs, boundMs);
+        const Outcome out = guarded(seed, [&] {
+            return esp::runUploadConfigJob(port, s.file.data(), s.file.size(), recordProgress);
+        });
 
-        const int before = failureCount();
-        EXPECT_TRUE(code == 0 || code == 8) << "result " << code;
-        EXPECT_LE(elapsedMs, boundMs) << "virtual ms";
+        EXPECT_TRUE(out.code == 0 || out.code == 8) << "result " << out.code;
+        EXPECT_LE(out.elapsedMs, uploadJobBoundMs(s.file.size())) << "virtual ms";
         for (const auto& stage : stages) {
             EXPECT_TRUE(stage == "Uploading config file..." ||
                         stage == "XModem: no handshake received (30s timeout)")
                 << "undefined stage: \"" << stage << "\"";
         }
-        if (code == 0) {
+        if (out.code == 0) {
             EXPECT_EQ(plotter.storedConfig(), std::optional(s.file)) << "success, file not whole";
         }
-        if (s.faults.empty()) {
-            EXPECT_EQ(code, 0u) << "a healthy device failed";
-        }
-        failedRuns += failureCount() > before ? 1 : 0;
-    }
-    tally.print("configuration upload");
+        EXPECT_TRUE(out.code == 0 || !s.faults.empty()) << "a healthy device failed";
+        return out.code;
+    });
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "LogForms.h"
+#include "Campaign.h"
 
 #include <regex>
 

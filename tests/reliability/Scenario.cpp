@@ -1,9 +1,8 @@
-#include "Scenario.h"
-
 #include <bit>
 #include <functional>
 #include <random>
 
+#include "Campaign.h"
 #include "esp/EspLoader.h"
 #include "esp/Packet.h"
 
@@ -21,50 +20,44 @@ bool chance(Rng& rng, int percent) {
     return pick(rng, 1, 100) <= percent;
 }
 
-const char* kindName(sim::FaultKind kind) {
-    switch (kind) {
-        case sim::FaultKind::Drop:
-            return "drop";
-        case sim::FaultKind::Duplicate:
-            return "duplicate";
-        case sim::FaultKind::Corrupt:
-            return "corrupt";
-        case sim::FaultKind::Truncate:
-            return "truncate";
-        case sim::FaultKind::GarbageBefore:
-            return "garbage";
-        case sim::FaultKind::WrongOpcode:
-            return "wrong-op";
-        case sim::FaultKind::ErrorStatus:
-            return "error-status";
-    }
-    return "?";
-}
-
 std::string responseFault(sim::Config& config, Rng& rng) {
     static constexpr uint8_t kOps[] = {esp::SYNC,       esp::GET_SECURITY_INFO, esp::READ_REG,
                                        esp::MEM_BEGIN,  esp::MEM_DATA,          esp::MEM_END,
                                        esp::SPI_ATTACH, esp::ERASE_FLASH,       esp::FLASH_BEGIN,
                                        esp::FLASH_DATA, esp::FLASH_END,         esp::SPI_FLASH_MD5};
+    static const char* kKinds[] = {"drop",    "duplicate", "corrupt",     "truncate",
+                                   "garbage", "wrong-op",  "error-status"};
     sim::ResponseFault fault;
     fault.kind = static_cast<sim::FaultKind>(pick(rng, 0, 6));
     fault.errorCode = static_cast<uint8_t>(pick(rng, 0, 255));
-    std::string where;
+    std::string where = "any";
     if (chance(rng, 25)) {
         fault.occurrence = pick(rng, 0, 30);
-        where = "any";
     } else {
         fault.op = kOps[pick(rng, 0, std::size(kOps) - 1)];
         fault.occurrence = pick(rng, 0, *fault.op == esp::FLASH_DATA ? 6 : 2);
         where = esp::cmdName(*fault.op);
     }
     config.responseFaults.push_back(fault);
-    return std::string(kindName(fault.kind)) + "@" + where + "#" + std::to_string(fault.occurrence);
+    return std::string(kKinds[static_cast<int>(fault.kind)]) + "@" + where + "#" +
+           std::to_string(fault.occurrence);
 }
 
-std::string knob(const char* name, int value) {
-    return std::string(name) + "=" + std::to_string(value);
+/// Sets `field` to a value drawn from [low, high].
+template <typename T>
+Fault knob(T sim::Config::*field, const char* name, int low, int high) {
+    return [=](sim::Config& c, Rng& r) {
+        const int value = pick(r, low, high);
+        c.*field = value;
+        return std::string(name) + "=" + std::to_string(value);
+    };
 }
+
+Fault flag(bool sim::Config::*field, bool value, const char* name) {
+    return [=](sim::Config& c, Rng&) { return (c.*field = value, std::string(name)); };
+}
+
+using C = sim::Config;
 
 // Faults of the loader side and of the console the job talks to after the reset.
 const std::vector<Fault>& flashFaults() {
@@ -72,52 +65,38 @@ const std::vector<Fault>& flashFaults() {
         responseFault,
         responseFault,
         responseFault,
-        [](sim::Config& c, Rng&) { return (c.silent = true, "silent"); },
-        [](sim::Config& c, Rng& r) { return knob("syncFrom", c.syncFromAttempt = pick(r, 2, 32)); },
-        [](sim::Config& c, Rng& r) { return knob("syncReplies", c.syncReplies = pick(r, 0, 12)); },
-        [](sim::Config& c, Rng&) { return (c.greeting = false, "noGreeting"); },
-        [](sim::Config& c, Rng& r) { return knob("wrongMd5At", *(c.wrongMd5At = pick(r, 0, 3))); },
-        [](sim::Config& c, Rng& r) {
-            return knob("badFlashDataAt", *(c.badFlashDataAt = pick(r, 0, 6)));
-        },
-        [](sim::Config& c, Rng& r) {
+        flag(&C::silent, true, "silent"),
+        knob(&C::syncFromAttempt, "syncFrom", 2, 32),
+        knob(&C::syncReplies, "syncReplies", 0, 12),
+        flag(&C::greeting, false, "noGreeting"),
+        knob(&C::wrongMd5At, "wrongMd5At", 0, 3),
+        knob(&C::badFlashDataAt, "badFlashDataAt", 0, 6),
+        [](C& c, Rng& r) {
             static constexpr uint32_t kIds[] = {0, 2, 5, 0x1234};
             c.chipId = kIds[pick(r, 0, 3)];
-            return knob("chipId", static_cast<int>(c.chipId));
+            return "chipId=" + std::to_string(c.chipId);
         },
-        [](sim::Config& c, Rng& r) {
+        [](C& c, Rng& r) {
             c.securityFuses = uint32_t{1} << pick(r, 0, 31);
-            return knob("fuseBit", std::countr_zero(c.securityFuses));
+            return "fuseBit=" + std::to_string(std::countr_zero(c.securityFuses));
         },
-        [](sim::Config& c, Rng& r) {
-            return knob("goneAfterFlashData", *(c.goneAfterFlashData = pick(r, 0, 6)));
-        },
-        [](sim::Config& c, Rng& r) { return knob("goneAtMd5", *(c.goneAtMd5 = pick(r, 0, 3))); },
-        [](sim::Config& c, Rng& r) {
-            return knob("hangAfterFlashData", *(c.hangAfterFlashData = pick(r, 1, 6)));
-        },
-        [](sim::Config& c, Rng&) { return (c.silentConsole = true, "silentConsole"); },
-        [](sim::Config& c, Rng&) { return (c.okBeforeVersion = true, "okBeforeVersion"); },
-        [](sim::Config& c, Rng& r) {
+        knob(&C::goneAfterFlashData, "goneAfterFlashData", 0, 6),
+        knob(&C::goneAtMd5, "goneAtMd5", 0, 3),
+        knob(&C::hangAfterFlashData, "hangAfterFlashData", 1, 6),
+        flag(&C::silentConsole, true, "silentConsole"),
+        flag(&C::okBeforeVersion, true, "okBeforeVersion"),
+        [](C& c, Rng& r) {
             static const char* kReports[] = {"", "2.10.6", "v2.10.6:x", "[VER:nested"};
             c.versionReport = kReports[pick(r, 0, 3)];
             return "report=" + c.versionReport;
         },
-        [](sim::Config& c, Rng& r) { return knob("gap", c.frameGapMs = pick(r, 0, 80)); },
-        [](sim::Config& c, Rng& r) {
-            return knob("beginDelay", c.flashBeginDelayMs = pick(r, 0, 12000));
-        },
-        [](sim::Config& c, Rng& r) {
-            return knob("blockDelay", c.flashBlockDelayMs = pick(r, 0, 11000));
-        },
-        [](sim::Config& c, Rng& r) {
-            return knob("eraseDelay", c.eraseDelayMs = pick(r, 0, 70000));
-        },
-        [](sim::Config& c, Rng& r) { return knob("md5Delay", c.md5DelayMs = pick(r, 0, 11000)); },
-        [](sim::Config& c, Rng& r) { return knob("bootMs", c.bootMs = pick(r, 0, 6000)); },
-        [](sim::Config& c, Rng& r) {
-            return knob("consoleDelay", c.consoleDelayMs = pick(r, 0, 3000));
-        },
+        knob(&C::frameGapMs, "gap", 0, 80),
+        knob(&C::flashBeginDelayMs, "beginDelay", 0, 12000),
+        knob(&C::flashBlockDelayMs, "blockDelay", 0, 11000),
+        knob(&C::eraseDelayMs, "eraseDelay", 0, 70000),
+        knob(&C::md5DelayMs, "md5Delay", 0, 11000),
+        knob(&C::bootMs, "bootMs", 0, 6000),
+        knob(&C::consoleDelayMs, "consoleDelay", 0, 3000),
     };
     return faults;
 }
@@ -125,65 +104,47 @@ const std::vector<Fault>& flashFaults() {
 // Faults of the console and its XModem receiver.
 const std::vector<Fault>& uploadFaults() {
     static const std::vector<Fault> faults = {
-        [](sim::Config& c, Rng&) { return (c.xmodemCrc = false, "checksumMode"); },
-        [](sim::Config& c, Rng&) { return (c.xmodemHandshake = false, "noHandshake"); },
-        [](sim::Config& c, Rng& r) {
-            return knob("handshakeTries", c.xmodemHandshakeTries = pick(r, 0, 3));
-        },
-        [](sim::Config& c, Rng& r) {
+        flag(&C::xmodemCrc, false, "checksumMode"),
+        flag(&C::xmodemHandshake, false, "noHandshake"),
+        knob(&C::xmodemHandshakeTries, "handshakeTries", 0, 3),
+        [](C& c, Rng& r) {
             c.xmodemJunk.resize(static_cast<size_t>(pick(r, 1, 40)));
             for (char& ch : c.xmodemJunk) {
                 ch = static_cast<char>(pick(r, 0, 255));
             }
-            return knob("junk", static_cast<int>(c.xmodemJunk.size()));
+            return "junk=" + std::to_string(c.xmodemJunk.size());
         },
-        [](sim::Config& c, Rng& r) {
+        [](C& c, Rng& r) {
             c.xmodemNakBlock = pick(r, 1, 5);
             c.xmodemNakTimes = pick(r, 1, 30);
-            return knob("nakBlock", *c.xmodemNakBlock) + "x" + std::to_string(c.xmodemNakTimes);
+            return "nakBlock=" + std::to_string(*c.xmodemNakBlock) + "x" +
+                   std::to_string(c.xmodemNakTimes);
         },
-        [](sim::Config& c, Rng& r) {
-            return knob("canBlock", *(c.xmodemCanBlock = pick(r, 1, 5)));
-        },
-        [](sim::Config& c, Rng&) { return (c.xmodemAckEot = false, "eotUnanswered"); },
-        [](sim::Config& c, Rng& r) {
-            return knob("goneAfterBlocks", *(c.goneAfterXModemBlocks = pick(r, 0, 5)));
-        },
-        [](sim::Config& c, Rng&) { return (c.silentConsole = true, "silentConsole"); },
-        [](sim::Config& c, Rng&) { return (c.silent = true, "silent"); },
-        [](sim::Config& c, Rng&) { return (c.okBeforeVersion = true, "okBeforeVersion"); },
-        [](sim::Config& c, Rng& r) {
-            return knob("handshakeFirst", c.handshakeFirstMs = pick(r, 0, 35000));
-        },
-        [](sim::Config& c, Rng& r) {
-            return knob("handshakeEvery", c.handshakeIntervalMs = pick(r, 100, 3000));
-        },
-        [](sim::Config& c, Rng& r) {
-            return knob("idleTimeout", c.xmodemIdleTimeoutMs = pick(r, 50, 6000));
-        },
-        [](sim::Config& c, Rng& r) {
-            return knob("consoleDelay", c.consoleDelayMs = pick(r, 0, 3000));
-        },
-        [](sim::Config& c, Rng& r) { return knob("bootMs", c.bootMs = pick(r, 0, 3000)); },
+        knob(&C::xmodemCanBlock, "canBlock", 1, 5),
+        flag(&C::xmodemAckEot, false, "eotUnanswered"),
+        knob(&C::goneAfterXModemBlocks, "goneAfterBlocks", 0, 5),
+        flag(&C::silentConsole, true, "silentConsole"),
+        flag(&C::silent, true, "silent"),
+        flag(&C::okBeforeVersion, true, "okBeforeVersion"),
+        knob(&C::handshakeFirstMs, "handshakeFirst", 0, 35000),
+        knob(&C::handshakeIntervalMs, "handshakeEvery", 100, 3000),
+        knob(&C::xmodemIdleTimeoutMs, "idleTimeout", 50, 6000),
+        knob(&C::consoleDelayMs, "consoleDelay", 0, 3000),
+        knob(&C::bootMs, "bootMs", 0, 3000),
     };
     return faults;
 }
 
 // One run in ten is healthy, so the campaign also shows that a good device passes.
+// A small flash keeps the whole-chip erase and the simulator's set-up cheap.
 std::vector<std::string> drawFaults(const std::vector<Fault>& menu, sim::Config& config, Rng& rng) {
+    config.flashSize = 1024 * 1024;
     std::vector<std::string> drawn;
     const int count = chance(rng, 10) ? 0 : pick(rng, 1, 3);
     for (int i = 0; i < count; ++i) {
         drawn.push_back(menu[static_cast<size_t>(pick(rng, 0, int(menu.size()) - 1))](config, rng));
     }
     return drawn;
-}
-
-// A small flash keeps the whole-chip erase and the simulator's set-up cheap.
-sim::Config smallChip() {
-    sim::Config config;
-    config.flashSize = 1024 * 1024;
-    return config;
 }
 
 int64_t blocksOf(size_t size, size_t block) {
@@ -200,7 +161,6 @@ int64_t withSlack(int64_t ms) {
 FlashScenario drawFlashScenario(uint32_t seed) {
     Rng rng(seed);
     FlashScenario s;
-    s.config = smallChip();
     s.fullFlash = chance(rng, 50);
     s.eraseAll = chance(rng, 25);
     s.withBootApp = chance(rng, 50);
@@ -214,7 +174,6 @@ FlashScenario drawFlashScenario(uint32_t seed) {
 UploadScenario drawUploadScenario(uint32_t seed) {
     Rng rng(seed);
     UploadScenario s;
-    s.config = smallChip();
     s.file.resize(static_cast<size_t>(pick(rng, 0, 5 * 1024 + 7)));
     for (uint8_t& byte : s.file) {
         byte = static_cast<uint8_t>(pick(rng, 0, 255));
@@ -225,14 +184,6 @@ UploadScenario drawUploadScenario(uint32_t seed) {
     }
     s.faults = drawFaults(uploadFaults(), s.config, rng);
     return s;
-}
-
-std::string describe(const std::vector<std::string>& faults) {
-    std::string text;
-    for (const auto& fault : faults) {
-        text += (text.empty() ? "" : ", ") + fault;
-    }
-    return text.empty() ? "none" : text;
 }
 
 int64_t flashJobBoundMs(const esp::FlashRequest& request) {

@@ -2,12 +2,12 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "Descriptors.h"
 #include "api/esp_flasher.h"
-#include "esp/Packet.h"
 #include "sim/PtyPlotter.h"
 #include "tests/support/TestImages.h"
 
@@ -18,64 +18,48 @@
 namespace {
 
 using namespace reliability;
-using Clock = std::chrono::steady_clock;
 
-double secondsSince(Clock::time_point start) {
-    return std::chrono::duration<double>(Clock::now() - start).count();
+const std::vector<uint8_t> firmware = testimg::pattern(5 * 16384 + 123, 1);
+const std::vector<uint8_t> configFile = testimg::pattern(6000, 9);
+const std::vector<uint8_t> stub = testimg::stubImage();
+
+esp_error_t flash(const std::string& path) {
+    return esp_flash_firmware(path.c_str(), firmware.data(), firmware.size(), nullptr, 0, nullptr,
+                              0, nullptr, 0, stub.data(), stub.size(), 0, 0, "v3.7.8", nullptr,
+                              nullptr);
 }
 
-class Unplug : public ::testing::Test {
-  protected:
-    esp_error_t flash(const sim::PtyPlotter& plotter) {
-        return esp_flash_firmware(plotter.path().c_str(), firmware.data(), firmware.size(), nullptr,
-                                  0, nullptr, 0, nullptr, 0, stub.data(), stub.size(), 0, 0,
-                                  "v3.7.8", nullptr, nullptr);
-    }
+esp_error_t upload(const std::string& path) {
+    return esp_upload_config(path.c_str(), configFile.data(), configFile.size(), nullptr, nullptr);
+}
 
-    void expectReleased(const sim::PtyPlotter& plotter) {
+TEST(Unplug, MidJobTheJobFailsWithinItsStepTimeOutAndReleasesThePort) {
+    struct Case {
+        const char* when;
+        std::function<void(sim::Config&)> unplug;
+        std::function<esp_error_t(const std::string&)> job;
+        esp_error_t code;
+        double boundS;  // settle, reset and exchanges, then the time-out of the waiting step
+    };
+    const Case cases[] = {
+        {"block writes", [](auto& c) { c.goneAfterFlashData = 2; }, flash, 6, 10.0 + 5.0},
+        {"MD5 wait", [](auto& c) { c.goneAtMd5 = 0; }, flash, 7, 10.0 + 5.0},
+        {"XModem transfer", [](auto& c) { c.goneAfterXModemBlocks = 2; }, upload, 8, 7.5 + 5.0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.when);
+        sim::Config config;
+        c.unplug(config);
+        sim::PtyPlotter plotter(config);
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_EQ(c.job(plotter.path()), c.code);
+        EXPECT_LT(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count(),
+                  c.boundS);
         EXPECT_EQ(descriptorsOn(plotter.path()), 0u) << "the job left its port open";
     }
-
-    const std::vector<uint8_t> firmware = testimg::pattern(5 * 16384 + 123, 1);
-    const std::vector<uint8_t> stub = testimg::stubImage();
-};
-
-TEST_F(Unplug, DuringBlockWritesTheJobReportsAWriteFailureAfterTheBlockTimeOut) {
-    sim::Config config;
-    config.goneAfterFlashData = 2;
-    sim::PtyPlotter plotter(config);
-    const auto start = Clock::now();
-    EXPECT_EQ(flash(plotter), 6u);
-    // settle 0.5 s, reset 0.5 s, exchanges, then one FLASH_DATA time-out of 10 s
-    EXPECT_LT(secondsSince(start), 10.0 + 5.0);
-    expectReleased(plotter);
 }
 
-TEST_F(Unplug, DuringTheMd5WaitTheJobReportsAVerificationFailureAfterItsTimeOut) {
-    sim::Config config;
-    config.goneAtMd5 = 0;
-    sim::PtyPlotter plotter(config);
-    const auto start = Clock::now();
-    EXPECT_EQ(flash(plotter), 7u);
-    EXPECT_LT(secondsSince(start), 10.0 + 5.0);
-    expectReleased(plotter);
-}
-
-TEST_F(Unplug, DuringAnXModemTransferTheUploadFails) {
-    sim::Config config;
-    config.goneAfterXModemBlocks = 2;
-    sim::PtyPlotter plotter(config);
-    const auto configFile = testimg::pattern(6000, 9);
-    const auto start = Clock::now();
-    EXPECT_EQ(esp_upload_config(plotter.path().c_str(), configFile.data(), configFile.size(),
-                                nullptr, nullptr),
-              8u);
-    // settle, version query, drain, handshake; then one ACK wait of 5 s at most
-    EXPECT_LT(secondsSince(start), 0.5 + 2.0 + 1.0 + 2.0 + 5.0 + 2.0);
-    expectReleased(plotter);
-}
-
-TEST_F(Unplug, AfterTheLineIsGoneNothingOpensItAndNoDescriptorIsLeft) {
+TEST(Unplug, AfterTheLineIsGoneNothingOpensItAndNoDescriptorIsLeft) {
     const size_t before = openDescriptorCount();
     {
         sim::PtyPlotter plotter;
@@ -84,11 +68,9 @@ TEST_F(Unplug, AfterTheLineIsGoneNothingOpensItAndNoDescriptorIsLeft) {
         std::free(version);
         plotter.unplug();
         EXPECT_EQ(esp_query_version(plotter.path().c_str()), nullptr);
-        EXPECT_EQ(
-            esp_upload_config(plotter.path().c_str(), stub.data(), stub.size(), nullptr, nullptr),
-            2u);
-        EXPECT_EQ(flash(plotter), 2u);
-        expectReleased(plotter);
+        EXPECT_EQ(upload(plotter.path()), 2u);
+        EXPECT_EQ(flash(plotter.path()), 2u);
+        EXPECT_EQ(descriptorsOn(plotter.path()), 0u);
     }
     EXPECT_EQ(openDescriptorCount(), before);
 }
