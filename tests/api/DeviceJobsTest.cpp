@@ -84,39 +84,35 @@ TEST_F(DeviceJobsTest, QueryVersionTellsAnEmptyVersionFromNone) {
     EXPECT_EQ(esp::runQueryVersionJob(port), std::nullopt);
 }
 
-struct ProbeCase {
-    const char* name;
-    std::function<void(sim::Plotter&)> setup;
-    int expected;
-};
-
-class ProbeTest : public DeviceJobsTest, public ::testing::WithParamInterface<ProbeCase> {};
-
-TEST_P(ProbeTest, ReadsTheTableThroughTheStub) {
-    GetParam().setup(device());
+TEST_F(DeviceJobsTest, ProbeReadsTheTableThroughTheStub) {
+    const struct {
+        const char* name;
+        std::function<void(sim::Plotter&)> setup;
+        int expected;
+    } cases[] = {
+        {"valid", [](auto& p) { p.loadFlash(0x8000, partitionTable(0)); }, 1},
+        {"data at app offset", [](auto& p) { p.loadFlash(0x8000, partitionTable(1)); }, 0},
+        {"erased", [](auto&) {}, 0},
+        {"late sync",
+         [](auto& p) {
+             p.loadFlash(0x8000, partitionTable(0));
+             p.config().syncFromAttempt = 25;
+         },
+         1},
+        {"silent", [](auto& p) { p.config().silent = true; }, -1},
+        {"no greeting", [](auto& p) { p.config().greeting = false; }, -1},
+        {"read dropped",
+         [](auto& p) {
+             p.config().responseFaults = {{esp::READ_FLASH, 0, sim::FaultKind::Drop}};
+         },
+         -1},
+    };
     const auto stub = stubImage();
-    EXPECT_EQ(esp::runProbePartitionTableJob(port, stub.data(), stub.size()), GetParam().expected);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        c.setup(device());
+        EXPECT_EQ(esp::runProbePartitionTableJob(port, stub.data(), stub.size()), c.expected);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Probes, ProbeTest,
-    ::testing::Values(
-        ProbeCase{"Valid", [](auto& p) { p.loadFlash(0x8000, partitionTable(0)); }, 1},
-        ProbeCase{"DataAtAppOffset", [](auto& p) { p.loadFlash(0x8000, partitionTable(1)); }, 0},
-        ProbeCase{"Erased", [](auto&) {}, 0},
-        ProbeCase{"LateSync",
-                  [](auto& p) {
-                      p.loadFlash(0x8000, partitionTable(0));
-                      p.config().syncFromAttempt = 25;
-                  },
-                  1},
-        ProbeCase{"Silent", [](auto& p) { p.config().silent = true; }, -1},
-        ProbeCase{"NoGreeting", [](auto& p) { p.config().greeting = false; }, -1},
-        ProbeCase{"ReadDropped",
-                  [](auto& p) {
-                      p.config().responseFaults = {{esp::READ_FLASH, 0, sim::FaultKind::Drop}};
-                  },
-                  -1}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace

@@ -32,41 +32,40 @@ class FakeSysfs {
     // A USB device folder below the root hub, with the ids given (empty: file absent).
     void ids(const std::string& folder, const std::string& vendor, const std::string& product) {
         fs::create_directories(sys() + "/" + folder);
-        if (!vendor.empty()) {
-            std::ofstream(sys() + "/" + folder + "/idVendor") << vendor << "\n";
-        }
-        if (!product.empty()) {
-            std::ofstream(sys() + "/" + folder + "/idProduct") << product << "\n";
+        for (const auto& [file, value] :
+             {std::pair{"/idVendor", vendor}, {"/idProduct", product}}) {
+            if (!value.empty()) {
+                std::ofstream(sys() + "/" + folder + file) << value << "\n";
+            }
         }
     }
 
-    // A tty whose device link points at `deviceFolder`; the tty folder sits below it.
-    void tty(const std::string& name, const std::string& deviceFolder, bool withNode = true) {
+    // A tty below `deviceFolder`; without `link` it has no device link, as virtual
+    // consoles and gadget ports have.
+    void tty(const std::string& name, const std::string& deviceFolder, bool link = true,
+             bool node = true) {
         const std::string ttyFolder = deviceFolder + "/tty/" + name;
         fs::create_directories(sys() + "/" + ttyFolder);
         fs::create_directory_symlink("../../" + ttyFolder, sys() + "/class/tty/" + name);
         const std::string leaf = deviceFolder.substr(deviceFolder.rfind('/') + 1);
-        fs::create_directory_symlink("../../../" + leaf, sys() + "/" + ttyFolder + "/device");
-        if (withNode) {
+        if (link) {
+            fs::create_directory_symlink("../../../" + leaf, sys() + "/" + ttyFolder + "/device");
+        }
+        if (node) {
             std::ofstream(dev() + "/" + name);
         }
     }
 
-    // A tty without a device link, as virtual consoles and gadget ports have.
-    void linklessTty(const std::string& name, const std::string& folder) {
-        fs::create_directories(sys() + "/" + folder + "/" + name);
-        fs::create_directory_symlink("../../" + folder + "/" + name, sys() + "/class/tty/" + name);
-        std::ofstream(dev() + "/" + name);
-    }
-
+    // The names of the ports found, checking each path points into dev().
     std::vector<std::string> found(unsigned short vendor = 0x303A,
                                    unsigned short product = 0x1001) const {
-        std::vector<std::string> paths;
+        std::vector<std::string> names;
         for (const auto& port : listESPPorts(vendor, product, sys(), dev())) {
             EXPECT_EQ(port.calloutPath, port.ttyPath);
-            paths.push_back(port.calloutPath);
+            EXPECT_TRUE(port.calloutPath.starts_with(dev() + "/"));
+            names.push_back(port.calloutPath.substr(dev().size() + 1));
         }
-        return paths;
+        return names;
     }
 
   private:
@@ -77,7 +76,7 @@ const std::string kHub = "devices/pci0000:00/usb1";
 
 TEST(PortDiscovery, FindsNothingWithoutAMatchingDevice) {
     FakeSysfs tree;
-    tree.linklessTty("tty0", "devices/virtual/tty");
+    tree.tty("tty0", "devices/virtual", false);
     tree.ids("devices/platform/serial8250", "", "");
     tree.tty("ttyS0", "devices/platform/serial8250");
     tree.ids(kHub + "/1-1", "1a86", "7523");
@@ -96,10 +95,8 @@ TEST(PortDiscovery, ListsEveryMatchingDeviceInNameOrder) {
     tree.tty("ttyACM2", kHub + "/1-4/1-4:1.0");
     tree.ids(kHub + "/1-7", "1303a", "71001");  // only the low sixteen bits count
     tree.tty("ttyACM3", kHub + "/1-7/1-7:1.0");
-    EXPECT_EQ(tree.found(),
-              (std::vector<std::string>{tree.dev() + "/ttyACM0", tree.dev() + "/ttyACM1",
-                                        tree.dev() + "/ttyACM3"}));
-    EXPECT_EQ(tree.found(0x303A, 0x1002), std::vector<std::string>{tree.dev() + "/ttyACM2"});
+    EXPECT_EQ(tree.found(), (std::vector<std::string>{"ttyACM0", "ttyACM1", "ttyACM3"}));
+    EXPECT_EQ(tree.found(0x303A, 0x1002), std::vector<std::string>{"ttyACM2"});
 }
 
 TEST(PortDiscovery, OnlyTheNearestFolderWithBothIdsDecides) {
@@ -113,16 +110,16 @@ TEST(PortDiscovery, OnlyTheNearestFolderWithBothIdsDecides) {
     tree.ids(kHub + "/1-6/1-6:1.0", "0403", "");
     tree.ids(kHub + "/1-6/1-6:1.0/port", "", "6001");
     tree.tty("ttyACM0", kHub + "/1-6/1-6:1.0/port");
-    EXPECT_EQ(tree.found(), std::vector<std::string>{tree.dev() + "/ttyACM0"});
+    EXPECT_EQ(tree.found(), std::vector<std::string>{"ttyACM0"});
 }
 
 TEST(PortDiscovery, SkipsEntriesWithoutDeviceLinkOrNode) {
     FakeSysfs tree;
     tree.ids(kHub + "/1-8", "303a", "1001");
-    tree.linklessTty("ttyGS0", kHub + "/1-8/tty");
-    tree.tty("ttyACM4", kHub + "/1-8/1-8:1.0", false);
+    tree.tty("ttyGS0", kHub + "/1-8", false);
+    tree.tty("ttyACM4", kHub + "/1-8/1-8:1.0", true, false);
     tree.tty("ttyACM5", kHub + "/1-8/1-8:1.2");
-    EXPECT_EQ(tree.found(), std::vector<std::string>{tree.dev() + "/ttyACM5"});
+    EXPECT_EQ(tree.found(), std::vector<std::string>{"ttyACM5"});
 }
 
 }  // namespace

@@ -18,18 +18,14 @@ size_t openDescriptors() {
     return static_cast<size_t>(std::distance(begin(entries), end(entries)));
 }
 
-class EntryPointTest : public ::testing::Test {
-  protected:
-    void SetUp() override { clearRecords(); }
+const std::vector<uint8_t> firmware = pattern(70000, 1);
+const std::vector<uint8_t> stub = stubImage();
 
-    const std::vector<uint8_t> firmware = pattern(70000, 1);
-    const std::vector<uint8_t> bootloader = pattern(20000, 2);
-    const std::vector<uint8_t> partitions = partitionTable(0);
-    const std::vector<uint8_t> bootApp = pattern(8192, 4);
-    const std::vector<uint8_t> stub = stubImage();
-};
-
-TEST_F(EntryPointTest, FullFlashThenQueriesOverAPseudoTerminal) {
+TEST(EntryPoint, FullFlashThenQueriesOverAPseudoTerminal) {
+    clearRecords();
+    const auto bootloader = pattern(20000, 2);
+    const auto partitions = partitionTable(0);
+    const auto bootApp = pattern(8192, 4);
     sim::Config config;
     config.versionReport = "2.10.6 (sim)";
     sim::PtyPlotter device(config);
@@ -66,7 +62,8 @@ TEST_F(EntryPointTest, FullFlashThenQueriesOverAPseudoTerminal) {
     EXPECT_EQ(openDescriptors(), descriptors);
 }
 
-TEST_F(EntryPointTest, PortThatCannotBeOpened) {
+TEST(EntryPoint, PortThatCannotBeOpened) {
+    clearRecords();
     const char* missing = "/nonexistent/ttyACM0";
     EXPECT_EQ(esp_flash_firmware(missing, firmware.data(), firmware.size(), nullptr, 0, nullptr, 0,
                                  nullptr, 0, stub.data(), stub.size(), 0, 0, "2.10.6",
@@ -83,7 +80,7 @@ TEST_F(EntryPointTest, PortThatCannotBeOpened) {
 
 // /dev/null opens but is no terminal, so every call fails after the descriptor
 // was taken: the path where a leak would hide.
-TEST_F(EntryPointTest, FailingCallsLeaveNoDescriptorBehind) {
+TEST(EntryPoint, FailingCallsLeaveNoDescriptorBehind) {
     const size_t descriptors = openDescriptors();
     for (int i = 0; i < 100; ++i) {
         ASSERT_EQ(esp_flash_firmware("/dev/null", firmware.data(), firmware.size(), nullptr, 0,
