@@ -1,5 +1,4 @@
 #include <QList>
-#include <QStringList>
 #include <QTest>
 #include <cstring>
 #include <memory>
@@ -32,18 +31,14 @@ void AppUnplugTest::unplugDuringAnUpdateEndsInErrorThenIdle() {
     UpdateController controller(ResourceBundle(QStringLiteral(TFU_DEV_RESOURCES_DIR)), detector);
     controller.setDetailedLogging(true);
     QList<UpdateState> states;
-    QStringList statuses;
     connect(&controller, &UpdateController::stateChanged,
             [&](const UpdateState& state) { states.append(state); });
-    connect(&controller, &UpdateController::statusMessageChanged,
-            [&](const QString& status) { statuses.append(status); });
     QTRY_COMPARE_WITH_TIMEOUT(controller.state(), UpdateState::ready(), 2000);
 
     controller.updateFirmware();
     const QString message = QStringLiteral("Flash write failed. Try again.");
     // probe and settle about 3 s, then one block time-out of 10 s
     QTRY_VERIFY_WITH_TIMEOUT(states.contains(UpdateState::error(message)), 20000);
-    QVERIFY(statuses.contains(message));
     QTRY_COMPARE(controller.logMessages().last(), "ERROR: " + message);
     QCOMPARE(reliability::descriptorsOn(path), size_t{0});
 

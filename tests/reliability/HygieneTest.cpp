@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <cstdlib>
 #include <vector>
 
@@ -76,8 +75,6 @@ TEST(Hygiene, ThousandJobsLeaveDescriptorsAndHeapFlat) {
         successes += runJob(job % 8) ? 1 : 0;
         heapAfterWarmUp = job + 1 == kWarmUpJobs ? heapInUse() : heapAfterWarmUp;
     }
-    std::printf("%d jobs: heap in use %zu bytes after %d, %zu at end\n", kJobs, heapAfterWarmUp,
-                kWarmUpJobs, heapInUse());
     EXPECT_EQ(successes, kJobs / 8 * 3);
     EXPECT_EQ(openDescriptorCount(), descriptorsAtStart);
     // Allocator bookkeeping may move by a few blocks; a leak of one job's buffers
