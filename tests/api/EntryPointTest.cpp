@@ -48,11 +48,6 @@ TEST(EntryPoint, FullFlashThenQueriesOverAPseudoTerminal) {
                       regionLines(0x10000, firmware),
                       {"FLASH_END OK", "Verifying firmware version...",
                        "Device running firmware 2.10.6 (sim)"}}));
-    EXPECT_FLOAT_EQ(progressCalls.back().first, 0.85f);
-    device.inspect([&](const sim::Plotter& plotter) {
-        EXPECT_TRUE(
-            std::equal(firmware.begin(), firmware.end(), plotter.flash().begin() + 0x10000));
-    });
 
     char* version = esp_query_version(device.path().c_str());
     ASSERT_NE(version, nullptr);

