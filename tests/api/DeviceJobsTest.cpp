@@ -31,21 +31,11 @@ class DeviceJobsTest : public ::testing::Test {
     SerialPort port;
 };
 
-std::vector<uint8_t> configFile(size_t size) {
-    const std::string yaml = "meta: sim 1.0\nname: test\naxes:\n  x:\n    steps_per_mm: 80\n";
-    std::vector<uint8_t> file;
-    while (file.size() < size) {
-        file.insert(file.end(), yaml.begin(), yaml.end());
-    }
-    file.resize(size);
-    return file;
-}
-
 TEST_F(DeviceJobsTest, UploadStoresTheFileAfterTheQueryAndRestarts) {
     for (const size_t size : {3000, 0}) {
         clearRecords();
         const auto& plotter = device();
-        const auto file = configFile(size);
+        const auto file = pattern(size, 5);
         ASSERT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress), 0u);
         const auto& transcript = plotter.transcript();
         EXPECT_EQ(transcript.front(), "$I");
@@ -64,7 +54,7 @@ TEST_F(DeviceJobsTest, UploadStoresTheFileAfterTheQueryAndRestarts) {
 
 TEST_F(DeviceJobsTest, UploadFailuresReturn8WithoutRestart) {
     const auto& unanswered = device([](auto& c) { c.xmodemHandshake = false; });
-    const auto file = configFile(5000);
+    const auto file = pattern(5000, 5);
     EXPECT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress), 8u);
     const decltype(progressCalls) report = {{0.0f, "XModem: no handshake received (30s timeout)"}};
     EXPECT_EQ(progressCalls, report);
@@ -90,12 +80,12 @@ TEST_F(DeviceJobsTest, ProbeReadsTheTableThroughTheStub) {
         std::function<void(sim::Plotter&)> setup;
         int expected;
     } cases[] = {
-        {"valid", [](auto& p) { p.loadFlash(0x8000, partitionTable(0)); }, 1},
-        {"data at app offset", [](auto& p) { p.loadFlash(0x8000, partitionTable(1)); }, 0},
+        {"valid", [](auto& p) { p.loadFlash(0x8000, partitionTable("dA")); }, 1},
+        {"data at app offset", [](auto& p) { p.loadFlash(0x8000, partitionTable("dD")); }, 0},
         {"erased", [](auto&) {}, 0},
         {"late sync",
          [](auto& p) {
-             p.loadFlash(0x8000, partitionTable(0));
+             p.loadFlash(0x8000, partitionTable("dA"));
              p.config().syncFromAttempt = 25;
          },
          1},

@@ -24,7 +24,7 @@ const std::vector<uint8_t> stub = stubImage();
 TEST(EntryPoint, FullFlashThenQueriesOverAPseudoTerminal) {
     clearRecords();
     const auto bootloader = pattern(20000, 2);
-    const auto partitions = partitionTable(0);
+    const auto partitions = partitionTable("dA" + std::string(94, '-'));
     const auto bootApp = pattern(8192, 4);
     sim::Config config;
     config.versionReport = "2.10.6 (sim)";

@@ -36,15 +36,25 @@ inline void clearRecords() {
     progressCalls.clear();
 }
 
-/// A 3072-byte table: an NVS data entry at 0x9000, then an entry of `appType` at
-/// 0x10000, then erased flash.
-inline std::vector<uint8_t> partitionTable(uint8_t appType) {
-    std::vector<uint8_t> table(3072, 0xFF);
-    const uint8_t nvs[] = {0xAA, 0x50, 1, 2, 0x00, 0x90, 0, 0, 0x00, 0x50, 0, 0};
-    const uint8_t app[] = {0xAA, 0x50, appType, 0, 0x00, 0x00, 1, 0, 0x00, 0x00, 0x10, 0};
-    std::copy(std::begin(nvs), std::end(nvs), table.begin());
-    std::copy(std::begin(app), std::end(app), table.begin() + 32);
-    return table;
+/// A partition table described entry by entry: 'A' an application at 0x10000, 'a' one
+/// at 0x20000, 'D' data at 0x10000, 'd' data at 0x9000, 'x' an application at 0x10000
+/// without the entry magic, '-' an erased entry, '~' 31 bytes of an application entry.
+inline std::vector<uint8_t> partitionTable(const std::string& entries) {
+    std::vector<uint8_t> out;
+    for (const char kind : entries) {
+        std::vector<uint8_t> entry(32, kind == '-' ? 0xFF : 0x00);
+        if (kind != '-') {
+            const uint32_t offset = kind == 'a' ? 0x20000 : kind == 'd' ? 0x9000 : 0x10000;
+            entry[0] = kind == 'x' ? 0xAB : 0xAA;
+            entry[1] = 0x50;
+            entry[2] = (kind == 'D' || kind == 'd') ? 1 : 0;
+            entry[5] = static_cast<uint8_t>(offset >> 8);
+            entry[6] = static_cast<uint8_t>(offset >> 16);
+            entry[9] = 0x10;
+        }
+        out.insert(out.end(), entry.begin(), entry.end() - (kind == '~' ? 1 : 0));
+    }
+    return out;
 }
 
 inline Lines concat(std::initializer_list<Lines> parts) {
