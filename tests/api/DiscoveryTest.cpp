@@ -74,52 +74,43 @@ class FakeSysfs {
 
 const std::string kHub = "devices/pci0000:00/usb1";
 
-TEST(PortDiscovery, FindsNothingWithoutAMatchingDevice) {
+TEST(PortDiscovery, ListsOnlyMatchingReachablePortsInNameOrder) {
     FakeSysfs tree;
+    EXPECT_TRUE(tree.found().empty());
+    EXPECT_TRUE(listESPPorts(0x303A, 0x1001, tree.sys() + "/missing", tree.dev()).empty());
+    // Foreign and id-less devices, and a virtual console without a device link.
     tree.tty("tty0", "devices/virtual", false);
     tree.ids("devices/platform/serial8250", "", "");
     tree.tty("ttyS0", "devices/platform/serial8250");
     tree.ids(kHub + "/1-1", "1a86", "7523");
     tree.tty("ttyUSB0", kHub + "/1-1/1-1:1.0");
-    EXPECT_TRUE(tree.found().empty());
-    EXPECT_TRUE(listESPPorts(0x303A, 0x1001, tree.sys() + "/missing", tree.dev()).empty());
-}
-
-TEST(PortDiscovery, ListsEveryMatchingDeviceInNameOrder) {
-    FakeSysfs tree;
+    // Matches, case-blind, and on the low sixteen bits only; another product id.
     tree.ids(kHub + "/1-2", "303a", "1001");
     tree.tty("ttyACM1", kHub + "/1-2/1-2:1.0");
     tree.ids(kHub + "/1-3", "303A", "1001");
     tree.tty("ttyACM0", kHub + "/1-3/1-3:1.0");
     tree.ids(kHub + "/1-4", "303a", "1002");
     tree.tty("ttyACM2", kHub + "/1-4/1-4:1.0");
-    tree.ids(kHub + "/1-7", "1303a", "71001");  // only the low sixteen bits count
+    tree.ids(kHub + "/1-7", "1303a", "71001");
     tree.tty("ttyACM3", kHub + "/1-7/1-7:1.0");
-    EXPECT_EQ(tree.found(), (std::vector<std::string>{"ttyACM0", "ttyACM1", "ttyACM3"}));
-    EXPECT_EQ(tree.found(0x303A, 0x1002), std::vector<std::string>{"ttyACM2"});
-}
-
-TEST(PortDiscovery, OnlyTheNearestFolderWithBothIdsDecides) {
-    FakeSysfs tree;
-    // A matching hub above a foreign device: the device's own ids decide.
+    // Only the nearest folder with both ids decides: a matching hub above a foreign
+    // device does not count; folders with one of the ids are passed over.
     tree.ids(kHub + "/1-5", "303a", "1001");
     tree.ids(kHub + "/1-5/1-5.1", "0403", "6001");
-    tree.tty("ttyUSB0", kHub + "/1-5/1-5.1/1-5.1:1.0");
-    // Folders with only one of the ids are passed over on the way up.
+    tree.tty("ttyUSB1", kHub + "/1-5/1-5.1/1-5.1:1.0");
     tree.ids(kHub + "/1-6", "303a", "1001");
     tree.ids(kHub + "/1-6/1-6:1.0", "0403", "");
     tree.ids(kHub + "/1-6/1-6:1.0/port", "", "6001");
-    tree.tty("ttyACM0", kHub + "/1-6/1-6:1.0/port");
-    EXPECT_EQ(tree.found(), std::vector<std::string>{"ttyACM0"});
-}
-
-TEST(PortDiscovery, SkipsEntriesWithoutDeviceLinkOrNode) {
-    FakeSysfs tree;
+    tree.tty("ttyACM6", kHub + "/1-6/1-6:1.0/port");
+    // A gadget port without a device link, and a tty without a device node.
     tree.ids(kHub + "/1-8", "303a", "1001");
     tree.tty("ttyGS0", kHub + "/1-8", false);
     tree.tty("ttyACM4", kHub + "/1-8/1-8:1.0", true, false);
     tree.tty("ttyACM5", kHub + "/1-8/1-8:1.2");
-    EXPECT_EQ(tree.found(), std::vector<std::string>{"ttyACM5"});
+
+    EXPECT_EQ(tree.found(),
+              (std::vector<std::string>{"ttyACM0", "ttyACM1", "ttyACM3", "ttyACM5", "ttyACM6"}));
+    EXPECT_EQ(tree.found(0x303A, 0x1002), std::vector<std::string>{"ttyACM2"});
 }
 
 }  // namespace
