@@ -5,6 +5,7 @@
 #include "Campaign.h"
 #include "esp/EspLoader.h"
 #include "esp/Packet.h"
+#include "tests/support/TestImages.h"
 
 namespace reliability {
 namespace {
@@ -174,10 +175,8 @@ FlashScenario drawFlashScenario(uint32_t seed) {
 UploadScenario drawUploadScenario(uint32_t seed) {
     Rng rng(seed);
     UploadScenario s;
-    s.file.resize(static_cast<size_t>(pick(rng, 0, 5 * 1024 + 7)));
-    for (uint8_t& byte : s.file) {
-        byte = static_cast<uint8_t>(pick(rng, 0, 255));
-    }
+    s.file = testimg::pattern(static_cast<size_t>(pick(rng, 0, 5 * 1024 + 7)),
+                              static_cast<uint8_t>(seed));
     // The receiver takes trailing 0x1A bytes for padding, as every XModem receiver must.
     if (!s.file.empty() && s.file.back() == 0x1A) {
         s.file.back() = '\n';
