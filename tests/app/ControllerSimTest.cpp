@@ -70,11 +70,6 @@ void ControllerSimTest::applicationOnlyWhenTheConsoleAnswers() {
     const QByteArray firmware = devImage("firmware");
     QVERIFY(flashAt(plotter, 0x10000, firmware.size()) == firmware);
     QCOMPARE(flashAt(plotter, 0x0, 16), QByteArray(16, char(0xFF)));
-
-    // The next poll returns to ready; the log keeps the outcome.
-    QTRY_COMPARE_WITH_TIMEOUT(harness.controller.state(), UpdateState::ready(), 2000);
-    QCOMPARE(harness.controller.statusMessage(), QStringLiteral("Device connected"));
-    QCOMPARE(harness.controller.logMessages().last(), kComplete);
 }
 
 void ControllerSimTest::fullFlashWithEraseAllEndsWithTheNote() {
