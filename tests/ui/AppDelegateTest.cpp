@@ -1,5 +1,4 @@
 #include <QAction>
-#include <QApplication>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
@@ -38,12 +37,9 @@ class AppDelegateTest : public QObject {
     void init();
 
     void menuBarMatchesTheTable();
-    void emptyProductTableDisablesTheProductMenu();
-    void togglesFlipTheFlagAndTheCheckMark_data();
     void togglesFlipTheFlagAndTheCheckMark();
     void productItemsUploadByTagWithinRange();
-    void aboutWindowIsBuiltOnceAndReused();
-    void escapeClosesAboutOnlyWhileItIsActive();
+    void aboutWindowIsReusedAndEscapeClosesItWhileActive();
 
   private:
     void launch(QList<ProductConfig> products);
@@ -109,33 +105,23 @@ void AppDelegateTest::menuBarMatchesTheTable() {
     QCOMPARE(menus(), expected);
     QCOMPARE(action("About Teskal Firmware Updater")->menuRole(), QAction::AboutRole);
     QCOMPARE(action("Quit")->menuRole(), QAction::QuitRole);
-    QCOMPARE(m_delegate->window()->windowTitle(), QStringLiteral("Teskal Firmware Updater"));
-}
 
-void AppDelegateTest::emptyProductTableDisablesTheProductMenu() {
     launch({});
     QCOMPARE(menus().mid(menus().indexOf("Config||")),
              QStringList({"Config||", "  No products configured||disabled", "  ---",
                           "  Select from Disk...||"}));
 }
 
-void AppDelegateTest::togglesFlipTheFlagAndTheCheckMark_data() {
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QByteArray>("flag");
-    QTest::newRow("detailed") << "Detailed Logging" << QByteArray("detailedLogging");
-    QTest::newRow("boot") << "Write Boot Partitions" << QByteArray("writeBootPartitionsEnabled");
-    QTest::newRow("erase") << "Erase All Flash" << QByteArray("eraseAllFlashEnabled");
-}
-
 void AppDelegateTest::togglesFlipTheFlagAndTheCheckMark() {
-    QFETCH(QString, title);
-    QFETCH(QByteArray, flag);
-    QAction* item = action(title);
-    const UpdateController& controller = m_delegate->updateController();
-    for (const bool on : {true, false}) {
-        item->trigger();
-        QCOMPARE(controller.property(flag.constData()).toBool(), on);
-        QCOMPARE(item->isChecked(), on);
+    for (const auto& [title, flag] :
+         {std::pair{"Detailed Logging", "detailedLogging"},
+          std::pair{"Write Boot Partitions", "writeBootPartitionsEnabled"},
+          std::pair{"Erase All Flash", "eraseAllFlashEnabled"}}) {
+        for (const bool on : {true, false}) {
+            action(title)->trigger();
+            QVERIFY2(m_delegate->updateController().property(flag).toBool() == on, title);
+            QVERIFY2(action(title)->isChecked() == on, title);
+        }
     }
 }
 
@@ -155,7 +141,7 @@ void AppDelegateTest::productItemsUploadByTagWithinRange() {
                  QStringList{"ERROR: No device connected"});
 }
 
-void AppDelegateTest::aboutWindowIsBuiltOnceAndReused() {
+void AppDelegateTest::aboutWindowIsReusedAndEscapeClosesItWhileActive() {
     QVERIFY(m_delegate->aboutWindow() == nullptr);
     action("About Teskal Firmware Updater")->trigger();
     AboutWindow* about = m_delegate->aboutWindow();
@@ -169,12 +155,8 @@ void AppDelegateTest::aboutWindowIsBuiltOnceAndReused() {
     m_delegate->showAbout();
     QCOMPARE(m_delegate->aboutWindow(), about);
     QVERIFY(about->isVisible());
-}
 
-void AppDelegateTest::escapeClosesAboutOnlyWhileItIsActive() {
     QMainWindow* window = m_delegate->window();
-    m_delegate->showAbout();
-    AboutWindow* about = m_delegate->aboutWindow();
     window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(window));
     QTest::keyClick(window, Qt::Key_Escape);
