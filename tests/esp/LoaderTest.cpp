@@ -11,7 +11,8 @@ TEST_F(LoaderTest, SyncTriesEachAttemptForHalfASecond) {
     bool synced = true;
     EXPECT_NEAR(elapsedMs([&] { synced = loader.sync(10); }), 5000, 50);
     EXPECT_FALSE(synced);
-    EXPECT_EQ(sent.size(), 10u);
+    ASSERT_EQ(sent.size(), 10u);
+    EXPECT_EQ(sent[0].payload, esp::buildSyncPayload());
     EXPECT_EQ(lines, Lines(10, "NO RESPONSE: SYNC"));
 
     reply = [this](const Request& r) { return sent.size() < 13 ? Bytes{} : response(r.op); };
