@@ -24,9 +24,8 @@ QByteArray flashAt(const sim::PtyPlotter& plotter, uint32_t address, qsizetype s
 QByteArray storedConfig(const sim::PtyPlotter& plotter) {
     QByteArray bytes;
     plotter.inspect([&](const sim::Plotter& p) {
-        if (const auto stored = p.storedConfig()) {
-            bytes = QByteArray(reinterpret_cast<const char*>(stored->data()), stored->size());
-        }
+        const auto stored = p.storedConfig().value_or(std::vector<uint8_t>{});
+        bytes = QByteArray(reinterpret_cast<const char*>(stored.data()), stored.size());
     });
     return bytes;
 }

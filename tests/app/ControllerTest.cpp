@@ -31,14 +31,13 @@ class ControllerTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void followsTheConnection();
-    void refusedStartsOnlyLog();
+    void followsTheConnectionAndRefusesStartsWithoutIt();
     void failures_data();
     void failures();
     void customFirmwareChoice();
 };
 
-void ControllerTest::followsTheConnection() {
+void ControllerTest::followsTheConnectionAndRefusesStartsWithoutIt() {
     ControllerHarness harness;
     QCOMPARE(harness.controller.state(), UpdateState::idle());
     QCOMPARE(harness.controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
@@ -49,10 +48,7 @@ void ControllerTest::followsTheConnection() {
 
     QVERIFY(harness.plug({}));
     QCOMPARE(harness.controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
-}
 
-void ControllerTest::refusedStartsOnlyLog() {
-    ControllerHarness harness;
     auto& controller = harness.controller;
     controller.log("earlier line");
     controller.updateFirmware();
