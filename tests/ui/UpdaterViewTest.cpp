@@ -144,6 +144,7 @@ void UpdaterViewTest::scrollsToTheLastLineWhenTheCountChanges() {
     m_view->showLog(lines);
     QTest::qWait(50);
     QCOMPARE(bar->value(), 0);
+    QCOMPARE(log->lines().last(), QStringLiteral("changed"));
 
     lines.append(QStringLiteral("one more"));
     m_view->showLog(lines);
