@@ -50,6 +50,10 @@ void ScreensTest::mainWindowStates() {
     save(window, QStringLiteral("main-idle"));
 
     view->showConnection(true, QStringLiteral("/dev/ttyACM0"));
+    view->showState(UpdateState::ready());
+    view->showStatusMessage(QStringLiteral("Device connected"));
+    save(window, QStringLiteral("main-ready"));
+
     QStringList log{QStringLiteral("Updating firmware v2.10.6…"),
                     QStringLiteral("Checking device status…")};
     view->showState(UpdateState::flashing(0.5f));
