@@ -33,24 +33,17 @@ void UpdateController::runConfigUpload(const QString& port, const QByteArray& co
 }
 
 FlasherBridge::ProgressHandler UpdateController::configProgressHandler() {
-    QPointer<UpdateController> self(this);
-    return [self](float fraction, const QString& message) {
-        if (self.isNull()) {
-            return;
-        }
-        QMetaObject::invokeMethod(
-            self,
-            [self, fraction, message] {
-                self->assignProgress(fraction);
-                self->assignState(UpdateState::uploadingConfig(fraction));
-                if (message.isEmpty()) {
-                    return;
-                }
-                if (message != self->m_statusMessage) {
-                    self->appendLog(message);
-                }
-                self->assignStatus(message);
-            },
-            Qt::QueuedConnection);
+    return [self = QPointer(this)](float fraction, const QString& message) {
+        postStep(self, [fraction, message](UpdateController& controller) {
+            controller.assignProgress(fraction);
+            controller.assignState(UpdateState::uploadingConfig(fraction));
+            if (message.isEmpty()) {
+                return;
+            }
+            if (message != controller.m_statusMessage) {
+                controller.appendLog(message);
+            }
+            controller.assignStatus(message);
+        });
     };
 }

@@ -118,37 +118,23 @@ bool UpdateController::decideFullFlash(const QString& port, bool eraseAll) {
 }
 
 FlasherBridge::ProgressHandler UpdateController::flashProgressHandler() {
-    QPointer<UpdateController> self(this);
-    return [self](float fraction, const QString& message) {
-        if (self.isNull()) {
-            return;
-        }
-        QMetaObject::invokeMethod(
-            self,
-            [self, fraction, message] {
-                self->assignProgress(fraction);
-                self->assignState(UpdateState::flashing(fraction));
-                if (!message.isEmpty()) {
-                    self->assignStatus(message);
-                }
-            },
-            Qt::QueuedConnection);
+    return [self = QPointer(this)](float fraction, const QString& message) {
+        postStep(self, [fraction, message](UpdateController& controller) {
+            controller.assignProgress(fraction);
+            controller.assignState(UpdateState::flashing(fraction));
+            if (!message.isEmpty()) {
+                controller.assignStatus(message);
+            }
+        });
     };
 }
 
 FlasherBridge::LogHandler UpdateController::libraryLogHandler() {
-    QPointer<UpdateController> self(this);
-    return [self](const QString& line) {
-        if (self.isNull()) {
-            return;
-        }
-        QMetaObject::invokeMethod(
-            self,
-            [self, line] {
-                if (self->m_detailedLogging) {
-                    self->appendLog(line);
-                }
-            },
-            Qt::QueuedConnection);
+    return [self = QPointer(this)](const QString& line) {
+        postStep(self, [line](UpdateController& controller) {
+            if (controller.m_detailedLogging) {
+                controller.appendLog(line);
+            }
+        });
     };
 }

@@ -122,6 +122,15 @@ void UpdateController::submit(std::function<void(UpdateController&)> job) {
     });
 }
 
+void UpdateController::postStep(const QPointer<UpdateController>& self,
+                                std::function<void(UpdateController&)> step) {
+    if (self.isNull()) {
+        return;
+    }
+    QMetaObject::invokeMethod(
+        self, [self, step = std::move(step)] { step(*self); }, Qt::QueuedConnection);
+}
+
 void UpdateController::followConnection(bool connected) {
     if (m_state.isBusy()) {
         return;

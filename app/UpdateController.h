@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QMutex>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QThreadPool>
@@ -113,6 +114,9 @@ class UpdateController : public QObject {
   private:
     static QString versionSuffix(const QByteArray& configData);
 
+    /// Queues `step` for the GUI thread; dropped when the controller is gone by then.
+    static void postStep(const QPointer<UpdateController>& self,
+                         std::function<void(UpdateController&)> step);
     void followConnection(bool connected);
     std::optional<QString> portForNewJob();
     void submit(std::function<void(UpdateController&)> job);
