@@ -13,8 +13,8 @@ namespace esp {
 
 /// Result of one command exchange.
 struct CommandResult {
-    bool ok = false;      ///< answered the command sent, with status 0
-    uint32_t value = 0;   ///< the response's value word; 0 without a usable response
+    bool ok = false;            ///< answered the command sent, with status 0
+    uint32_t value = 0;         ///< the response's value word; 0 without a usable response
     std::vector<uint8_t> data;  ///< the response's data; empty without a usable response
 };
 
@@ -36,7 +36,7 @@ using ProgressFn = void (*)(float, const char*);
 /// failure is described by exactly one log line and leaves the session usable.
 /// The port is borrowed and must outlive the loader.
 class EspLoader {
-public:
+  public:
     using LogFn = std::function<void(const std::string&)>;
 
     /// Protocol constants shared with the devices' block sizes.
@@ -116,7 +116,7 @@ public:
     /// True after the stub has greeted and until `hardReset`.
     bool stubRunning() const { return stubRunning_; }
 
-private:
+  private:
     void log(const std::string& line) const;
 
     SerialPort& port_;

@@ -18,7 +18,7 @@ void sleepMs(int ms);
 ///
 /// Every blocking loop of the core measures its time-out with one of these.
 class Deadline {
-public:
+  public:
     /// Starts the deadline now; the product `timeoutMs` x 1,000,000 is taken in 64 bits.
     explicit Deadline(int timeoutMs) : at_(nowNs() + int64_t{timeoutMs} * 1'000'000) {}
 
@@ -31,7 +31,7 @@ public:
     /// Whole milliseconds left, truncated toward zero (negative once passed).
     int remainingMs() const { return static_cast<int>(remainingNs() / 1'000'000); }
 
-private:
+  private:
     int64_t at_;
 };
 

@@ -12,7 +12,9 @@ std::atomic<int64_t> virtualNow{1'000'000'000};
 
 namespace mono {
 
-int64_t nowNs() { return virtualNow.fetch_add(kReadQuantumNs) + kReadQuantumNs; }
+int64_t nowNs() {
+    return virtualNow.fetch_add(kReadQuantumNs) + kReadQuantumNs;
+}
 
 void sleepMs(int ms) {
     if (ms > 0) {
