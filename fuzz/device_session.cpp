@@ -69,19 +69,11 @@ const std::vector<uint8_t> kBootApp = testimg::pattern(8192, 4);
 const std::vector<uint8_t> kStub = testimg::stubImage();
 
 esp_error_t flash(SerialPort& port, uint8_t choice) {
-    esp::FlashRequest request;
-    request.firmware = kFirmware.data();
-    request.firmwareLen = kFirmware.size();
-    request.bootloader = kBootloader.data();
-    request.bootloaderLen = kBootloader.size();
-    request.partitions = kPartitions.data();
-    request.partitionsLen = kPartitions.size();
+    auto request = testimg::flashRequest(kFirmware, kBootloader, kPartitions, kStub);
     if (choice & 4) {
         request.bootApp = kBootApp.data();
         request.bootAppLen = kBootApp.size();
     }
-    request.stub = kStub.data();
-    request.stubLen = kStub.size();
     request.fullFlash = (choice & 1) != 0;
     request.eraseAll = (choice & 2) != 0;
     request.expectedVersion = (choice & 8) ? "v3.7.8" : nullptr;

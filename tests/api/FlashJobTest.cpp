@@ -24,15 +24,7 @@ class FlashJobTest : public ::testing::Test {
         clearRecords();
         port.reset();
         plotter = std::make_unique<sim::Plotter>();
-        request = esp::FlashRequest{};
-        request.firmware = firmware.data();
-        request.firmwareLen = firmware.size();
-        request.bootloader = bootloader.data();
-        request.bootloaderLen = bootloader.size();
-        request.partitions = partitions.data();
-        request.partitionsLen = partitions.size();
-        request.stub = stub.data();
-        request.stubLen = stub.size();
+        request = testimg::flashRequest(firmware, bootloader, partitions, stub);
         if (change) {
             change(*plotter, request);
         }

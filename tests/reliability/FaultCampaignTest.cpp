@@ -97,17 +97,9 @@ TEST(FaultCampaign, FlashingJobKeepsItsPromisesUnderRandomFaults) {
         const FlashScenario s = drawFlashScenario(seed);
         SCOPED_TRACE(trace(seed, s.faults));
         const auto firmware = testimg::pattern(s.firmwareSize, static_cast<uint8_t>(seed));
-        esp::FlashRequest request;
-        request.firmware = firmware.data();
-        request.firmwareLen = firmware.size();
-        request.bootloader = bootloader.data();
-        request.bootloaderLen = bootloader.size();
-        request.partitions = partitions.data();
-        request.partitionsLen = partitions.size();
+        auto request = testimg::flashRequest(firmware, bootloader, partitions, stub);
         request.bootApp = s.withBootApp ? bootApp.data() : nullptr;
         request.bootAppLen = s.withBootApp ? bootApp.size() : 0;
-        request.stub = stub.data();
-        request.stubLen = stub.size();
         request.fullFlash = s.fullFlash;
         request.eraseAll = s.eraseAll;
         request.expectedVersion = s.expectedVersion.c_str();

@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <vector>
 
+#include "api/Jobs.h"
 #include "esp/Packet.h"
 
 /// Images shared by the core test areas. Header-only, stateless.
@@ -38,6 +39,23 @@ inline std::vector<uint8_t> stubImage(uint32_t textSize = 100, uint32_t dataSize
     const auto body = pattern(textSize + dataSize, 0x5A);
     image.insert(image.end(), body.begin(), body.end());
     return image;
+}
+
+/// An application-only request over borrowed images, with no boot-app image.
+inline esp::FlashRequest flashRequest(const std::vector<uint8_t>& firmware,
+                                      const std::vector<uint8_t>& bootloader,
+                                      const std::vector<uint8_t>& partitions,
+                                      const std::vector<uint8_t>& stub) {
+    esp::FlashRequest request;
+    request.firmware = firmware.data();
+    request.firmwareLen = firmware.size();
+    request.bootloader = bootloader.data();
+    request.bootloaderLen = bootloader.size();
+    request.partitions = partitions.data();
+    request.partitionsLen = partitions.size();
+    request.stub = stub.data();
+    request.stubLen = stub.size();
+    return request;
 }
 
 }  // namespace testimg
