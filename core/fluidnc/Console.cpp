@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "fluidnc/Drain.h"
 #include "serial/Clock.h"
 
 namespace fluidnc {
@@ -62,12 +63,6 @@ std::optional<std::string> parseVersionReport(const std::string& line) {
     return inner;
 }
 
-void drainInput(SerialPort& port) {
-    uint8_t scratch[64];
-    while (port.read(scratch, sizeof scratch, kByteSliceMs) > 0) {
-    }
-}
-
 bool writeText(SerialPort& port, std::string_view text) {
     return port.write(reinterpret_cast<const uint8_t*>(text.data()), text.size());
 }
@@ -85,7 +80,7 @@ void waitForOk(SerialPort& port, int timeoutMs) {
 }
 
 std::optional<std::string> queryVersion(SerialPort& port, int timeoutMs) {
-    drainInput(port);
+    drainInput(port, 64, kByteSliceMs);
     if (!writeText(port, "$I\n")) {
         return std::nullopt;
     }

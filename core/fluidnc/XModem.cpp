@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "fluidnc/Drain.h"
+
 namespace fluidnc {
 namespace {
 
@@ -57,9 +59,7 @@ bool startReceiver(SerialPort& port) {
         return false;
     }
     // The console echoes and comments the command before the receiver starts.
-    uint8_t scratch[256];
-    while (port.read(scratch, sizeof scratch, kDrainMs) > 0) {
-    }
+    drainInput(port, 256, kDrainMs);
     return true;
 }
 

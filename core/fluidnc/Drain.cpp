@@ -1,0 +1,24 @@
+#include "fluidnc/Drain.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "serial/Clock.h"
+
+namespace fluidnc {
+
+void drainInput(SerialPort& port, size_t chunk, int sliceMs) {
+    uint8_t scratch[256];
+    const size_t want = std::min(chunk, sizeof scratch);
+    const mono::Deadline limit(kDrainLimitMs);
+    size_t drained = 0;
+    while (drained < kDrainLimitBytes && !limit.expired()) {
+        const size_t n = port.read(scratch, want, sliceMs);
+        if (n == 0) {
+            return;
+        }
+        drained += n;
+    }
+}
+
+}  // namespace fluidnc
