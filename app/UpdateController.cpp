@@ -108,7 +108,7 @@ std::optional<QString> UpdateController::portForNewJob() {
 }
 
 void UpdateController::submit(std::function<void(UpdateController&)> job) {
-    m_jobRunning = true;
+    assignJobRunning(true);
     QPointer<UpdateController> self(this);
     m_worker.start([self, job = std::move(job)] {
         if (self.isNull()) {
@@ -118,7 +118,7 @@ void UpdateController::submit(std::function<void(UpdateController&)> job) {
         // Posted behind every step the job posted, so a new job cannot start (and
         // empty the log) before this job's last lines and state have arrived.
         QMetaObject::invokeMethod(
-            self, [self] { self->m_jobRunning = false; }, Qt::QueuedConnection);
+            self, [self] { self->assignJobRunning(false); }, Qt::QueuedConnection);
     });
 }
 
@@ -183,6 +183,11 @@ void UpdateController::assignStatus(const QString& message) {
 void UpdateController::appendLog(const QString& line) {
     m_logMessages.append(line);
     emit logMessagesChanged(m_logMessages);
+}
+
+void UpdateController::assignJobRunning(bool running) {
+    m_jobRunning = running;
+    emit jobRunningChanged(m_jobRunning);
 }
 
 void UpdateController::clearLog() {

@@ -40,6 +40,7 @@ class UpdateController : public QObject {
     Q_PROPERTY(bool writeBootPartitionsEnabled READ writeBootPartitionsEnabled WRITE
                    setWriteBootPartitionsEnabled)
     Q_PROPERTY(bool eraseAllFlashEnabled READ eraseAllFlashEnabled WRITE setEraseAllFlashEnabled)
+    Q_PROPERTY(bool jobRunning READ jobRunning NOTIFY jobRunningChanged)
 
   public:
     /// Uses the resources beside the executable and the library's device
@@ -78,6 +79,10 @@ class UpdateController : public QObject {
     /// Owned by the controller for its whole life.
     DeviceMonitor* deviceMonitor() const { return m_monitor; }
 
+    /// True from the moment a job is accepted (before its state leaves `ready`)
+    /// until its last posted step has arrived on the GUI thread.
+    bool jobRunning() const { return m_jobRunning; }
+
     /// Records the firmware file chosen in the file dialog (none when the dialog
     /// confirmed without a location) and logs "Custom firmware: " and its name.
     void chooseCustomFirmware(const std::optional<QString>& path);
@@ -110,6 +115,7 @@ class UpdateController : public QObject {
     void statusMessageChanged(const QString& statusMessage);
     void logMessagesChanged(const QStringList& logMessages);
     void customFirmwareURLChanged(const QUrl& location);
+    void jobRunningChanged(bool running);
 
   private:
     static QString versionSuffix(const QByteArray& configData);
@@ -139,6 +145,7 @@ class UpdateController : public QObject {
     void assignStatus(const QString& message);
     void appendLog(const QString& line);
     void clearLog();
+    void assignJobRunning(bool running);
 
     const ResourceBundle m_resources;
     DeviceMonitor* m_monitor;
