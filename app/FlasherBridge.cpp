@@ -10,8 +10,8 @@ namespace {
 // running job have to live where the trampolines can find them.
 struct Slots {
     std::mutex mutex;
-    std::shared_ptr<const ProgressHandler> progress;
-    std::shared_ptr<const LogHandler> log;
+    std::shared_ptr<const ProgressHandler> activeProgressHandler;
+    std::shared_ptr<const LogHandler> activeLogHandler;
 };
 
 Slots& handlerSlots() {
@@ -30,16 +30,16 @@ class ParkedHandlers {
         auto parkedProgress = std::make_shared<const ProgressHandler>(std::move(progress));
         auto parkedLog = std::make_shared<const LogHandler>(std::move(log));
         const std::lock_guard lock(handlerSlots().mutex);
-        parkedProgress.swap(handlerSlots().progress);
-        parkedLog.swap(handlerSlots().log);
+        parkedProgress.swap(handlerSlots().activeProgressHandler);
+        parkedLog.swap(handlerSlots().activeLogHandler);
     }
     ~ParkedHandlers() {
         std::shared_ptr<const ProgressHandler> progress;
         std::shared_ptr<const LogHandler> log;
         {
             const std::lock_guard lock(handlerSlots().mutex);
-            progress.swap(handlerSlots().progress);
-            log.swap(handlerSlots().log);
+            progress.swap(handlerSlots().activeProgressHandler);
+            log.swap(handlerSlots().activeLogHandler);
         }
     }
     ParkedHandlers(const ParkedHandlers&) = delete;
@@ -87,7 +87,7 @@ void progressTrampoline(float progress, const char* message) {
     std::shared_ptr<const ProgressHandler> handler;
     {
         const std::lock_guard lock(handlerSlots().mutex);
-        handler = handlerSlots().progress;
+        handler = handlerSlots().activeProgressHandler;
     }
     if (handler && *handler) {
         (*handler)(progress, text);
@@ -99,7 +99,7 @@ void logTrampoline(const char* line) {
     std::shared_ptr<const LogHandler> handler;
     {
         const std::lock_guard lock(handlerSlots().mutex);
-        handler = handlerSlots().log;
+        handler = handlerSlots().activeLogHandler;
     }
     if (handler && *handler) {
         (*handler)(text);
@@ -108,7 +108,8 @@ void logTrampoline(const char* line) {
 
 bool hasParkedHandlers() {
     const std::lock_guard lock(handlerSlots().mutex);
-    return handlerSlots().progress != nullptr || handlerSlots().log != nullptr;
+    return handlerSlots().activeProgressHandler != nullptr ||
+           handlerSlots().activeLogHandler != nullptr;
 }
 
 }  // namespace detail
