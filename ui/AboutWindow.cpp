@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QTextBrowser>
 #include <QTextCursor>
-#include <algorithm>
 
 #include "ui/Colors.h"
 
@@ -19,27 +18,19 @@ QRect fromBottomLeft(int x, int y, int width, int height) {
     return QRect(x, kHeight - y - height, width, height);
 }
 
-// Fonts are sized in points but positions in device-independent pixels, so on a
-// 96 dpi desktop a text can be taller than its place; it then grows evenly above and
-// below the place instead of being clipped.
-QRect fitHeight(const QLabel* label, const QRect& place) {
-    const int extra = std::max(0, label->sizeHint().height() - place.height());
-    return place.adjusted(0, -extra / 2, 0, extra - extra / 2);
-}
-
 QColor labelTint(qreal alpha) {
     QColor color = QGuiApplication::palette().color(QPalette::WindowText);
     color.setAlphaF(alpha);
     return color;
 }
 
-QLabel* makeLabel(const QString& text, qreal pointSize, bool bold, const QColor& color,
+QLabel* makeLabel(const QString& text, int pixelSize, bool bold, const QColor& color,
                   QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignCenter);
     QFont font = label->font();
-    font.setPointSizeF(pointSize);
+    font.setPixelSize(pixelSize);
     font.setBold(bold);
     label->setFont(font);
     QPalette palette = label->palette();
@@ -52,10 +43,12 @@ QLabel* makeLabel(const QString& text, qreal pointSize, bool bold, const QColor&
 
 AboutWindow::AboutWindow(const QList<ProductConfig>& products, const QString& buildDate,
                          const QPixmap& icon, QWidget* parent)
-    : QWidget(parent, Qt::Window),
+    : QWidget(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowCloseButtonHint),
       m_title(makeLabel(QStringLiteral("Corvane\nTeskal Firmware Updater"), 18, true,
                         labelTint(1.0), this)),
-      m_version(makeLabel(QStringLiteral("Firmware v2.10.6 (build ") + buildDate + QLatin1Char(')'),
+      m_version(makeLabel(QStringLiteral("Firmware v") + BuildConfig::firmwareVersion() +
+                              QStringLiteral(" (build ") + buildDate + QLatin1Char(')'),
                           12, false, labelTint(0.5), this)),
       m_information(new QTextBrowser(this)),
       m_footer(makeLabel(QStringLiteral("© 2026 Corvane. All rights reserved."), 10, false,
@@ -83,10 +76,10 @@ void AboutWindow::placeContent(const QPixmap& icon) {
         m_icon->setGeometry(fromBottomLeft(178, top - 64, 64, 64));
         top -= 80;
     }
-    m_title->setGeometry(fitHeight(m_title, fromBottomLeft(20, top - 44, 380, 48)));
-    m_version->setGeometry(fitHeight(m_version, fromBottomLeft(20, top - 72, 380, 18)));
+    m_title->setGeometry(fromBottomLeft(20, top - 44, 380, 48));
+    m_version->setGeometry(fromBottomLeft(20, top - 72, 380, 18));
     m_information->setGeometry(fromBottomLeft(30, 50, 360, top - 146));
-    m_footer->setGeometry(fitHeight(m_footer, fromBottomLeft(20, 16, 380, 18)));
+    m_footer->setGeometry(fromBottomLeft(20, 16, 380, 18));
 }
 
 void AboutWindow::fillInformation(const QList<ProductConfig>& products) {
@@ -99,8 +92,12 @@ void AboutWindow::fillInformation(const QList<ProductConfig>& products) {
     m_information->viewport()->setAutoFillBackground(false);
     m_information->document()->setDocumentMargin(0);
 
+    // Links are long unbroken words; they move to a line of their own rather than
+    // break inside.
+    m_information->setWordWrapMode(QTextOption::WordWrap);
+
     QFont font = m_information->font();
-    font.setPointSizeF(11);
+    font.setPixelSize(11);
     QTextCharFormat body;
     body.setFont(font);
     body.setForeground(labelTint(1.0));

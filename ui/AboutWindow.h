@@ -11,8 +11,9 @@
 class QLabel;
 class QTextBrowser;
 
-/// The About window, 420 x 520, not resizable. Its content is built once by the
-/// constructor; closing it only hides it. GUI thread only.
+/// The About window, 420 x 520, not resizable, with a title and a close button only.
+/// Its content is built once by the constructor; closing it only hides it. GUI
+/// thread only.
 class AboutWindow : public QWidget {
     Q_OBJECT
 

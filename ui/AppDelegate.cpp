@@ -44,7 +44,9 @@ AppDelegate::~AppDelegate() {
 
 void AppDelegate::applicationDidFinishLaunching() {
     QApplication::setQuitOnLastWindowClosed(true);
-    m_window = std::make_unique<QMainWindow>();
+    m_window = std::make_unique<QMainWindow>(
+        nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                     Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint);
     m_window->setWindowTitle(QStringLiteral("Teskal Firmware Updater"));
     m_window->setCentralWidget(new UpdaterView(*m_updateController));
     m_window->layout()->setSizeConstraint(QLayout::SetFixedSize);

@@ -8,6 +8,7 @@
 #include <QToolButton>
 
 #include "ui/Colors.h"
+#include "ui/Fonts.h"
 #include "ui/LogView.h"
 
 namespace {
@@ -43,9 +44,7 @@ LogPanel::LogPanel(QWidget* parent)
     layout->setContentsMargins(kPadding, kPadding, kPadding + kCopyRoom, kPadding);
     layout->addWidget(m_view);
 
-    QFont font = m_copyButton->font();
-    font.setPointSizeF(12);
-    const int iconSize = QFontMetrics(font).height();
+    const int iconSize = QFontMetrics(Fonts::system(12)).height();
     m_copyButton->setAutoRaise(true);
     m_copyButton->setIcon(copyIcon(iconSize));
     m_copyButton->setIconSize(QSize(iconSize, iconSize));

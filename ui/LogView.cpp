@@ -1,6 +1,5 @@
 #include "ui/LogView.h"
 
-#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QPaintEvent>
 #include <QPainter>
@@ -11,15 +10,9 @@
 #include <algorithm>
 
 #include "ui/Colors.h"
+#include "ui/Fonts.h"
 
 namespace {
-
-QFont logFont(bool bold) {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPointSizeF(11);
-    font.setBold(bold);
-    return font;
-}
 
 // QFontInfo::fixedPitch() is false for some monospaced fonts from fontconfig, so
 // the pitch is judged by the advances of a wide, a narrow and a blank character.
@@ -53,8 +46,8 @@ QTextOption wrapOption() {
 
 LogView::LogView(QWidget* parent)
     : QAbstractScrollArea(parent),
-      m_regular(logFont(false)),
-      m_bold(logFont(true)),
+      m_regular(Fonts::monospace(11)),
+      m_bold(Fonts::monospace(11, true)),
       m_regularHeight(QFontMetrics(m_regular).height()),
       m_boldHeight(QFontMetrics(m_bold).height()),
       m_cellWidth(cellWidth(m_regular, m_bold)),

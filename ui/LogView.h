@@ -6,8 +6,8 @@
 #include <QTimer>
 #include <vector>
 
-/// The log's lines, one wrapped text per entry, 2 pt apart, in the fixed-pitch
-/// system font at 11 pt (bold for lines that begin with "ERROR:").
+/// The log's lines, one wrapped text per entry, 2 px apart, in the fixed-pitch
+/// system font at 11 px (bold for lines that begin with "ERROR:").
 ///
 /// Lines are measured once when they arrive and painted only while visible, so a
 /// line appended to a log of any length costs the same. GUI thread only.

@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QWidget>
 
-/// A filled circle 10 pt across that shows whether a device is connected.
+/// A filled circle 10 px across that shows whether a device is connected.
 class StatusDot : public QWidget {
     Q_OBJECT
 

@@ -8,6 +8,8 @@
 
 #include "app/UpdateController.h"
 #include "ui/Colors.h"
+#include "ui/ElidedLabel.h"
+#include "ui/Fonts.h"
 #include "ui/LogPanel.h"
 #include "ui/StatusDot.h"
 
@@ -15,33 +17,13 @@ namespace {
 
 constexpr int kProgressSteps = 1000;
 
-// A word-wrapping label that asks for the width of its text on one line, so it
-// wraps only when the row has no room for that (QLabel's own guess wraps early).
-class StatusLabel : public QLabel {
-  public:
-    using QLabel::QLabel;
-
-    QSize sizeHint() const override {
-        const QMargins margins = contentsMargins();
-        // Measured the way QLabel lays out its text, so this width never wraps.
-        const QRect line = fontMetrics().boundingRect(QRect(0, 0, QWIDGETSIZE_MAX, 1 << 16),
-                                                      Qt::TextSingleLine, text());
-        const int width = line.width() + 1 + margins.left() + margins.right();
-        return QSize(width, heightForWidth(width));
-    }
-};
-
-QLabel* makeLabel(qreal pointSize, const std::optional<QColor>& color, QWidget* parent) {
-    auto* label = new StatusLabel(parent);
+QLabel* makeLabel(int pixelSize, const QColor& color, QWidget* parent) {
+    auto* label = new QLabel(parent);
     label->setTextFormat(Qt::PlainText);
-    QFont font = label->font();
-    font.setPointSizeF(pointSize);
-    label->setFont(font);
-    if (color) {
-        QPalette palette = label->palette();
-        palette.setColor(QPalette::WindowText, *color);
-        label->setPalette(palette);
-    }
+    label->setFont(Fonts::system(pixelSize));
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, color);
+    label->setPalette(palette);
     return label;
 }
 
@@ -50,7 +32,7 @@ QLabel* makeLabel(qreal pointSize, const std::optional<QColor>& color, QWidget* 
 UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
     : QWidget(parent),
       m_dot(new StatusDot(this)),
-      m_status(makeLabel(14, std::nullopt, this)),
+      m_status(new ElidedLabel(this)),
       m_port(makeLabel(12, AppColors::secondaryText(), this)),
       m_firmware(makeLabel(13, AppColors::secondaryText(), this)),
       m_progress(new QProgressBar(this)),
@@ -68,7 +50,7 @@ void UpdaterView::buildLayout() {
 
     auto* statusRow = new QHBoxLayout;
     statusRow->setSpacing(8);
-    m_status->setWordWrap(true);
+    m_status->setFont(Fonts::system(14));
     m_port->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     statusRow->addWidget(m_dot, 0, Qt::AlignVCenter);
     statusRow->addWidget(m_status, 0, Qt::AlignVCenter);
@@ -84,11 +66,8 @@ void UpdaterView::buildLayout() {
     m_progress->hide();
     column->addWidget(m_progress);
 
-    QFont buttonFont = m_button->font();
-    buttonFont.setPointSizeF(15);
-    buttonFont.setWeight(QFont::Medium);
-    m_button->setFont(buttonFont);
-    m_button->setMinimumHeight(QFontMetrics(buttonFont).height() + 2 * 8);
+    m_button->setFont(Fonts::system(15, QFont::Medium));
+    m_button->setMinimumHeight(m_button->fontMetrics().height() + 2 * 8);
     m_button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     column->addWidget(m_button);
 
@@ -97,7 +76,13 @@ void UpdaterView::buildLayout() {
 
 void UpdaterView::connectTo(UpdateController& controller) {
     DeviceMonitor* monitor = controller.deviceMonitor();
-    connect(m_button, &QPushButton::clicked, &controller, &UpdateController::updateFirmware);
+    // The state leaves "ready" only once the worker has begun, so a quick second
+    // click would otherwise reach the controller and be refused as an error.
+    connect(m_button, &QPushButton::clicked, &controller, [&controller] {
+        if (!controller.jobRunning()) {
+            controller.updateFirmware();
+        }
+    });
     connect(&controller, &UpdateController::stateChanged, this, &UpdaterView::showState);
     connect(&controller, &UpdateController::statusMessageChanged, this,
             &UpdaterView::showStatusMessage);
@@ -160,7 +145,7 @@ void UpdaterView::showConnection(bool isConnected, const std::optional<QString>&
 }
 
 void UpdaterView::showStatusMessage(const QString& message) {
-    m_status->setText(message);
+    m_status->setFullText(message);
 }
 
 void UpdaterView::showFirmwareLabel(const QString& label) {

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "app/UpdateState.h"
+#include "ui/ElidedLabel.h"
 
 class LogPanel;
 class QLabel;
@@ -18,7 +19,8 @@ class UpdateController;
 ///
 /// It keeps nothing of its own: the `show...` functions redraw one part from a
 /// value, and the constructor connects them to the controller's and its device
-/// monitor's published properties. The controller must outlive the view.
+/// monitor's published properties. A click on "Update Firmware" while the
+/// controller runs a job does nothing. The controller must outlive the view.
 /// GUI thread only.
 class UpdaterView : public QWidget {
     Q_OBJECT
@@ -30,13 +32,14 @@ class UpdaterView : public QWidget {
     void showState(const UpdateState& state);
     /// Status dot, port path "(path)" when there is one, the button's enabled rule.
     void showConnection(bool isConnected, const std::optional<QString>& portPath);
+    /// One line; a message too long for it is elided, whole in the tooltip.
     void showStatusMessage(const QString& message);
     void showFirmwareLabel(const QString& label);
     /// The log lines; see `LogView::setLines` for scrolling.
     void showLog(const QStringList& lines);
 
     StatusDot* statusDot() const { return m_dot; }
-    QLabel* statusLabel() const { return m_status; }
+    ElidedLabel* statusLabel() const { return m_status; }
     QLabel* portLabel() const { return m_port; }
     QLabel* firmwareLabel() const { return m_firmware; }
     QProgressBar* progressBar() const { return m_progress; }
@@ -49,7 +52,7 @@ class UpdaterView : public QWidget {
     void updateButtonEnabled();
 
     StatusDot* m_dot;
-    QLabel* m_status;
+    ElidedLabel* m_status;
     QLabel* m_port;
     QLabel* m_firmware;
     QProgressBar* m_progress;

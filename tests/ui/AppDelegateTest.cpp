@@ -40,6 +40,8 @@ class AppDelegateTest : public QObject {
     void togglesFlipTheFlagAndTheCheckMark();
     void productItemsUploadByTagWithinRange();
     void aboutWindowIsReusedAndEscapeClosesItWhileActive();
+    void windowsOfferOnlyTheirButtons_data();
+    void windowsOfferOnlyTheirButtons();
 
   private:
     void launch(QList<ProductConfig> products);
@@ -169,6 +171,27 @@ void AppDelegateTest::aboutWindowIsReusedAndEscapeClosesItWhileActive() {
     QTest::keyClick(about, Qt::Key_Escape);
     QVERIFY(!about->isVisible());
     QVERIFY(window->isVisible());
+}
+
+void AppDelegateTest::windowsOfferOnlyTheirButtons_data() {
+    QTest::addColumn<bool>("main");
+    QTest::addColumn<bool>("minimise");
+    QTest::newRow("main window") << true << true;
+    QTest::newRow("About window") << false << false;
+}
+
+void AppDelegateTest::windowsOfferOnlyTheirButtons() {
+    QFETCH(bool, main);
+    QFETCH(bool, minimise);
+    m_delegate->showAbout();
+    const QWidget* window = main ? static_cast<QWidget*>(m_delegate->window())
+                                 : static_cast<QWidget*>(m_delegate->aboutWindow());
+    const Qt::WindowFlags flags = window->windowFlags();
+    QVERIFY(
+        flags.testFlags(Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint));
+    QCOMPARE(flags.testFlag(Qt::WindowMinimizeButtonHint), minimise);
+    QVERIFY(!flags.testFlag(Qt::WindowMaximizeButtonHint));
+    QCOMPARE(window->minimumSize(), window->maximumSize());
 }
 
 QTEST_MAIN(AppDelegateTest)

@@ -1,17 +1,23 @@
 #include <QApplication>
 #include <QDir>
 #include <QMainWindow>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 
 #include "UiTestSupport.h"
 #include "app/UpdateController.h"
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
+#include "ui/Fonts.h"
+#include "ui/LogPanel.h"
+#include "ui/LogView.h"
 #include "ui/UpdaterView.h"
 
-// Renders the windows in their characteristic states to PNG files in
-// TFU_SCREENS_DIR, for a person to look at.
+// Renders the windows in their characteristic states to PNG files in the folder
+// named by TFU_SCREENS_DIR, for a person to look at. CTest runs it at 96 dpi and at
+// scale factor 2; the layout must not change between them.
 class ScreensTest : public QObject {
     Q_OBJECT
 
@@ -23,7 +29,7 @@ class ScreensTest : public QObject {
   private:
     void save(QWidget* window, const QString& name);
 
-    QDir m_screens{QStringLiteral(TFU_SCREENS_DIR)};
+    QDir m_screens{qEnvironmentVariable("TFU_SCREENS_DIR")};
 };
 
 void ScreensTest::initTestCase() {
@@ -58,9 +64,18 @@ void ScreensTest::mainWindowStates() {
                     QStringLiteral("Checking device status…")};
     view->showState(UpdateState::flashing(0.5f));
     view->showStatusMessage(QStringLiteral("Writing firmware…"));
-    view->showLog(
-        log << QStringLiteral("Device running firmware v3.7.8 — updating firmware only."));
+    const QString sample =
+        QStringLiteral("Device running firmware v3.7.8 — updating firmware only.");
+    view->showLog(log << sample);
     save(window, QStringLiteral("main-flashing-50"));
+    // About 60 characters a line: this 56-character line must not wrap.
+    QVERIFY(view->logPanel()->view()->viewport()->width() >=
+            QFontMetrics(Fonts::monospace(11)).horizontalAdvance(sample));
+
+    view->showState(UpdateState::uploadingConfig(0.3f));
+    view->showStatusMessage(QStringLiteral("Sending configuration…"));
+    view->showLog({QStringLiteral("Preparing Corvane Halcot config v1.4.0-devset")});
+    save(window, QStringLiteral("main-uploading"));
 
     const QString failure =
         QStringLiteral("Failed to sync with device. Try unplugging and reconnecting.");
@@ -69,10 +84,14 @@ void ScreensTest::mainWindowStates() {
     view->showLog(log << QStringLiteral("ERROR: ") + failure);
     save(window, QStringLiteral("main-error"));
 
+    view->showState(UpdateState::flashComplete());
+    view->showStatusMessage(QStringLiteral("Firmware update complete."));
+    view->showLog(log << QStringLiteral("Firmware update complete."));
+    save(window, QStringLiteral("main-complete"));
+
     for (int i = 0; i < 500; ++i) {
         view->showLog(log << QStringLiteral("FLASH_DATA block %1 of 500").arg(i + 1));
     }
-    view->showState(UpdateState::flashComplete());
     save(window, QStringLiteral("main-long-log"));
 }
 
@@ -82,6 +101,7 @@ void ScreensTest::aboutWindow() {
     about.show();
     QVERIFY(QTest::qWaitForWindowExposed(&about));
     save(&about, QStringLiteral("about"));
+    QCOMPARE(about.information()->verticalScrollBar()->maximum(), 0);
 }
 
 QTEST_MAIN(ScreensTest)

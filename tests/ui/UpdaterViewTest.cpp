@@ -1,6 +1,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QLayout>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
@@ -32,6 +33,8 @@ class UpdaterViewTest : public QObject {
 
     void buttonProgressAndStatusRowFollowStateAndConnection_data();
     void buttonProgressAndStatusRowFollowStateAndConnection();
+    void statusLineStaysOneLineEllipsisAndTooltipWhenTooLong_data();
+    void statusLineStaysOneLineEllipsisAndTooltipWhenTooLong();
     void errorLinesAreBold();
     void copyButtonShownWithLinesCopiesThem();
     void scrollsToTheLastLineWhenTheCountChanges();
@@ -105,6 +108,33 @@ void UpdaterViewTest::buttonProgressAndStatusRowFollowStateAndConnection() {
     } else if (bar == Bar::indeterminate) {
         QCOMPARE(progress->maximum(), 0);
     }
+}
+
+void UpdaterViewTest::statusLineStaysOneLineEllipsisAndTooltipWhenTooLong_data() {
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<bool>("elided");
+    QTest::newRow("fits") << QStringLiteral("Device connected") << false;
+    QTest::newRow("too long") << QStringLiteral(
+                                     "Failed to sync with device. Try unplugging and reconnecting.")
+                              << true;
+}
+
+void UpdaterViewTest::statusLineStaysOneLineEllipsisAndTooltipWhenTooLong() {
+    QFETCH(QString, message);
+    QFETCH(bool, elided);
+    m_view->showConnection(true, QStringLiteral("/dev/ttyACM0"));
+    m_view->showStatusMessage(QStringLiteral("Waiting for device…"));
+    m_view->layout()->activate();
+    const QRect firmwareBefore = m_view->firmwareLabel()->geometry();
+
+    m_view->showStatusMessage(message);
+    m_view->layout()->activate();
+    const ElidedLabel* status = m_view->statusLabel();
+    QCOMPARE(status->text() == message, !elided);
+    QCOMPARE(status->text().endsWith(QStringLiteral("…")), elided);
+    QCOMPARE(status->toolTip(), elided ? message : QString());
+    QVERIFY(status->geometry().right() < m_view->portLabel()->geometry().left());
+    QCOMPARE(m_view->firmwareLabel()->geometry(), firmwareBefore);
 }
 
 void UpdaterViewTest::errorLinesAreBold() {

@@ -1,0 +1,42 @@
+#include "ui/ElidedLabel.h"
+
+#include <QFontMetricsF>
+#include <QtMath>
+
+ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(false);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void ElidedLabel::setFullText(const QString& text) {
+    m_fullText = text;
+    updateGeometry();
+    elide();
+}
+
+QSize ElidedLabel::sizeHint() const {
+    return lineSize(m_fullText);
+}
+
+QSize ElidedLabel::minimumSizeHint() const {
+    return lineSize(QStringLiteral("\u2026"));
+}
+
+void ElidedLabel::resizeEvent(QResizeEvent* event) {
+    QLabel::resizeEvent(event);
+    elide();
+}
+
+void ElidedLabel::elide() {
+    const QString shown =
+        fontMetrics().elidedText(m_fullText, Qt::ElideRight, contentsRect().width());
+    setText(shown);
+    setToolTip(shown == m_fullText ? QString() : m_fullText);
+}
+
+// Rounded up: a width rounded down would make the whole text elide itself.
+QSize ElidedLabel::lineSize(const QString& text) const {
+    const int width = qCeil(QFontMetricsF(font()).horizontalAdvance(text));
+    return QSize(width, fontMetrics().height()).grownBy(contentsMargins());
+}

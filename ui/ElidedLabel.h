@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QLabel>
+#include <QString>
+
+/// A one-line label that keeps to the width its layout gives it: a text too long
+/// for it is cut at the right with "…", and then the whole text is its tooltip.
+/// It asks for the whole text's width and accepts any width down to the ellipsis
+/// alone. GUI thread only.
+class ElidedLabel : public QLabel {
+    Q_OBJECT
+
+  public:
+    explicit ElidedLabel(QWidget* parent = nullptr);
+
+    /// Shows `text`, elided to the current width. Use this, not `setText`.
+    void setFullText(const QString& text);
+    const QString& fullText() const { return m_fullText; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void elide();
+    QSize lineSize(const QString& text) const;
+
+    QString m_fullText;
+};
