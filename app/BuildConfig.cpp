@@ -8,6 +8,10 @@ QString firmwareVersion() {
     return QStringLiteral("2.10.6");
 }
 
+QString programVersion() {
+    return QStringLiteral(TFU_PROGRAM_VERSION);
+}
+
 const QList<ProductConfig>& products() {
     static const QList<ProductConfig> table{
         {"Corvane Plotvale Broadmere", "Plotvale3090.yaml"},

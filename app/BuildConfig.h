@@ -19,6 +19,9 @@ namespace BuildConfig {
 /// Version of the firmware image shipped in the resources: "2.10.6".
 QString firmwareVersion();
 
+/// Version of this program, the project version it was built from ("1.0.0").
+QString programVersion();
+
 /// The supported machines in menu order; a row's index is its menu item's tag.
 const QList<ProductConfig>& products();
 

@@ -2,11 +2,13 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDateTime>
 #include <QLayout>
 #include <QMainWindow>
 #include <QScreen>
 #include <QUrl>
 
+#include "app/LogExport.h"
 #include "app/UpdateController.h"
 #include "ui/AboutWindow.h"
 #include "ui/UpdaterView.h"
@@ -82,6 +84,20 @@ void AppDelegate::openFirmwareFile() {
 void AppDelegate::useBundledFirmware() {
     m_updateController->setCustomFirmwareURL(QUrl());
     m_updateController->log(QStringLiteral("Using bundled firmware"));
+}
+
+void AppDelegate::saveLog() {
+    const QDateTime now = QDateTime::currentDateTime();
+    const auto path = m_options.chooseSaveFile(
+        m_window.get(), {QStringLiteral("Save Log"), LogExport::defaultFileName(now)});
+    if (!path) {
+        return;
+    }
+    const QString text = LogExport::document(m_updateController->logMessages(),
+                                             m_updateController->deviceMonitor()->port(), now);
+    if (const auto failure = LogExport::save(*path, text)) {
+        m_updateController->log(QStringLiteral("ERROR: Could not save log: ") + *failure);
+    }
 }
 
 void AppDelegate::toggleDetailedLogging(QAction* item) {

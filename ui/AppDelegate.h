@@ -6,6 +6,7 @@
 
 #include "app/BuildConfig.h"
 #include "ui/FileChooser.h"
+#include "ui/SaveChooser.h"
 
 class AboutWindow;
 class EscapeCloser;
@@ -27,6 +28,8 @@ class AppDelegate : public QObject {
         QList<ProductConfig> products = BuildConfig::products();
         /// Asks for firmware and configuration files.
         FileChooser chooseFile = chooseFileWithDialog;
+        /// Asks where to save the log.
+        SaveChooser chooseSaveFile = chooseSaveFileWithDialog;
     };
 
     /// Owns a controller on the resources beside the executable and the real
@@ -48,6 +51,9 @@ class AppDelegate : public QObject {
     void showAbout();
     void openFirmwareFile();
     void useBundledFirmware();
+    /// Asks where to save the log and writes it there with its header; a file that
+    /// cannot be written adds an "ERROR: Could not save log: " line to the log.
+    void saveLog();
     void toggleDetailedLogging(QAction* item);
     void toggleWriteBootPartitions(QAction* item);
     void toggleEraseAllFlash(QAction* item);

@@ -6,6 +6,8 @@
 
 #include "app/UpdateController.h"
 #include "ui/AppDelegate.h"
+#include "ui/LogPanel.h"
+#include "ui/UpdaterView.h"
 
 namespace {
 
@@ -47,6 +49,10 @@ QMenu* AppDelegate::addFileMenu() {
                                     &AppDelegate::openFirmwareFile);
     setKey(open, QKeySequence(Qt::CTRL | Qt::Key_O));
     menu->addAction(QStringLiteral("Use Bundled Firmware"), this, &AppDelegate::useBundledFirmware);
+    menu->addSeparator();
+    QAction* save = menu->addAction(QStringLiteral("Save Log\u2026"), this, &AppDelegate::saveLog);
+    setKey(save, QKeySequence(Qt::CTRL | Qt::Key_S));
+    qobject_cast<UpdaterView*>(m_window->centralWidget())->logPanel()->addAction(save);
     return menu;
 }
 

@@ -53,6 +53,9 @@ LogPanel::LogPanel(QWidget* parent)
     m_copyButton->setCursor(Qt::PointingHandCursor);
     m_copyButton->hide();
     connect(m_copyButton, &QToolButton::clicked, this, &LogPanel::copyToClipboard);
+
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    addAction(QStringLiteral("Copy"), this, &LogPanel::copyToClipboard);
 }
 
 void LogPanel::setLines(const QStringList& lines) {

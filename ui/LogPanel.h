@@ -8,7 +8,8 @@ class QToolButton;
 
 /// The log area of the main window: the scrolling lines on a rounded field of the
 /// text background colour, and, while there are lines, a copy button in the
-/// top-right corner. GUI thread only.
+/// top-right corner. Its context menu holds its actions: "Copy" (the whole log),
+/// then any the window adds. GUI thread only.
 class LogPanel : public QWidget {
     Q_OBJECT
 

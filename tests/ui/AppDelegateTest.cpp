@@ -1,8 +1,10 @@
 #include <QAction>
+#include <QFile>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 
@@ -10,6 +12,8 @@
 #include "app/UpdateController.h"
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
+#include "ui/LogPanel.h"
+#include "ui/UpdaterView.h"
 
 namespace {
 
@@ -42,6 +46,7 @@ class AppDelegateTest : public QObject {
     void aboutWindowIsReusedAndEscapeClosesItWhileActive();
     void windowsOfferOnlyTheirButtons_data();
     void windowsOfferOnlyTheirButtons();
+    void saveLogWritesHeaderAndLinesOrLogsWhyNot();
 
   private:
     void launch(QList<ProductConfig> products);
@@ -50,6 +55,9 @@ class AppDelegateTest : public QObject {
 
     QTemporaryDir m_resources;
     std::unique_ptr<AppDelegate> m_delegate;
+    // What the save dialog answers, and the file names it proposed.
+    std::optional<QString> m_savePath;
+    QStringList m_suggestedNames;
 };
 
 void AppDelegateTest::init() {
@@ -61,6 +69,10 @@ void AppDelegateTest::launch(QList<ProductConfig> products) {
     m_delegate.reset();
     AppDelegate::Options options;
     options.products = std::move(products);
+    options.chooseSaveFile = [this](QWidget*, const SaveRequest& request) {
+        m_suggestedNames.append(request.suggestedName);
+        return m_savePath;
+    };
     m_delegate = std::make_unique<AppDelegate>(
         std::make_unique<UpdateController>(ResourceBundle(m_resources.path()), noDevice),
         std::move(options));
@@ -92,6 +104,8 @@ void AppDelegateTest::menuBarMatchesTheTable() {
         "File||",
         "  Open Firmware File\u2026|Ctrl+O|",
         "  Use Bundled Firmware||",
+        "  ---",
+        "  Save Log\u2026|Ctrl+S|",
         "Options||",
         "  Detailed Logging||checkable",
         "  ---",
@@ -192,6 +206,53 @@ void AppDelegateTest::windowsOfferOnlyTheirButtons() {
     QCOMPARE(flags.testFlag(Qt::WindowMinimizeButtonHint), minimise);
     QVERIFY(!flags.testFlag(Qt::WindowMaximizeButtonHint));
     QCOMPARE(window->minimumSize(), window->maximumSize());
+}
+
+void AppDelegateTest::saveLogWritesHeaderAndLinesOrLogsWhyNot() {
+    UpdateController& controller = m_delegate->updateController();
+    const QString dash = QStringLiteral("Device running firmware v3.7.8 — updating firmware only.");
+    controller.log(QStringLiteral("first"));
+    controller.log(dash);
+    QTRY_COMPARE(controller.logMessages().size(), 2);
+
+    // The log area's context menu offers the same item as the File menu.
+    auto* view = qobject_cast<UpdaterView*>(m_delegate->window()->centralWidget());
+    QAction* save = action(QStringLiteral("Save Log\u2026"));
+    QVERIFY(view->logPanel()->actions().contains(save));
+
+    QTemporaryDir folder;
+    m_savePath = folder.filePath(QStringLiteral("support.txt"));
+    save->trigger();
+    QFile file(*m_savePath);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList written = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+    const QStringList expected{
+        QStringLiteral("Teskal Firmware Updater log"),
+        QStringLiteral("Program version: \\d+\\.\\d+\\.\\d+"),
+        QStringLiteral("Build date: \\d{8}"),
+        QStringLiteral("Bundled firmware: 2\\.10\\.6"),
+        QStringLiteral("Operating system: .+, kernel .+"),
+        QStringLiteral("Qt version: ") + QRegularExpression::escape(qVersion()),
+        QStringLiteral("Date and time: \\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d.*"),
+        QStringLiteral("Port: none"),
+        QString(),
+        QStringLiteral("first"),
+        QRegularExpression::escape(dash),
+        QString(),
+    };
+    QCOMPARE(written.size(), expected.size());
+    for (qsizetype i = 0; i < expected.size(); ++i) {
+        const QRegularExpression pattern(QRegularExpression::anchoredPattern(expected[i]));
+        QVERIFY2(pattern.match(written[i]).hasMatch(), qPrintable(written[i]));
+    }
+    QVERIFY(QRegularExpression(QStringLiteral("^teskal-updater-log-\\d{8}-\\d{6}\\.txt$"))
+                .match(m_suggestedNames.value(0))
+                .hasMatch());
+
+    m_savePath = folder.filePath(QStringLiteral("missing/support.txt"));
+    save->trigger();
+    QTRY_VERIFY(
+        controller.logMessages().last().startsWith(QStringLiteral("ERROR: Could not save log: ")));
 }
 
 QTEST_MAIN(AppDelegateTest)

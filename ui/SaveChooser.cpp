@@ -1,0 +1,14 @@
+#include "ui/SaveChooser.h"
+
+#include <QDir>
+#include <QFileDialog>
+
+std::optional<QString> chooseSaveFileWithDialog(QWidget* parent, const SaveRequest& request) {
+    const QString path = QFileDialog::getSaveFileName(parent, request.title,
+                                                      QDir::home().filePath(request.suggestedName),
+                                                      QStringLiteral("Text files (*.txt)"));
+    if (path.isEmpty()) {
+        return std::nullopt;
+    }
+    return path;
+}
