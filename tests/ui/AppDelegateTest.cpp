@@ -44,7 +44,6 @@ class AppDelegateTest : public QObject {
     void togglesFlipTheFlagAndTheCheckMark();
     void productItemsUploadByTagWithinRange();
     void aboutWindowIsReusedAndEscapeClosesItWhileActive();
-    void windowsOfferOnlyTheirButtons_data();
     void windowsOfferOnlyTheirButtons();
     void saveLogWritesHeaderAndLinesOrLogsWhyNot();
 
@@ -187,25 +186,19 @@ void AppDelegateTest::aboutWindowIsReusedAndEscapeClosesItWhileActive() {
     QVERIFY(window->isVisible());
 }
 
-void AppDelegateTest::windowsOfferOnlyTheirButtons_data() {
-    QTest::addColumn<bool>("main");
-    QTest::addColumn<bool>("minimise");
-    QTest::newRow("main window") << true << true;
-    QTest::newRow("About window") << false << false;
-}
-
 void AppDelegateTest::windowsOfferOnlyTheirButtons() {
-    QFETCH(bool, main);
-    QFETCH(bool, minimise);
     m_delegate->showAbout();
-    const QWidget* window = main ? static_cast<QWidget*>(m_delegate->window())
-                                 : static_cast<QWidget*>(m_delegate->aboutWindow());
-    const Qt::WindowFlags flags = window->windowFlags();
-    QVERIFY(
-        flags.testFlags(Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint));
-    QCOMPARE(flags.testFlag(Qt::WindowMinimizeButtonHint), minimise);
-    QVERIFY(!flags.testFlag(Qt::WindowMaximizeButtonHint));
-    QCOMPARE(window->minimumSize(), window->maximumSize());
+    for (const auto& [window, minimise] :
+         {std::pair<QWidget*, bool>{m_delegate->window(), true},
+          std::pair<QWidget*, bool>{m_delegate->aboutWindow(), false}}) {
+        const Qt::WindowFlags flags = window->windowFlags();
+        QVERIFY2(flags.testFlags(Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                 Qt::WindowCloseButtonHint),
+                 qPrintable(window->windowTitle()));
+        QCOMPARE(flags.testFlag(Qt::WindowMinimizeButtonHint), minimise);
+        QVERIFY(!flags.testFlag(Qt::WindowMaximizeButtonHint));
+        QCOMPARE(window->minimumSize(), window->maximumSize());
+    }
 }
 
 void AppDelegateTest::saveLogWritesHeaderAndLinesOrLogsWhyNot() {
