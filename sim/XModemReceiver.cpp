@@ -31,6 +31,14 @@ uint16_t crc16Xmodem(const uint8_t* data, size_t len) {
     return crc;
 }
 
+uint8_t checksum8(const uint8_t* data, size_t len) {
+    uint8_t sum = 0;
+    for (size_t i = 0; i < len; ++i) {
+        sum = static_cast<uint8_t>(sum + data[i]);
+    }
+    return sum;
+}
+
 void XModemReceiver::start(std::string fileName) {
     fileName_ = std::move(fileName);
     file_.clear();
@@ -139,11 +147,7 @@ bool XModemReceiver::checkPasses() const {
         const uint16_t crc = crc16Xmodem(payload, dataLen);
         return block_[3 + dataLen] == (crc >> 8) && block_[4 + dataLen] == (crc & 0xFF);
     }
-    uint8_t sum = 0;
-    for (size_t k = 0; k < dataLen; ++k) {
-        sum = static_cast<uint8_t>(sum + payload[k]);
-    }
-    return block_[3 + dataLen] == sum;
+    return block_[3 + dataLen] == checksum8(payload, dataLen);
 }
 
 void XModemReceiver::onBlock() {

@@ -54,4 +54,7 @@ class XModemReceiver {
 /// CRC-16/XMODEM (polynomial 0x1021, initial 0), computed bit by bit.
 uint16_t crc16Xmodem(const uint8_t* data, size_t len);
 
+/// The 8-bit sum of the checksum variant, modulo 256.
+uint8_t checksum8(const uint8_t* data, size_t len);
+
 }  // namespace sim::detail
