@@ -4,22 +4,11 @@
 #include <string>
 
 #include "serial/Clock.h"
-#include "sim/XModemReceiver.h"
+#include "sim/XModemWire.h"
 
 namespace sim::detail {
 
-namespace {
-
-constexpr uint8_t kSoh = 0x01;
-constexpr uint8_t kStx = 0x02;
-constexpr uint8_t kEot = 0x04;
-constexpr uint8_t kAck = 0x06;
-constexpr uint8_t kNak = 0x15;
-constexpr uint8_t kCan = 0x18;
-constexpr uint8_t kPad = 0x1A;
-constexpr uint8_t kSlipEnd = 0xC0;
-
-}  // namespace
+using namespace xmodem;
 
 void XModemSender::start(std::vector<uint8_t> file) {
     file_ = std::move(file);
@@ -131,7 +120,7 @@ std::vector<uint8_t> XModemSender::block(size_t index) const {
     out.resize(3 + size, kPad);
     const uint8_t* body = out.data() + 3;
     if (crc_) {
-        const uint16_t crc = crc16Xmodem(body, size);
+        const uint16_t crc = crc16(body, size);
         out.push_back(static_cast<uint8_t>(crc >> 8));
         out.push_back(static_cast<uint8_t>(crc & 0xFF));
     } else {
