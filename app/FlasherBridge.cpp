@@ -1,5 +1,6 @@
 #include "app/FlasherBridge.h"
 
+#include <cstdlib>
 #include <memory>
 #include <mutex>
 
@@ -78,6 +79,24 @@ esp_error_t uploadConfig(const QString& port, const QByteArray& configData,
     const QByteArray portText = port.toUtf8();
     return esp_upload_config(portText.constData(), bytesOf(configData), sizeOf(configData),
                              detail::progressTrampoline, detail::logTrampoline);
+}
+
+Download downloadFile(const QString& port, const QString& name, ProgressHandler progress,
+                      LogHandler log) {
+    const ParkedHandlers parked(std::move(progress), std::move(log));
+    const QByteArray portText = port.toUtf8();
+    const QByteArray nameText = name.toUtf8();
+    uint8_t* data = nullptr;
+    size_t length = 0;
+    Download download;
+    download.result = esp_download_file(portText.constData(), nameText.constData(), &data, &length,
+                                        detail::progressTrampoline, detail::logTrampoline);
+    const std::unique_ptr<uint8_t, decltype(&std::free)> owned(data, &std::free);
+    if (download.result == 0 && data != nullptr) {
+        download.data =
+            QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(length));
+    }
+    return download;
 }
 
 namespace detail {

@@ -37,6 +37,17 @@ esp_error_t flashFirmware(const QString& port, const QByteArray& firmware,
 esp_error_t uploadConfig(const QString& port, const QByteArray& configData,
                          ProgressHandler progress, LogHandler log);
 
+/// A file downloaded from the firmware, with the library's result.
+struct Download {
+    esp_error_t result = 0;
+    QByteArray data;  ///< the file's bytes when `result` is 0, else empty
+};
+
+/// Downloads the file `name` (for example "config.yaml") from the firmware's file
+/// system; the result is the library's, unchanged.
+Download downloadFile(const QString& port, const QString& name, ProgressHandler progress,
+                      LogHandler log);
+
 namespace detail {
 /// The trampolines handed to the library, exposed so that their text conversion
 /// and their behaviour with empty slots can be checked.

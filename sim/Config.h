@@ -16,11 +16,12 @@ namespace sim {
 
 /// Where the simulated device currently is.
 enum class Mode {
-    Console,    ///< the firmware's text console
-    RomLoader,  ///< the ROM serial bootloader (4 status bytes per response)
-    Stub,       ///< the flasher stub runs (2 status bytes per response)
-    XModem,     ///< the console's XModem receiver
-    Gone,       ///< the line went away: nothing is answered any more
+    Console,     ///< the firmware's text console
+    RomLoader,   ///< the ROM serial bootloader (4 status bytes per response)
+    Stub,        ///< the flasher stub runs (2 status bytes per response)
+    XModem,      ///< the console's XModem receiver
+    XModemSend,  ///< the console's XModem sender
+    Gone,        ///< the line went away: nothing is answered any more
 };
 
 /// How one loader response is spoiled on the wire. The command itself takes
@@ -78,6 +79,18 @@ struct Config {
     std::optional<int> xmodemCanBlock;  ///< this block is answered with CAN CAN
     bool xmodemAckEot = true;           ///< false: every EOT is answered with NAK
     int xmodemIdleTimeoutMs = 10000;    ///< a transfer silent this long is abandoned
+
+    // XModem sender ("$Xmodem/Send=<file>"). Block ordinals count the file's blocks from 1.
+    /// config.yaml before any upload; absent: a built-in default.
+    std::optional<std::string> machineConfig;
+    bool xmodemSendSilent = false;      ///< the send command is taken but never answered
+    bool xmodemSendCrc = true;          ///< false: 'C' is ignored, only NAK starts (8-bit sum)
+    size_t xmodemSendBlockSize = 1024;  ///< 1024 (STX blocks) or 128 (SOH blocks)
+    std::optional<int> xmodemSendCorruptBlock;  ///< this block goes out with a wrong byte ...
+    int xmodemSendCorruptTimes = 1;             ///< ... this many times before it is right
+    std::optional<int> xmodemSendDropBlock;     ///< this block's first transmission is lost
+    std::optional<int> xmodemSendCanBlock;      ///< CAN CAN is sent in place of this block
+    std::optional<int> xmodemSendRepeatBlock;   ///< sent again once after its ACK (ACK lost)
 
     // The line going away (Mode::Gone; over a pseudo-terminal its master closes).
     std::optional<int> goneAfterFlashData;     ///< after this many FLASH_DATA were answered

@@ -1,5 +1,7 @@
 #include "sim/Console.h"
 
+#include <string_view>
+
 #include "serial/Clock.h"
 
 namespace sim::detail {
@@ -9,11 +11,40 @@ namespace {
 constexpr uint8_t kSlipEnd = 0xC0;
 constexpr size_t kMaxLine = 256;
 const std::string kReceiveCommand = "$Xmodem/Receive=";
+const std::string kSendCommand = "$Xmodem/Send=";
+
+// What a plotter fresh from the factory keeps as config.yaml.
+constexpr std::string_view kDefaultConfig = R"(name: "Simulated plotter"
+board: "Simulated controller"
+meta: "0.0.0-sim"
+
+stepping:
+  engine: RMT
+  idle_ms: 255
+
+axes:
+  x:
+    steps_per_mm: 80.000
+    max_rate_mm_per_min: 12000.000
+    acceleration_mm_per_sec2: 1000.000
+    max_travel_mm: 300.000
+  y:
+    steps_per_mm: 80.000
+    max_rate_mm_per_min: 12000.000
+    acceleration_mm_per_sec2: 1000.000
+    max_travel_mm: 200.000
+  z:
+    steps_per_mm: 100.000
+    max_rate_mm_per_min: 3000.000
+    acceleration_mm_per_sec2: 200.000
+    max_travel_mm: 10.000
+)";
 
 }  // namespace
 
 void Console::restart(int64_t readyNs) {
     xmodem_.stop();
+    sender_.stop();
     line_.clear();
     readyNs_ = readyNs;
     d_.mode = Mode::Console;
@@ -22,6 +53,9 @@ void Console::restart(int64_t readyNs) {
 size_t Console::consume(const uint8_t* data, size_t len) {
     if (d_.mode == Mode::XModem) {
         return xmodem_.consume(data, len);
+    }
+    if (d_.mode == Mode::XModemSend) {
+        return sender_.consume(data, len);
     }
     return consumeLines(data, len);
 }
@@ -65,11 +99,31 @@ void Console::onLine(const std::string& line) {
         const std::string name = line.substr(kReceiveCommand.size());
         reply("[MSG:INFO: XModem receive " + name + "]\r\n");
         xmodem_.start(name);
+    } else if (line.starts_with(kSendCommand)) {
+        startSending(line.substr(kSendCommand.size()));
     } else if (line == "$Bye") {
         restart(mono::nowNs() + int64_t{d_.config.bootMs} * 1'000'000);
     } else {
         reply("error:3\r\n");
     }
+}
+
+void Console::startSending(const std::string& name) {
+    if (d_.config.xmodemSendSilent) {
+        return;
+    }
+    const auto stored = d_.files.find(name);
+    if (stored == d_.files.end() && name != "config.yaml") {
+        reply("error:3\r\n");
+        return;
+    }
+    reply("[MSG:INFO: XModem send " + name + "]\r\n");
+    if (stored != d_.files.end()) {
+        sender_.start(stored->second);
+        return;
+    }
+    const std::string text = d_.config.machineConfig.value_or(std::string(kDefaultConfig));
+    sender_.start(std::vector<uint8_t>(text.begin(), text.end()));
 }
 
 void Console::reply(const std::string& text) {

@@ -6,14 +6,16 @@
 
 #include "sim/Device.h"
 #include "sim/XModemReceiver.h"
+#include "sim/XModemSender.h"
 
 namespace sim::detail {
 
-/// The firmware's line console ("$I", "$Xmodem/Receive=<file>", "$Bye") and the
-/// XModem receiver it starts. Works on `Device` while the mode is Console or XModem.
+/// The firmware's line console ("$I", "$Xmodem/Receive=<file>", "$Xmodem/Send=<file>",
+/// "$Bye") and the XModem receiver and sender it starts. Works on `Device` while the
+/// mode is Console, XModem or XModemSend.
 class Console {
   public:
-    explicit Console(Device& device) : d_(device), xmodem_(device) {}
+    explicit Console(Device& device) : d_(device), xmodem_(device), sender_(device) {}
 
     /// The firmware starts afresh; input that arrives before `readyNs` finds it
     /// still booting and goes unanswered.
@@ -26,10 +28,12 @@ class Console {
   private:
     size_t consumeLines(const uint8_t* data, size_t len);
     void onLine(const std::string& line);
+    void startSending(const std::string& name);
     void reply(const std::string& text);
 
     Device& d_;
     XModemReceiver xmodem_;
+    XModemSender sender_;
     std::string line_;
     int64_t readyNs_ = 0;
 };

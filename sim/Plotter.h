@@ -12,7 +12,7 @@
 #include "sim/Config.h"
 
 /// A simulated ESP32-S3 plotter controller: ROM loader, flasher stub and the
-/// firmware's console with its XModem receiver, behind one byte stream.
+/// firmware's console with its XModem receiver and sender, behind one byte stream.
 namespace sim {
 
 /// Single-threaded state machine: bytes from the host go in, reply bytes come out.

@@ -3,33 +3,11 @@
 #include <algorithm>
 
 #include "serial/Clock.h"
+#include "sim/XModemWire.h"
 
 namespace sim::detail {
 
-namespace {
-
-constexpr uint8_t kSoh = 0x01;
-constexpr uint8_t kStx = 0x02;
-constexpr uint8_t kEot = 0x04;
-constexpr uint8_t kAck = 0x06;
-constexpr uint8_t kNak = 0x15;
-constexpr uint8_t kCan = 0x18;
-constexpr uint8_t kPad = 0x1A;
-constexpr uint8_t kSlipEnd = 0xC0;
-
-}  // namespace
-
-uint16_t crc16Xmodem(const uint8_t* data, size_t len) {
-    uint16_t crc = 0;
-    for (size_t i = 0; i < len; ++i) {
-        crc ^= static_cast<uint16_t>(data[i] << 8);
-        for (int bit = 0; bit < 8; ++bit) {
-            crc = (crc & 0x8000) ? static_cast<uint16_t>((crc << 1) ^ 0x1021)
-                                 : static_cast<uint16_t>(crc << 1);
-        }
-    }
-    return crc;
-}
+using namespace xmodem;
 
 void XModemReceiver::start(std::string fileName) {
     fileName_ = std::move(fileName);
@@ -136,14 +114,10 @@ bool XModemReceiver::checkPasses() const {
         return false;
     }
     if (crc_) {
-        const uint16_t crc = crc16Xmodem(payload, dataLen);
+        const uint16_t crc = crc16(payload, dataLen);
         return block_[3 + dataLen] == (crc >> 8) && block_[4 + dataLen] == (crc & 0xFF);
     }
-    uint8_t sum = 0;
-    for (size_t k = 0; k < dataLen; ++k) {
-        sum = static_cast<uint8_t>(sum + payload[k]);
-    }
-    return block_[3 + dataLen] == sum;
+    return block_[3 + dataLen] == checksum8(payload, dataLen);
 }
 
 void XModemReceiver::onBlock() {

@@ -51,7 +51,4 @@ class XModemReceiver {
     uint64_t generation_ = 0;
 };
 
-/// CRC-16/XMODEM (polynomial 0x1021, initial 0), computed bit by bit.
-uint16_t crc16Xmodem(const uint8_t* data, size_t len);
-
 }  // namespace sim::detail

@@ -1,6 +1,7 @@
 #include "api/Jobs.h"
 #include "esp/EspLoader.h"
 #include "fluidnc/Console.h"
+#include "fluidnc/Download.h"
 #include "fluidnc/XModem.h"
 #include "serial/Clock.h"
 
@@ -24,22 +25,32 @@ bool enterAndSyncQuietly(EspLoader& loader) {
     return false;
 }
 
+// One answered command first, so that the console sits idle at its prompt when
+// the transfer command comes; the answer itself is not needed.
+void settleConsole(SerialPort& port) {
+    mono::sleepMs(kSettleMs);
+    port.flush();
+    fluidnc::queryVersion(port, kVersionQueryMs);
+    port.flush();
+}
+
 }  // namespace
 
 esp_error_t runUploadConfigJob(SerialPort& port, const uint8_t* data, size_t length,
                                esp_progress_cb progress) {
-    mono::sleepMs(kSettleMs);
-    port.flush();
-    // One answered command first, so that the console sits idle at its prompt when
-    // the receive command comes; the answer itself is not needed.
-    fluidnc::queryVersion(port, kVersionQueryMs);
-    port.flush();
+    settleConsole(port);
     if (!fluidnc::uploadConfig(port, data, length, progress, kHandshakeMs)) {
         return result::UploadFailed;
     }
     fluidnc::waitForOk(port, kAckAfterUploadMs);
     fluidnc::sendRestart(port);
     return result::Success;
+}
+
+std::optional<std::vector<uint8_t>> runDownloadFileJob(SerialPort& port, const std::string& name,
+                                                       esp_progress_cb progress, esp_log_cb log) {
+    settleConsole(port);
+    return fluidnc::downloadFile(port, name, progress, log);
 }
 
 std::optional<std::string> runQueryVersionJob(SerialPort& port) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "api/esp_flasher.h"
 #include "serial/SerialPort.h"
@@ -23,6 +24,7 @@ constexpr esp_error_t StubFailed = 5;
 constexpr esp_error_t WriteFailed = 6;
 constexpr esp_error_t VerifyFailed = 7;
 constexpr esp_error_t UploadFailed = 8;
+constexpr esp_error_t DownloadFailed = 8;  ///< shares the upload's code
 }  // namespace result
 
 /// The images and options of one flashing job; every buffer is borrowed.
@@ -49,6 +51,12 @@ esp_error_t runFlashJob(SerialPort& port, const FlashRequest& request, esp_progr
 /// The configuration upload after the port has been opened; 0 or 8.
 esp_error_t runUploadConfigJob(SerialPort& port, const uint8_t* data, size_t length,
                                esp_progress_cb progress);
+
+/// The file download after the port has been opened: the console is first left
+/// idle as for the upload, then `name` is received. Absent on failure, which has
+/// written one line to `log`.
+std::optional<std::vector<uint8_t>> runDownloadFileJob(SerialPort& port, const std::string& name,
+                                                       esp_progress_cb progress, esp_log_cb log);
 
 /// The version query after the port has been opened.
 std::optional<std::string> runQueryVersionJob(SerialPort& port);

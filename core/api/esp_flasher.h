@@ -18,7 +18,8 @@ extern "C" {
 
 /* Result code: 0 success, 2 port not opened, 3 no sync, 4 wrong chip or
  * secure boot, 5 stub failed, 6 erase or write failed, 7 MD5 mismatch,
- * 8 configuration upload failed. 1, 9 and 10 are reserved for the application. */
+ * 8 configuration upload or file download failed. 1, 9 and 10 are reserved
+ * for the application. */
 typedef uint32_t esp_error_t;
 
 /* Progress callback: fraction 0..1 and a short stage text. May be null. */
@@ -53,6 +54,15 @@ char* esp_detect_device(uint16_t vendorId, uint16_t productId);
 /* Reads the partition table through the flasher stub: 1 valid, 0 not valid,
  * -1 could not be read. */
 int esp_probe_partition_table(const char* port, const uint8_t* stub, size_t stubLen);
+
+/* Downloads the file `name` (for example "config.yaml") from the firmware's file
+ * system over XModem. On 0, *data holds a malloc'd copy of the file that the
+ * caller releases with free(), and *length its size; an empty file gives length 0
+ * and may give a null pointer. On failure *data is null, *length 0, and one log
+ * line names the cause. Returns 0, 2 (port not opened) or 8 (download failed,
+ * also for a missing name or null output pointers). */
+esp_error_t esp_download_file(const char* port, const char* name, uint8_t** data, size_t* length,
+                              esp_progress_cb progress, esp_log_cb log);
 
 #ifdef __cplusplus
 }

@@ -6,24 +6,14 @@
 #include <vector>
 
 #include "fluidnc/Drain.h"
+#include "fluidnc/XModemWire.h"
 
 namespace fluidnc {
 namespace {
 
-constexpr uint8_t STX = 0x02;
-constexpr uint8_t EOT = 0x04;
-constexpr uint8_t ACK = 0x06;
-constexpr uint8_t NAK = 0x15;
-constexpr uint8_t CAN = 0x18;
-constexpr uint8_t CRC_REQUEST = 'C';
-constexpr uint8_t PADDING = 0x1A;
+using namespace xmodem;
 
-constexpr size_t kBlockData = 1024;
 constexpr int kDrainMs = 500;
-constexpr int kHandshakeTries = 30;
-constexpr int kHandshakeTryMs = 1000;
-constexpr int kMaxTransmissions = 25;
-constexpr int kReplyMs = 5000;
 
 constexpr std::array<uint16_t, 256> makeCrcTable() {
     std::array<uint16_t, 256> table{};
@@ -37,35 +27,9 @@ constexpr std::array<uint16_t, 256> makeCrcTable() {
     return table;
 }
 
-enum class Mode { Checksum, Crc };
-
-std::optional<uint8_t> readControlByte(SerialPort& port, int timeoutMs) {
-    uint8_t byte = 0;
-    if (port.read(&byte, 1, timeoutMs) == 1) {
-        return byte;
-    }
-    return std::nullopt;
-}
-
-void report(void (*progress)(float, const char*), float fraction, const char* stage) {
-    if (progress != nullptr) {
-        progress(fraction, stage);
-    }
-}
-
-bool startReceiver(SerialPort& port) {
-    constexpr std::string_view command = "$Xmodem/Receive=config.yaml\n";
-    if (!port.write(reinterpret_cast<const uint8_t*>(command.data()), command.size())) {
-        return false;
-    }
-    // The console echoes and comments the command before the receiver starts.
-    drainInput(port, 256, kDrainMs);
-    return true;
-}
-
 std::optional<Mode> awaitHandshake(SerialPort& port) {
     for (int attempt = 0; attempt < kHandshakeTries; ++attempt) {
-        const auto byte = readControlByte(port, kHandshakeTryMs);
+        const auto byte = readByte(port, kHandshakeTryMs);
         if (byte == NAK) {
             return Mode::Checksum;
         }
@@ -90,11 +54,7 @@ std::vector<uint8_t> buildBlock(uint8_t number, const uint8_t* chunk, size_t chu
         block.push_back(static_cast<uint8_t>(crc >> 8));
         block.push_back(static_cast<uint8_t>(crc & 0xFF));
     } else {
-        uint8_t sum = 0;
-        for (size_t i = 0; i < kBlockData; ++i) {
-            sum = static_cast<uint8_t>(sum + body[i]);
-        }
-        block.push_back(sum);
+        block.push_back(sum8(body, kBlockData));
     }
     return block;
 }
@@ -104,7 +64,7 @@ bool transmitBlock(SerialPort& port, const std::vector<uint8_t>& block) {
         if (!port.write(block)) {
             return false;
         }
-        const auto reply = readControlByte(port, kReplyMs);
+        const auto reply = readByte(port, kReplyMs);
         if (reply == ACK) {
             return true;
         }
@@ -133,7 +93,7 @@ bool sendBlocks(SerialPort& port, const uint8_t* data, size_t length, Mode mode,
 bool endTransmission(SerialPort& port) {
     for (int attempt = 0; attempt < kMaxTransmissions; ++attempt) {
         port.write(&EOT, 1);
-        if (readControlByte(port, kReplyMs) == ACK) {
+        if (readByte(port, kReplyMs) == ACK) {
             return true;
         }
     }
@@ -141,6 +101,41 @@ bool endTransmission(SerialPort& port) {
 }
 
 }  // namespace
+
+namespace xmodem {
+
+uint8_t sum8(const uint8_t* data, size_t len) {
+    uint8_t sum = 0;
+    for (size_t i = 0; i < len; ++i) {
+        sum = static_cast<uint8_t>(sum + data[i]);
+    }
+    return sum;
+}
+
+std::optional<uint8_t> readByte(SerialPort& port, int timeoutMs) {
+    uint8_t byte = 0;
+    if (port.read(&byte, 1, timeoutMs) == 1) {
+        return byte;
+    }
+    return std::nullopt;
+}
+
+void report(void (*progress)(float, const char*), float fraction, const char* stage) {
+    if (progress != nullptr) {
+        progress(fraction, stage);
+    }
+}
+
+bool startTransfer(SerialPort& port, std::string_view command) {
+    if (!port.write(reinterpret_cast<const uint8_t*>(command.data()), command.size())) {
+        return false;
+    }
+    // The console echoes and comments the command before the transfer starts.
+    drainInput(port, 256, kDrainMs);
+    return true;
+}
+
+}  // namespace xmodem
 
 const std::array<uint16_t, 256> crc16tab = makeCrcTable();
 
@@ -156,7 +151,7 @@ uint16_t crc16(const uint8_t* data, size_t len) {
 // request about once a second, and the failure text promises 30 s.
 bool uploadConfig(SerialPort& port, const uint8_t* data, size_t length,
                   void (*progress)(float, const char*), int /*timeoutMs*/) {
-    if (!startReceiver(port)) {
+    if (!startTransfer(port, "$Xmodem/Receive=config.yaml\n")) {
         return false;
     }
     const auto mode = awaitHandshake(port);

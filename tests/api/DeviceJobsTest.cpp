@@ -67,6 +67,82 @@ TEST_F(DeviceJobsTest, UploadFailuresReturn8WithoutRestart) {
     }
 }
 
+// A configuration as the machine keeps it: text, so never ending in the 0x1A that
+// XModem pads with.
+std::vector<uint8_t> configFile(size_t size) {
+    auto file = pattern(size, 7);
+    if (!file.empty()) {
+        file.back() = '\n';
+    }
+    return file;
+}
+
+TEST_F(DeviceJobsTest, DownloadGivesBackTheUploadedBytes) {
+    const struct {
+        bool crc;
+        size_t blockSize;
+    } modes[] = {{true, 1024}, {false, 1024}, {true, 128}};
+    for (const auto& mode : modes) {
+        for (const size_t size : {0, 1, 1023, 1024, 1025, 70000}) {
+            SCOPED_TRACE(testing::Message() << (mode.crc ? "CRC " : "checksum ") << mode.blockSize
+                                            << "-byte blocks, " << size << " bytes");
+            clearRecords();
+            device([&](auto& c) {
+                c.xmodemCrc = c.xmodemSendCrc = mode.crc;
+                c.xmodemSendBlockSize = mode.blockSize;
+            });
+            const auto file = configFile(size);
+            ASSERT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), nullptr), 0u);
+            EXPECT_EQ(esp::runDownloadFileJob(port, "config.yaml", recordProgress, recordLog),
+                      file);
+            EXPECT_TRUE(logLines.empty());
+            ASSERT_FALSE(progressCalls.empty());
+            EXPECT_EQ(progressCalls.back(),
+                      std::make_pair(
+                          1.0f, "Downloading config.yaml... " + std::to_string(size) + " bytes"));
+        }
+    }
+}
+
+TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
+    const struct {
+        const char* name;
+        std::function<void(sim::Config&)> setup;
+        const char* failure;  // null: the file arrives whole
+    } cases[] = {
+        {"corrupted block", [](auto& c) { c.xmodemSendCorruptBlock = 2; }, nullptr},
+        {"dropped block", [](auto& c) { c.xmodemSendDropBlock = 3; }, nullptr},
+        {"repeated block", [](auto& c) { c.xmodemSendRepeatBlock = 1; }, nullptr},
+        {"block never right",
+         [](auto& c) {
+             c.xmodemSendCorruptBlock = 2;
+             c.xmodemSendCorruptTimes = 100;
+         },
+         "XModem download: block 2 failed 25 times"},
+        {"cancel", [](auto& c) { c.xmodemSendCanBlock = 2; },
+         "XModem download: cancelled by the device"},
+        {"no answer", [](auto& c) { c.xmodemSendSilent = true; },
+         "XModem download: no block received"},
+    };
+    const auto file = configFile(5000);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        clearRecords();
+        device([&](auto& config) {
+            config.machineConfig = std::string(file.begin(), file.end());
+            c.setup(config);
+        });
+        const auto downloaded = esp::runDownloadFileJob(port, "config.yaml", nullptr, recordLog);
+        if (c.failure == nullptr) {
+            EXPECT_EQ(downloaded, file);
+            EXPECT_TRUE(logLines.empty());
+        } else {
+            EXPECT_EQ(downloaded, std::nullopt);
+            EXPECT_EQ(logLines, Lines{c.failure});
+        }
+    }
+}
+
 TEST_F(DeviceJobsTest, QueryVersionTellsAnEmptyVersionFromNone) {
     device([](auto& c) { c.versionReport = ""; });
     EXPECT_EQ(esp::runQueryVersionJob(port), std::string());

@@ -71,6 +71,50 @@ TEST(EntryPoint, PortThatCannotBeOpened) {
     EXPECT_EQ(esp_probe_partition_table(missing, stub.data(), stub.size()), -1);
     EXPECT_TRUE(logLines.empty());
     EXPECT_TRUE(progressCalls.empty());
+    uint8_t* data = nullptr;
+    size_t length = 1;
+    EXPECT_EQ(esp_download_file(missing, "config.yaml", &data, &length, recordProgress, recordLog),
+              2u);
+    EXPECT_EQ(length, 0u);
+    EXPECT_EQ(logLines, Lines{"Failed to open port"});
+    EXPECT_TRUE(progressCalls.empty());
+}
+
+TEST(EntryPoint, DownloadsTheUploadedFileOrNothingOverAPseudoTerminal) {
+    auto file = pattern(70000, 3);
+    file.back() = '\n';
+    for (const bool crc : {true, false}) {
+        SCOPED_TRACE(crc ? "CRC" : "checksum");
+        sim::Config config;
+        config.xmodemSendCrc = crc;
+        sim::PtyPlotter device(config);
+        const size_t descriptors = openDescriptors();
+        ASSERT_EQ(
+            esp_upload_config(device.path().c_str(), file.data(), file.size(), nullptr, nullptr),
+            0u);
+        uint8_t* data = nullptr;
+        size_t length = 0;
+        ASSERT_EQ(esp_download_file(device.path().c_str(), "config.yaml", &data, &length, nullptr,
+                                    nullptr),
+                  0u);
+        EXPECT_EQ(std::vector<uint8_t>(data, data + length), file);
+        std::free(data);
+        EXPECT_EQ(openDescriptors(), descriptors);
+    }
+
+    clearRecords();
+    sim::Config cancelling;
+    cancelling.xmodemSendCanBlock = 1;
+    sim::PtyPlotter device(cancelling);
+    const size_t descriptors = openDescriptors();
+    uint8_t* data = nullptr;
+    size_t length = 0;
+    EXPECT_EQ(
+        esp_download_file(device.path().c_str(), "config.yaml", &data, &length, nullptr, recordLog),
+        8u);
+    EXPECT_EQ(data, nullptr);
+    EXPECT_EQ(logLines, Lines{"XModem download: cancelled by the device"});
+    EXPECT_EQ(openDescriptors(), descriptors);
 }
 
 // /dev/null opens but is no terminal, so every call fails after the descriptor
@@ -85,6 +129,10 @@ TEST(EntryPoint, FailingCallsLeaveNoDescriptorBehind) {
         ASSERT_EQ(esp_upload_config("/dev/null", firmware.data(), 10, nullptr, nullptr), 2u);
         ASSERT_EQ(esp_query_version("/dev/null"), nullptr);
         ASSERT_EQ(esp_probe_partition_table("/dev/null", stub.data(), stub.size()), -1);
+        uint8_t* data = nullptr;
+        size_t length = 0;
+        ASSERT_EQ(esp_download_file("/dev/null", "config.yaml", &data, &length, nullptr, nullptr),
+                  2u);
     }
     EXPECT_EQ(openDescriptors(), descriptors);
 }

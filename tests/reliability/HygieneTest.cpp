@@ -24,6 +24,10 @@ bool missingPortCalls() {
                                       &byte, 1, 0, 0, nullptr, nullptr, nullptr) == 2;
     refused = refused && esp_upload_config(kMissingPort, &byte, 1, nullptr, nullptr) == 2;
     refused = refused && esp_probe_partition_table(kMissingPort, &byte, 1) == -1;
+    uint8_t* file = nullptr;
+    size_t length = 0;
+    refused = refused &&
+              esp_download_file(kMissingPort, "config.yaml", &file, &length, nullptr, nullptr) == 2;
     char* version = esp_query_version(kMissingPort);
     std::free(version);
     return !(refused && version == nullptr);
