@@ -9,6 +9,8 @@ namespace {
 constexpr uint8_t kSlipEnd = 0xC0;
 constexpr size_t kMaxLine = 256;
 const std::string kReceiveCommand = "$Xmodem/Receive=";
+constexpr int kFloodIntervalMs = 5;
+const std::string kStatusLine = "<Idle|MPos:0.000,0.000,0.000|FS:0,0>\r\n";
 
 }  // namespace
 
@@ -17,6 +19,7 @@ void Console::restart(int64_t readyNs) {
     line_.clear();
     readyNs_ = readyNs;
     d_.mode = Mode::Console;
+    startFlood();
 }
 
 size_t Console::consume(const uint8_t* data, size_t len) {
@@ -53,7 +56,8 @@ void Console::onLine(const std::string& line) {
         return;
     }
     d_.note(line);
-    if (mono::nowNs() < readyNs_ || d_.config.silent || d_.config.silentConsole) {
+    if (mono::nowNs() < readyNs_ || d_.config.silent || d_.config.silentConsole ||
+        d_.config.floodConsole) {
         return;
     }
     if (line == "$I") {
@@ -70,6 +74,20 @@ void Console::onLine(const std::string& line) {
     } else {
         reply("error:3\r\n");
     }
+}
+
+// Each line schedules the next one, as long as the firmware keeps running.
+void Console::startFlood() {
+    if (!d_.config.floodConsole) {
+        return;
+    }
+    d_.outbox.schedule(kFloodIntervalMs, [this] {
+        if (d_.mode != Mode::Console) {
+            return std::vector<uint8_t>{};
+        }
+        startFlood();
+        return std::vector<uint8_t>(kStatusLine.begin(), kStatusLine.end());
+    });
 }
 
 void Console::reply(const std::string& text) {

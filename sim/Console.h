@@ -13,7 +13,7 @@ namespace sim::detail {
 /// XModem receiver it starts. Works on `Device` while the mode is Console or XModem.
 class Console {
   public:
-    explicit Console(Device& device) : d_(device), xmodem_(device) {}
+    explicit Console(Device& device) : d_(device), xmodem_(device) { startFlood(); }
 
     /// The firmware starts afresh; input that arrives before `readyNs` finds it
     /// still booting and goes unanswered.
@@ -27,6 +27,7 @@ class Console {
     size_t consumeLines(const uint8_t* data, size_t len);
     void onLine(const std::string& line);
     void reply(const std::string& text);
+    void startFlood();
 
     Device& d_;
     XModemReceiver xmodem_;

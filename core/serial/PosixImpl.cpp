@@ -6,6 +6,7 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
 #include "Clock.h"
@@ -18,6 +19,11 @@ constexpr int64_t kMinWaitNs = 1'000;
 // A device that stays attached but stops reading would otherwise hold a write,
 // and the job around it, for ever.
 constexpr int kWriteStallMs = 10'000;
+
+// A pseudo-terminal frees buffer room in a kernel worker that wakes no writer, so
+// a wait for POLLOUT can miss room that has appeared; the write is retried after
+// at most this long.
+constexpr int64_t kWriteRetryNs = 100'000'000;
 
 int ceilMs(int64_t ns) {
     return static_cast<int>((ns + 999'999) / 1'000'000);
@@ -122,7 +128,7 @@ bool PosixImpl::write(const uint8_t* data, size_t len) {
             return false;
         }
         pollfd writable{fd_, POLLOUT, 0};
-        if (waitFor(writable, remaining) < 0 && errno != EINTR) {
+        if (waitFor(writable, std::min(remaining, kWriteRetryNs)) < 0 && errno != EINTR) {
             return false;
         }
     }
