@@ -17,34 +17,15 @@
 
 #include "api/esp_flasher.h"
 #include "sim/PtyPlotter.h"
+#include "tests/support/TestImages.h"
 
 namespace {
 
 using Clock = std::chrono::steady_clock;
 
-std::vector<uint8_t> bytes(size_t size, uint8_t seed) {
-    std::vector<uint8_t> out(size);
-    for (size_t i = 0; i < size; ++i) {
-        out[i] = static_cast<uint8_t>(seed + i * 13 + i / 4093);
-    }
-    return out;
-}
-
-std::vector<uint8_t> stubImage() {
-    std::vector<uint8_t> image;
-    for (uint32_t word : {0x40380000u, 2000u, 0x3FC90000u, 500u, 0x40380004u}) {
-        for (int i = 0; i < 4; ++i) {
-            image.push_back(static_cast<uint8_t>(word >> (8 * i)));
-        }
-    }
-    const auto body = bytes(2500, 0x5A);
-    image.insert(image.end(), body.begin(), body.end());
-    return image;
-}
-
-const std::vector<uint8_t> firmware = bytes(256 * 1024, 1);
-const std::vector<uint8_t> configFile = bytes(16 * 1024, 7);
-const std::vector<uint8_t> stub = stubImage();
+const std::vector<uint8_t> firmware = testimg::pattern(256 * 1024, 1);
+const std::vector<uint8_t> configFile = testimg::pattern(16 * 1024, 7);
+const std::vector<uint8_t> stub = testimg::stubImage();
 
 double seconds(Clock::duration d) {
     return std::chrono::duration<double>(d).count();
