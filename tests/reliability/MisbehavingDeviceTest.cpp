@@ -1,6 +1,6 @@
 #include <fcntl.h>
 #include <grp.h>
-#include <sys/prctl.h>
+#include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -32,7 +32,6 @@ using Clock = std::chrono::steady_clock;
 using Lines = std::vector<std::string>;
 
 const std::vector<uint8_t> firmware = testimg::pattern(40000, 3);
-const std::vector<uint8_t> configFile = testimg::pattern(3000, 9);
 const std::vector<uint8_t> stub = testimg::stubImage();
 
 Lines logLines;
@@ -49,16 +48,15 @@ double secondsSince(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-esp_error_t flash(const std::string& path, const std::vector<uint8_t>& image,
-                  const char* expectedVersion) {
-    return esp_flash_firmware(path.c_str(), image.data(), image.size(), nullptr, 0, nullptr, 0,
-                              nullptr, 0, stub.data(), stub.size(), 0, 0, expectedVersion, nullptr,
-                              recordLog);
+esp_error_t flash(const std::string& path, const uint8_t* image, size_t imageLen,
+                  const uint8_t* stubImage, const char* expectedVersion,
+                  esp_log_cb log = recordLog) {
+    return esp_flash_firmware(path.c_str(), image, imageLen, nullptr, 0, nullptr, 0, nullptr, 0,
+                              stubImage, stub.size(), 0, 0, expectedVersion, nullptr, log);
 }
 
-esp_error_t upload(const std::string& path) {
-    return esp_upload_config(path.c_str(), configFile.data(), configFile.size(), nullptr,
-                             recordLog);
+esp_error_t upload(const std::string& path, const uint8_t* data, esp_log_cb log = recordLog) {
+    return esp_upload_config(path.c_str(), data, firmware.size(), nullptr, log);
 }
 
 std::string queryVersion(const std::string& path) {
@@ -80,11 +78,13 @@ TEST(MisbehavingDevice, FloodingConsoleEndsEveryCallWithinItsBound) {
     const Case cases[] = {
         {"version query", queryVersion, "null", 0.5 + 2 + 2 + 1.5},
         {"configuration upload",
-         [](const std::string& path) { return "code " + std::to_string(upload(path)); }, "code 8",
-         0.5 + (2 + 2) + 2 + 1.5},
+         [](const std::string& path) {
+             return "code " + std::to_string(upload(path, firmware.data()));
+         },
+         "code 8", 0.5 + (2 + 2) + 2 + 1.5},
         {"version confirmation",
          [](const std::string& path) {
-             const esp_error_t code = flash(path, firmware, "2.10.6");
+             const auto code = flash(path, firmware.data(), firmware.size(), stub.data(), "2.10.6");
              return "code " + std::to_string(code) + ", " + logLines.back();
          },
          "code 0, Could not confirm firmware version after update.",
@@ -95,7 +95,6 @@ TEST(MisbehavingDevice, FloodingConsoleEndsEveryCallWithinItsBound) {
         sim::Config config;
         config.floodConsole = true;
         sim::PtyPlotter plotter(config);
-        logLines.clear();
         const auto start = Clock::now();
         EXPECT_EQ(c.run(plotter.path()), c.outcome);
         EXPECT_LT(secondsSince(start), c.boundS);
@@ -108,27 +107,21 @@ TEST(MisbehavingDevice, DeviceThatStopsReadingEndsTheJobAfterTheWriteStall) {
     sim::Config config;
     config.hangAfterFlashData = 1;
     sim::PtyPlotter plotter(config);
+    const std::vector<uint8_t> image(2 * 16384, 0xC0);
     logLines.clear();
     const auto start = Clock::now();
-    EXPECT_EQ(flash(plotter.path(), std::vector<uint8_t>(2 * 16384, 0xC0), nullptr), 6u);
+    EXPECT_EQ(flash(plotter.path(), image.data(), image.size(), stub.data(), nullptr), 6u);
     EXPECT_LT(secondsSince(start), 1.5 + 10 + 3);
     EXPECT_EQ(logLines.back(), "SEND FAIL: FLASH_DATA");
     EXPECT_EQ(descriptorsOn(plotter.path()), 1u) << "only the simulator's own side may stay open";
 }
 
 // In a child process, so that a crash fails the case rather than the test program.
+// Exactly the one line is logged: the port was never opened.
 TEST(MisbehavingDevice, NullBufferWithALengthIsRefusedBeforeThePortOpens) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     sim::PtyPlotter plotter;
     const std::string path = plotter.path();
-    const auto boot = testimg::pattern(4096, 5);
-    const auto table = testimg::pattern(3072, 6);
-    auto flashFull = [&](const uint8_t* image, size_t imageLen, const uint8_t* bootloader,
-                         const uint8_t* partitions, const uint8_t* stubImage) {
-        return static_cast<int>(esp_flash_firmware(
-            path.c_str(), image, imageLen, bootloader, boot.size(), partitions, table.size(),
-            nullptr, 0, stubImage, stub.size(), 1, 0, nullptr, nullptr, logToStderr));
-    };
     struct Case {
         const char* buffer;
         std::function<int()> call;
@@ -137,23 +130,19 @@ TEST(MisbehavingDevice, NullBufferWithALengthIsRefusedBeforeThePortOpens) {
     };
     const Case cases[] = {
         {"firmware",
-         [&] { return flashFull(nullptr, 20000, boot.data(), table.data(), stub.data()); }, 6,
-         "Invalid argument: firmware is null with length 20000\n"},
-        {"bootloader",
-         [&] { return flashFull(firmware.data(), 40000, nullptr, table.data(), stub.data()); }, 6,
-         "Invalid argument: bootloader is null with length 4096\n"},
-        {"partitions",
-         [&] { return flashFull(firmware.data(), 40000, boot.data(), nullptr, stub.data()); }, 6,
-         "Invalid argument: partitions is null with length 3072\n"},
-        {"stub",
-         [&] { return flashFull(firmware.data(), 40000, boot.data(), table.data(), nullptr); }, 5,
-         "Invalid argument: stub is null with length 140\n"},
-        {"configuration",
          [&] {
              return static_cast<int>(
-                 esp_upload_config(path.c_str(), nullptr, 1000, nullptr, logToStderr));
+                 flash(path, nullptr, 20000, stub.data(), nullptr, logToStderr));
          },
-         8, "Invalid argument: data is null with length 1000\n"},
+         6, "Invalid argument: firmware is null with length 20000\n"},
+        {"stub",
+         [&] {
+             return static_cast<int>(
+                 flash(path, firmware.data(), firmware.size(), nullptr, nullptr, logToStderr));
+         },
+         5, "Invalid argument: stub is null with length 140\n"},
+        {"configuration", [&] { return static_cast<int>(upload(path, nullptr, logToStderr)); }, 8,
+         "Invalid argument: data is null with length 40000\n"},
         {"probe stub", [&] { return esp_probe_partition_table(path.c_str(), nullptr, 140); }, -1,
          ""},
     };
@@ -169,53 +158,30 @@ TEST(MisbehavingDevice, NullBufferWithALengthIsRefusedBeforeThePortOpens) {
     }
 }
 
-// A child that holds `path` open under the name "tfu-holder" until it is killed.
-class Holder {
-  public:
-    explicit Holder(const std::string& path) {
-        int ready[2];
-        EXPECT_EQ(::pipe(ready), 0);
-        const char* node = path.c_str();
-        pid_ = ::fork();
-        if (pid_ == 0) {
-            ::prctl(PR_SET_NAME, "tfu-holder");
-            const int fd = ::open(node, O_RDWR | O_NOCTTY | O_NONBLOCK);
-            [[maybe_unused]] const ssize_t n = ::write(ready[1], "r", 1);
-            ::pause();
-            ::_exit(fd < 0 ? 1 : 0);
-        }
-        ::close(ready[1]);
-        char byte = 0;
-        EXPECT_EQ(::read(ready[0], &byte, 1), 1);
-        ::close(ready[0]);
-    }
-    ~Holder() {
-        ::kill(pid_, SIGKILL);
-        ::waitpid(pid_, nullptr, 0);
-    }
-    Holder(const Holder&) = delete;
-    Holder& operator=(const Holder&) = delete;
-
-    pid_t pid() const { return pid_; }
-
-  private:
-    pid_t pid_ = -1;
-};
-
+// Another program with the port open, as a serial monitor would have it: `sleep`
+// with the node as its standard input.
 TEST(SharedPort, PortThatAnotherProcessHoldsIsNotOpened) {
     sim::PtyPlotter plotter;
-    const Holder holder(plotter.path());
-    const std::string inUse =
-        "Port is in use by tfu-holder (pid " + std::to_string(holder.pid()) + ")";
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, 0, plotter.path().c_str(), O_RDWR | O_NOCTTY, 0);
+    char* argv[] = {const_cast<char*>("sleep"), const_cast<char*>("60"), nullptr};
+    pid_t holder = -1;
+    ASSERT_EQ(posix_spawnp(&holder, "sleep", &actions, nullptr, argv, environ), 0);
+    posix_spawn_file_actions_destroy(&actions);
+
+    const std::string inUse = "Port is in use by sleep (pid " + std::to_string(holder) + ")";
     logLines.clear();
-    EXPECT_EQ(flash(plotter.path(), firmware, nullptr), 2u);
+    EXPECT_EQ(flash(plotter.path(), firmware.data(), firmware.size(), stub.data(), nullptr), 2u);
     EXPECT_EQ(logLines, (Lines{"Opening port: " + plotter.path(), inUse, "Failed to open port"}));
     logLines.clear();
-    EXPECT_EQ(upload(plotter.path()), 2u);
+    EXPECT_EQ(upload(plotter.path(), firmware.data()), 2u);
     EXPECT_EQ(logLines, (Lines{inUse, "Failed to open port"}));
     EXPECT_EQ(queryVersion(plotter.path()), "null");
     EXPECT_EQ(esp_probe_partition_table(plotter.path().c_str(), stub.data(), stub.size()), -1);
     plotter.inspect([](const sim::Plotter& p) { EXPECT_EQ(p.transcript(), Lines{}); });
+    ::kill(holder, SIGKILL);
+    ::waitpid(holder, nullptr, 0);
 }
 
 // Root and CAP_SYS_ADMIN pass over a port's exclusivity, so these cases run their

@@ -1,14 +1,54 @@
+#include <poll.h>
+#include <pty.h>
+#include <termios.h>
+#include <unistd.h>
+
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <string>
+#include <thread>
+#include <utility>
 
-#include "PtySupport.h"
 #include "serial/SerialPort.h"
 
 namespace {
 
+using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
+
+// The slave side stands in for the device node; the test plays the device on the master.
+struct Pty {
+    Pty() {
+        char name[128];
+        EXPECT_EQ(openpty(&master, &slave, name, nullptr, nullptr), 0);
+        path = name;
+        termios tio{};
+        tcgetattr(slave, &tio);
+        cfmakeraw(&tio);
+        tcsetattr(slave, TCSANOW, &tio);
+    }
+    ~Pty() {
+        ::close(master);
+        ::close(slave);
+    }
+    void send(const std::string& text) const {
+        EXPECT_EQ(::write(master, text.data(), text.size()), static_cast<ssize_t>(text.size()));
+        usleep(20'000);
+    }
+    short poll(int timeoutMs) const {
+        pollfd p{master, POLLIN, 0};
+        return ::poll(&p, 1, timeoutMs) > 0 ? p.revents : 0;
+    }
+
+    int master = -1;
+    int slave = -1;
+    std::string path;
+};
+
+double msSince(Clock::time_point start) {
+    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
 
 class PosixPort : public ::testing::Test {
   protected:
@@ -64,6 +104,24 @@ TEST_F(PosixPort, ReopenClosesTheFirstDeviceAndAFailedOpenLeavesItClosed) {
     EXPECT_EQ(port.read(buf, 1, 50), 0u);
     EXPECT_FALSE(port.setDTR(true));
     port.flush();
+}
+
+// Closing the master hangs the slave up, as pulling the cable does to a USB port:
+// from then on the line reports itself readable at once and for ever.
+TEST_F(PosixPort, ReadOnAHungUpLineReturnsNothingOnlyAtItsTimeOut) {
+    std::thread unplug([this] {
+        std::this_thread::sleep_for(200ms);
+        ::close(std::exchange(pty.master, -1));
+    });
+    auto start = Clock::now();
+    EXPECT_EQ(port.read(buf, sizeof buf, 1000), 0u);
+    EXPECT_GE(msSince(start), 990) << "hung up during the wait";
+    unplug.join();
+
+    start = Clock::now();
+    EXPECT_EQ(port.read(buf, sizeof buf, 300), 0u);
+    EXPECT_GE(msSince(start), 295) << "hung up before the read";
+    EXPECT_FALSE(port.write(buf, 1));
 }
 
 }  // namespace
