@@ -68,6 +68,10 @@ struct Config {
     // Firmware console.
     bool silentConsole = false;    ///< console lines are taken but never answered
     bool okBeforeVersion = false;  ///< "$I" prints "ok" before its "[VER:" line
+    /// The firmware is stuck in a status loop: whenever it runs, it prints a status
+    /// line every 5 ms without end and answers nothing. A reset into the loader
+    /// stops it; the restart after flashing starts it again.
+    bool floodConsole = false;
 
     // XModem receiver. Block ordinals count the file's blocks from 1.
     bool xmodemCrc = true;              ///< handshake 'C' (CRC-16); false: NAK (8-bit sum)

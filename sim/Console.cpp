@@ -39,6 +39,8 @@ axes:
     acceleration_mm_per_sec2: 200.000
     max_travel_mm: 10.000
 )";
+constexpr int kFloodIntervalMs = 5;
+const std::string kStatusLine = "<Idle|MPos:0.000,0.000,0.000|FS:0,0>\r\n";
 
 }  // namespace
 
@@ -48,6 +50,7 @@ void Console::restart(int64_t readyNs) {
     line_.clear();
     readyNs_ = readyNs;
     d_.mode = Mode::Console;
+    startFlood();
 }
 
 size_t Console::consume(const uint8_t* data, size_t len) {
@@ -87,7 +90,8 @@ void Console::onLine(const std::string& line) {
         return;
     }
     d_.note(line);
-    if (mono::nowNs() < readyNs_ || d_.config.silent || d_.config.silentConsole) {
+    if (mono::nowNs() < readyNs_ || d_.config.silent || d_.config.silentConsole ||
+        d_.config.floodConsole) {
         return;
     }
     if (line == "$I") {
@@ -124,6 +128,20 @@ void Console::startSending(const std::string& name) {
     }
     const std::string text = d_.config.machineConfig.value_or(std::string(kDefaultConfig));
     sender_.start(std::vector<uint8_t>(text.begin(), text.end()));
+}
+
+// Each line schedules the next one, as long as the firmware keeps running.
+void Console::startFlood() {
+    if (!d_.config.floodConsole) {
+        return;
+    }
+    d_.outbox.schedule(kFloodIntervalMs, [this] {
+        if (d_.mode != Mode::Console) {
+            return std::vector<uint8_t>{};
+        }
+        startFlood();
+        return std::vector<uint8_t>(kStatusLine.begin(), kStatusLine.end());
+    });
 }
 
 void Console::reply(const std::string& text) {

@@ -15,7 +15,9 @@ namespace sim::detail {
 /// mode is Console, XModem or XModemSend.
 class Console {
   public:
-    explicit Console(Device& device) : d_(device), xmodem_(device), sender_(device) {}
+    explicit Console(Device& device) : d_(device), xmodem_(device), sender_(device) {
+        startFlood();
+    }
 
     /// The firmware starts afresh; input that arrives before `readyNs` finds it
     /// still booting and goes unanswered.
@@ -30,6 +32,7 @@ class Console {
     void onLine(const std::string& line);
     void startSending(const std::string& name);
     void reply(const std::string& text);
+    void startFlood();
 
     Device& d_;
     XModemReceiver xmodem_;

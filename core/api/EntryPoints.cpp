@@ -1,12 +1,20 @@
 #include <cstdlib>
 #include <cstring>
+#include <initializer_list>
 #include <string>
 
 #include "api/Jobs.h"
 #include "api/esp_flasher.h"
 #include "serial/PortDiscovery.h"
+#include "serial/PortHolder.h"
 
 namespace {
+
+struct Buffer {
+    const char* name;
+    const uint8_t* data;
+    size_t length;
+};
 
 char* dupString(const std::string& text) {
     auto* copy = static_cast<char*>(std::malloc(text.size() + 1));
@@ -14,6 +22,41 @@ char* dupString(const std::string& text) {
         std::memcpy(copy, text.c_str(), text.size() + 1);
     }
     return copy;
+}
+
+void logLine(esp_log_cb log, const std::string& line) {
+    if (log != nullptr) {
+        log(line.c_str());
+    }
+}
+
+// The jobs would read `length` bytes from the null pointer; null with length 0
+// stays the absent buffer it has always meant.
+bool refuseNullBuffers(std::initializer_list<Buffer> buffers, esp_log_cb log) {
+    for (const Buffer& buffer : buffers) {
+        if (buffer.data == nullptr && buffer.length != 0) {
+            logLine(log, std::string("Invalid argument: ") + buffer.name + " is null with length " +
+                             std::to_string(buffer.length));
+            return true;
+        }
+    }
+    return false;
+}
+
+// A second program on the port (a serial monitor, a G-code sender) would take
+// some of the device's replies, and the job would fail with misleading advice.
+bool refuseSharedPort(const char* path, esp_log_cb log) {
+    if (path == nullptr) {
+        return false;
+    }
+    const auto holder = findOtherPortHolder(path);
+    if (!holder) {
+        return false;
+    }
+    logLine(log,
+            "Port is in use by " + holder->name + " (pid " + std::to_string(holder->pid) + ")");
+    logLine(log, "Failed to open port");
+    return true;
 }
 
 bool openPort(SerialPort& serial, const char* path) {
@@ -31,14 +74,22 @@ esp_error_t esp_flash_firmware(const char* port, const uint8_t* firmware, size_t
                                size_t stubLen, int fullFlash, int eraseAll,
                                const char* expectedVersion, esp_progress_cb progress,
                                esp_log_cb log) {
-    if (log != nullptr) {
-        log((std::string("Opening port: ") + (port != nullptr ? port : "")).c_str());
+    if (refuseNullBuffers({{"firmware", firmware, firmwareLen},
+                           {"bootloader", bootloader, bootloaderLen},
+                           {"partitions", partitions, partitionsLen}},
+                          log)) {
+        return esp::result::WriteFailed;
+    }
+    if (refuseNullBuffers({{"stub", stub, stubLen}}, log)) {
+        return esp::result::StubFailed;
+    }
+    logLine(log, std::string("Opening port: ") + (port != nullptr ? port : ""));
+    if (refuseSharedPort(port, log)) {
+        return esp::result::PortOpenFailed;
     }
     SerialPort serial;
     if (!openPort(serial, port)) {
-        if (log != nullptr) {
-            log("Failed to open port");
-        }
+        logLine(log, "Failed to open port");
         return esp::result::PortOpenFailed;
     }
     const esp::FlashRequest request{
@@ -48,9 +99,12 @@ esp_error_t esp_flash_firmware(const char* port, const uint8_t* firmware, size_t
 }
 
 esp_error_t esp_upload_config(const char* port, const uint8_t* data, size_t length,
-                              esp_progress_cb progress, esp_log_cb /*log*/) {
+                              esp_progress_cb progress, esp_log_cb log) {
+    if (refuseNullBuffers({{"data", data, length}}, log)) {
+        return esp::result::UploadFailed;
+    }
     SerialPort serial;
-    if (!openPort(serial, port)) {
+    if (refuseSharedPort(port, log) || !openPort(serial, port)) {
         return esp::result::PortOpenFailed;
     }
     return esp::runUploadConfigJob(serial, data, length, progress);
@@ -58,7 +112,7 @@ esp_error_t esp_upload_config(const char* port, const uint8_t* data, size_t leng
 
 char* esp_query_version(const char* port) {
     SerialPort serial;
-    if (!openPort(serial, port)) {
+    if (refuseSharedPort(port, nullptr) || !openPort(serial, port)) {
         return nullptr;
     }
     const auto version = esp::runQueryVersionJob(serial);
@@ -72,7 +126,8 @@ char* esp_detect_device(uint16_t vendorId, uint16_t productId) {
 
 int esp_probe_partition_table(const char* port, const uint8_t* stub, size_t stubLen) {
     SerialPort serial;
-    if (!openPort(serial, port)) {
+    if (refuseNullBuffers({{"stub", stub, stubLen}}, nullptr) || refuseSharedPort(port, nullptr) ||
+        !openPort(serial, port)) {
         return -1;
     }
     return esp::runProbePartitionTableJob(serial, stub, stubLen);

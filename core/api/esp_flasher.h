@@ -7,6 +7,12 @@
  * thread. Buffers and texts passed in are borrowed for the call; texts
  * returned are malloc'd copies that the caller releases with free(). At most
  * one job may run at a time.
+ *
+ * A buffer given as null with a non-zero length is refused before the port is
+ * opened ("Invalid argument: <name> is null with length <n>" to the log, where
+ * there is one); null with length 0 means absent. A port that another process
+ * has open is not opened ("Port is in use by <name> (pid <n>)", then "Failed to
+ * open port"); once open, the port is exclusive until the job closes it.
  */
 
 #include <stddef.h>
@@ -41,7 +47,7 @@ esp_error_t esp_flash_firmware(const char* port, const uint8_t* firmware, size_t
                                esp_log_cb log);
 
 /* Uploads a configuration file as config.yaml over XModem and restarts the
- * firmware. Never logs. Returns 0, 2 or 8. */
+ * firmware. Logs only a refused buffer or a port in use. Returns 0, 2 or 8. */
 esp_error_t esp_upload_config(const char* port, const uint8_t* data, size_t length,
                               esp_progress_cb progress, esp_log_cb log);
 

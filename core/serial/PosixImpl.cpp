@@ -1,26 +1,56 @@
 #include "PosixImpl.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/ioctl.h>
-#include <sys/select.h>
 #include <termios.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
 #include "Clock.h"
 
 namespace {
 
-// Below a microsecond the select time-out would truncate to zero and turn into a poll.
+// Below a microsecond a wait would round to nothing and turn into a busy poll.
 constexpr int64_t kMinWaitNs = 1'000;
 
-timeval toTimeval(int64_t ns) {
-    timeval tv{};
-    tv.tv_sec = static_cast<time_t>(ns / 1'000'000'000);
-    tv.tv_usec = static_cast<suseconds_t>((ns % 1'000'000'000) / 1'000);
-    return tv;
+// A device that stays attached but stops reading would otherwise hold a write,
+// and the job around it, for ever.
+constexpr int kWriteStallMs = 10'000;
+
+// A pseudo-terminal frees buffer room in a kernel worker that wakes no writer, so
+// a wait for POLLOUT can miss room that has appeared; the write is retried after
+// at most this long.
+constexpr int64_t kWriteRetryNs = 100'000'000;
+
+int ceilMs(int64_t ns) {
+    return static_cast<int>((ns + 999'999) / 1'000'000);
 }
+
+// ppoll rather than select: any descriptor number, and nanosecond time-outs.
+int waitFor(pollfd& entry, int64_t ns) {
+    const timespec limit{static_cast<time_t>(ns / 1'000'000'000),
+                         static_cast<long>(ns % 1'000'000'000)};
+    return ::ppoll(&entry, 1, &limit, nullptr);
+}
+
+// Writes wait with a time-out, so they must not block inside write(); reads keep
+// the blocking descriptor that the open sequence leaves.
+class NonBlockingScope {
+  public:
+    explicit NonBlockingScope(int fd) : fd_(fd), flags_(::fcntl(fd, F_GETFL)) {
+        ::fcntl(fd_, F_SETFL, flags_ | O_NONBLOCK);
+    }
+    ~NonBlockingScope() { ::fcntl(fd_, F_SETFL, flags_); }
+    NonBlockingScope(const NonBlockingScope&) = delete;
+    NonBlockingScope& operator=(const NonBlockingScope&) = delete;
+
+  private:
+    int fd_;
+    int flags_;
+};
 
 }  // namespace
 
@@ -39,6 +69,8 @@ bool PosixImpl::open(const std::string& path) {
         close();
         return false;
     }
+    // Another program that opened the port meanwhile would read the device's replies.
+    ::ioctl(fd_, TIOCEXCL);
     return true;
 }
 
@@ -59,6 +91,10 @@ bool PosixImpl::configure() {
 
 void PosixImpl::close() {
     if (fd_ >= 0) {
+        // The flag belongs to the terminal, not to this descriptor: a node kept alive
+        // by another descriptor (a pseudo-terminal's other user) would stay
+        // exclusive and refuse the next job of an unprivileged user.
+        ::ioctl(fd_, TIOCNXCL);
         ::close(fd_);
         fd_ = -1;
     }
@@ -68,12 +104,31 @@ bool PosixImpl::write(const uint8_t* data, size_t len) {
     if (fd_ < 0) {
         return false;
     }
+    if (len == 0) {
+        return true;
+    }
+    const NonBlockingScope nonBlocking(fd_);
     size_t done = 0;
+    mono::Deadline stall(kWriteStallMs);
     while (done < len) {
         const ssize_t n = ::write(fd_, data + done, len - done);
-        if (n >= 0) {
+        if (n > 0) {
             done += static_cast<size_t>(n);
-        } else if (errno != EINTR) {
+            stall = mono::Deadline(kWriteStallMs);
+            continue;
+        }
+        if (n < 0 && errno == EINTR) {
+            continue;
+        }
+        if (n < 0 && errno != EAGAIN) {
+            return false;
+        }
+        const int64_t remaining = stall.remainingNs();
+        if (remaining <= 0) {
+            return false;
+        }
+        pollfd writable{fd_, POLLOUT, 0};
+        if (waitFor(writable, std::min(remaining, kWriteRetryNs)) < 0 && errno != EINTR) {
             return false;
         }
     }
@@ -87,19 +142,22 @@ size_t PosixImpl::read(uint8_t* buf, size_t len, int timeoutMs) {
     const mono::Deadline deadline(timeoutMs);
     int64_t remaining = deadline.remainingNs();
     while (remaining >= kMinWaitNs) {
-        fd_set readable;
-        FD_ZERO(&readable);
-        FD_SET(fd_, &readable);
-        timeval tv = toTimeval(remaining);
-        // An interrupted select ends the read; only the read itself is retried.
-        if (::select(fd_ + 1, &readable, nullptr, nullptr, &tv) <= 0) {
+        pollfd readable{fd_, POLLIN, 0};
+        // An interrupted poll ends the read; only the read itself is retried.
+        if (waitFor(readable, remaining) <= 0) {
             return 0;
         }
-        const ssize_t n = ::read(fd_, buf, len);
-        if (n >= 0) {
+        const ssize_t n = (readable.revents & POLLIN) != 0 ? ::read(fd_, buf, len) : 0;
+        if (n > 0) {
             return static_cast<size_t>(n);
         }
-        if (errno != EINTR) {
+        // A hung-up line is readable at once and for ever; waiting out the time-out
+        // keeps the callers' loops from spinning until their deadlines.
+        if ((readable.revents & POLLHUP) != 0 || (n < 0 && errno == EIO)) {
+            mono::sleepMs(ceilMs(deadline.remainingNs()));
+            return 0;
+        }
+        if (n == 0 || errno != EINTR) {
             return 0;
         }
         remaining = deadline.remainingNs();

@@ -6,6 +6,10 @@
 
 /// A device node driven through the POSIX terminal interface. Owns its descriptor
 /// and closes it when destroyed. One thread at a time.
+///
+/// While open, the terminal is exclusive (TIOCEXCL): no other unprivileged program
+/// can open it until `close`, which clears the flag again. A write that makes no
+/// progress for 10 s fails; a read on a hung-up line waits out its time-out.
 class PosixImpl final : public SerialPort::Impl {
   public:
     PosixImpl() = default;
@@ -13,8 +17,8 @@ class PosixImpl final : public SerialPort::Impl {
     PosixImpl(const PosixImpl&) = delete;
     PosixImpl& operator=(const PosixImpl&) = delete;
 
-    /// Opens `path` and configures it raw at 115200 baud without flow control;
-    /// on failure the descriptor is closed again and the result is false.
+    /// Opens `path`, configures it raw at 115200 baud without flow control and makes
+    /// it exclusive; on failure the descriptor is closed again and the result is false.
     bool open(const std::string& path);
 
     bool isOpen() const override { return fd_ >= 0; }

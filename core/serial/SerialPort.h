@@ -51,8 +51,9 @@ class SerialPort {
     SerialPort(const SerialPort&) = delete;
     SerialPort& operator=(const SerialPort&) = delete;
 
-    /// Opens a device node raw at 115200 baud, 8N1, no flow control. Closes the
-    /// back end held before. False when the node cannot be opened or configured.
+    /// Opens a device node raw at 115200 baud, 8N1, no flow control, exclusive to
+    /// this handle until it closes. Closes the back end held before. False when the
+    /// node cannot be opened or configured.
     bool open(const std::string& path);
 
     /// Installs an open loopback back end driven by `handler`; always true. The
@@ -65,11 +66,13 @@ class SerialPort {
     bool isOpen() const;
 
     /// Writes every byte, retrying interrupted and partial writes; 0 bytes is true.
+    /// On a device node, false once 10 s pass without any byte being taken.
     bool write(const uint8_t* data, size_t len);
     bool write(const std::vector<uint8_t>& data);
 
     /// Returns the bytes of one read call (1..len), or 0 for time-out, error or end
     /// of file. Never waits for `len` bytes; a time-out below 1 µs reads nothing.
+    /// On a hung-up line it returns 0 only once the time-out has passed.
     size_t read(uint8_t* buf, size_t len, int timeoutMs);
 
     /// Asserts (true) or releases (false) a modem-control line; false on failure.

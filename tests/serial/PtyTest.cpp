@@ -7,11 +7,14 @@
 
 #include <chrono>
 #include <string>
+#include <thread>
+#include <utility>
 
 #include "serial/SerialPort.h"
 
 namespace {
 
+using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
 // The slave side stands in for the device node; the test plays the device on the master.
@@ -101,6 +104,24 @@ TEST_F(PosixPort, ReopenClosesTheFirstDeviceAndAFailedOpenLeavesItClosed) {
     EXPECT_EQ(port.read(buf, 1, 50), 0u);
     EXPECT_FALSE(port.setDTR(true));
     port.flush();
+}
+
+// Closing the master hangs the slave up, as pulling the cable does to a USB port:
+// from then on the line reports itself readable at once and for ever.
+TEST_F(PosixPort, ReadOnAHungUpLineReturnsNothingOnlyAtItsTimeOut) {
+    std::thread unplug([this] {
+        std::this_thread::sleep_for(200ms);
+        ::close(std::exchange(pty.master, -1));
+    });
+    auto start = Clock::now();
+    EXPECT_EQ(port.read(buf, sizeof buf, 1000), 0u);
+    EXPECT_GE(msSince(start), 990) << "hung up during the wait";
+    unplug.join();
+
+    start = Clock::now();
+    EXPECT_EQ(port.read(buf, sizeof buf, 300), 0u);
+    EXPECT_GE(msSince(start), 295) << "hung up before the read";
+    EXPECT_FALSE(port.write(buf, 1));
 }
 
 }  // namespace

@@ -1,0 +1,239 @@
+#include <fcntl.h>
+#include <grp.h>
+#include <spawn.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "Descriptors.h"
+#include "api/esp_flasher.h"
+#include "sim/PtyPlotter.h"
+#include "tests/support/TestImages.h"
+
+// Plotters that do what no healthy one does, and other programs on the plotter's
+// port, over real pseudo-terminals and the real clock, through the shared library.
+namespace {
+
+using namespace std::chrono_literals;
+using namespace reliability;
+using Clock = std::chrono::steady_clock;
+using Lines = std::vector<std::string>;
+
+const std::vector<uint8_t> firmware = testimg::pattern(40000, 3);
+const std::vector<uint8_t> stub = testimg::stubImage();
+
+Lines logLines;
+
+void recordLog(const char* line) {
+    logLines.emplace_back(line);
+}
+
+void logToStderr(const char* line) {
+    std::fprintf(stderr, "%s\n", line);
+}
+
+double secondsSince(Clock::time_point start) {
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+esp_error_t flash(const std::string& path, const uint8_t* image, size_t imageLen,
+                  const uint8_t* stubImage, const char* expectedVersion,
+                  esp_log_cb log = recordLog) {
+    return esp_flash_firmware(path.c_str(), image, imageLen, nullptr, 0, nullptr, 0, nullptr, 0,
+                              stubImage, stub.size(), 0, 0, expectedVersion, nullptr, log);
+}
+
+esp_error_t upload(const std::string& path, const uint8_t* data, esp_log_cb log = recordLog) {
+    return esp_upload_config(path.c_str(), data, firmware.size(), nullptr, log);
+}
+
+std::string queryVersion(const std::string& path) {
+    char* version = esp_query_version(path.c_str());
+    const std::string text = version != nullptr ? version : "null";
+    std::free(version);
+    return text;
+}
+
+// A firmware stuck printing status lines never leaves the gap that ends "read until
+// nothing arrives"; each call ends by the drain bound and its own time-outs.
+TEST(MisbehavingDevice, FloodingConsoleEndsEveryCallWithinItsBound) {
+    struct Case {
+        const char* call;
+        std::function<std::string(const std::string&)> run;
+        std::string outcome;
+        double boundS;  // settle, 2 s per bounded drain, time-outs, and 1.5 s to spare
+    };
+    const Case cases[] = {
+        {"version query", queryVersion, "null", 0.5 + 2 + 2 + 1.5},
+        {"configuration upload",
+         [](const std::string& path) {
+             return "code " + std::to_string(upload(path, firmware.data()));
+         },
+         "code 8", 0.5 + (2 + 2) + 2 + 1.5},
+        {"version confirmation",
+         [](const std::string& path) {
+             const auto code = flash(path, firmware.data(), firmware.size(), stub.data(), "2.10.6");
+             return "code " + std::to_string(code) + ", " + logLines.back();
+         },
+         "code 0, Could not confirm firmware version after update.",
+         2 + 2 + 3 * (2 + 2) + 2 * 1 + 1.5},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.call);
+        sim::Config config;
+        config.floodConsole = true;
+        sim::PtyPlotter plotter(config);
+        const auto start = Clock::now();
+        EXPECT_EQ(c.run(plotter.path()), c.outcome);
+        EXPECT_LT(secondsSince(start), c.boundS);
+    }
+}
+
+// The chip hangs after the first block and takes nothing more. A block of 0xC0
+// bytes, doubled by SLIP escaping, is more than a pseudo-terminal holds.
+TEST(MisbehavingDevice, DeviceThatStopsReadingEndsTheJobAfterTheWriteStall) {
+    sim::Config config;
+    config.hangAfterFlashData = 1;
+    sim::PtyPlotter plotter(config);
+    const std::vector<uint8_t> image(2 * 16384, 0xC0);
+    logLines.clear();
+    const auto start = Clock::now();
+    EXPECT_EQ(flash(plotter.path(), image.data(), image.size(), stub.data(), nullptr), 6u);
+    EXPECT_LT(secondsSince(start), 1.5 + 10 + 3);
+    EXPECT_EQ(logLines.back(), "SEND FAIL: FLASH_DATA");
+    EXPECT_EQ(descriptorsOn(plotter.path()), 1u) << "only the simulator's own side may stay open";
+}
+
+// In a child process, so that a crash fails the case rather than the test program.
+// Exactly the one line is logged: the port was never opened.
+TEST(MisbehavingDevice, NullBufferWithALengthIsRefusedBeforeThePortOpens) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    sim::PtyPlotter plotter;
+    const std::string path = plotter.path();
+    struct Case {
+        const char* buffer;
+        std::function<int()> call;
+        int result;
+        std::string logged;
+    };
+    const Case cases[] = {
+        {"firmware",
+         [&] {
+             return static_cast<int>(
+                 flash(path, nullptr, 20000, stub.data(), nullptr, logToStderr));
+         },
+         6, "Invalid argument: firmware is null with length 20000\n"},
+        {"stub",
+         [&] {
+             return static_cast<int>(
+                 flash(path, firmware.data(), firmware.size(), nullptr, nullptr, logToStderr));
+         },
+         5, "Invalid argument: stub is null with length 140\n"},
+        {"configuration", [&] { return static_cast<int>(upload(path, nullptr, logToStderr)); }, 8,
+         "Invalid argument: data is null with length 40000\n"},
+        {"probe stub", [&] { return esp_probe_partition_table(path.c_str(), nullptr, 140); }, -1,
+         ""},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.buffer);
+        auto untouched = [&] {
+            bool empty = false;
+            plotter.inspect([&](const sim::Plotter& p) { empty = p.transcript().empty(); });
+            return empty;
+        };
+        EXPECT_EXIT(std::_Exit(c.call() == c.result && untouched() ? 0 : 1),
+                    ::testing::ExitedWithCode(0), "^" + c.logged + "$");
+    }
+}
+
+// Another program with the port open, as a serial monitor would have it: `sleep`
+// with the node as its standard input.
+TEST(SharedPort, PortThatAnotherProcessHoldsIsNotOpened) {
+    sim::PtyPlotter plotter;
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, 0, plotter.path().c_str(), O_RDWR | O_NOCTTY, 0);
+    char* argv[] = {const_cast<char*>("sleep"), const_cast<char*>("60"), nullptr};
+    pid_t holder = -1;
+    ASSERT_EQ(posix_spawnp(&holder, "sleep", &actions, nullptr, argv, environ), 0);
+    posix_spawn_file_actions_destroy(&actions);
+
+    const std::string inUse = "Port is in use by sleep (pid " + std::to_string(holder) + ")";
+    logLines.clear();
+    EXPECT_EQ(flash(plotter.path(), firmware.data(), firmware.size(), stub.data(), nullptr), 2u);
+    EXPECT_EQ(logLines, (Lines{"Opening port: " + plotter.path(), inUse, "Failed to open port"}));
+    logLines.clear();
+    EXPECT_EQ(upload(plotter.path(), firmware.data()), 2u);
+    EXPECT_EQ(logLines, (Lines{inUse, "Failed to open port"}));
+    EXPECT_EQ(queryVersion(plotter.path()), "null");
+    EXPECT_EQ(esp_probe_partition_table(plotter.path().c_str(), stub.data(), stub.size()), -1);
+    plotter.inspect([](const sim::Plotter& p) { EXPECT_EQ(p.transcript(), Lines{}); });
+    ::kill(holder, SIGKILL);
+    ::waitpid(holder, nullptr, 0);
+}
+
+// Root and CAP_SYS_ADMIN pass over a port's exclusivity, so these cases run their
+// opener in a child that has given up root (and every capability with it) for
+// user and group 65534. Returns the child's exit status, or -1.
+int runUnprivileged(const std::function<int()>& body) {
+    const pid_t pid = ::fork();
+    if (pid == 0) {
+        if (::geteuid() == 0 &&
+            (::setgroups(0, nullptr) != 0 || ::setgid(65534) != 0 || ::setuid(65534) != 0)) {
+            ::_exit(125);
+        }
+        ::_exit(body());
+    }
+    int status = 0;
+    ::waitpid(pid, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST(SharedPort, SecondOpenDuringAJobFailsWithEbusyForAnUnprivilegedProcess) {
+    sim::Config config;
+    config.silentConsole = true;  // the version query waits out its 2 s
+    sim::PtyPlotter plotter(config);
+    ASSERT_EQ(::chmod(plotter.path().c_str(), 0666), 0);
+    const char* node = plotter.path().c_str();
+    // Only system calls in the child: the parent has threads.
+    auto openAsOther = [node] {
+        const int fd = ::open(node, O_RDWR | O_NOCTTY | O_NONBLOCK);
+        return fd >= 0 ? 0 : errno;
+    };
+    std::thread job([&] { queryVersion(plotter.path()); });
+    for (int i = 0; i < 100 && descriptorsOn(plotter.path()) < 2; ++i) {
+        std::this_thread::sleep_for(10ms);
+    }
+    std::this_thread::sleep_for(100ms);  // past the open sequence, within the 500 ms settle
+    EXPECT_EQ(runUnprivileged(openAsOther), EBUSY);
+    job.join();
+    EXPECT_EQ(runUnprivileged(openAsOther), 0) << "still exclusive after the job";
+}
+
+// A node that another descriptor keeps alive keeps its exclusivity flag across
+// closes; the simulator holds its side open, so every job finds the same node.
+TEST(SharedPort, TwoJobsInARowOnOnePseudoTerminalAsAnUnprivilegedUser) {
+    const int status = runUnprivileged([] {
+        sim::PtyPlotter plotter;
+        int failedJobs = 0;
+        for (const int job : {1, 2}) {
+            failedJobs |= queryVersion(plotter.path()) == "null" ? job : 0;
+        }
+        return failedJobs;
+    });
+    EXPECT_EQ(status, 0) << "1: the first job failed, 2: the second, 3: both";
+}
+
+}  // namespace
