@@ -1,0 +1,122 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "image/FirmwareCheck.h"
+#include "image/Partitions.h"
+
+namespace {
+
+using Bytes = std::vector<uint8_t>;
+
+Bytes devImage(const std::string& name) {
+    std::ifstream file(std::string(TFU_DEV_RESOURCES_DIR "/") + name, std::ios::binary);
+    return Bytes(std::istreambuf_iterator<char>(file), {});
+}
+
+image::ImageReport inspect(const Bytes& bytes) {
+    return image::inspectImage(bytes.data(), bytes.size());
+}
+
+Bytes changed(Bytes bytes, size_t at, uint8_t value) {
+    bytes.at(at) = value;
+    return bytes;
+}
+
+Bytes resized(Bytes bytes, size_t size, uint8_t fill = 0xFF) {
+    bytes.resize(size, fill);
+    return bytes;
+}
+
+constexpr uint32_t kDevApplicationPartition = 0x1E0000;
+
+TEST(ImageInspection, ReadsTheDevelopmentSet) {
+    const auto firmware = inspect(devImage("firmware.bin"));
+    EXPECT_EQ(firmware.layoutFault, "");
+    EXPECT_EQ(firmware.chipId, 9);
+    EXPECT_EQ(firmware.segments.size(), 4u);
+    EXPECT_EQ(firmware.segments[0].dataOffset, 32u);
+    EXPECT_TRUE(firmware.checksumMatches);
+    EXPECT_TRUE(firmware.sha256Appended && firmware.sha256Matches);
+    ASSERT_TRUE(firmware.app);
+    EXPECT_EQ(firmware.app->version, "0.0.0-devset");
+    EXPECT_EQ(firmware.app->projectName, "teskal-devset");
+    EXPECT_EQ(firmware.app->date + " " + firmware.app->time, "Jan  1 2000 00:00:00");
+    EXPECT_TRUE(firmware.developmentMarker);
+
+    const auto bootloader = inspect(devImage("bootloader.bin"));
+    EXPECT_EQ(bootloader.layoutFault, "");
+    EXPECT_EQ(bootloader.segments.size(), 3u);
+    EXPECT_FALSE(bootloader.app);
+
+    const Bytes tableBytes = devImage("partitions.bin");
+    const auto table = image::inspectPartitionTable(tableBytes.data(), tableBytes.size());
+    std::vector<std::string> labels;
+    for (const auto& entry : table.entries) {
+        labels.push_back(entry.label);
+    }
+    EXPECT_EQ(labels, (std::vector<std::string>{"nvs", "otadata", "app0", "app1", "spiffs"}));
+    EXPECT_EQ(table.md5, image::PartitionTableReport::Md5::matches);
+    EXPECT_EQ(table.applicationSize, kDevApplicationPartition);
+
+    // A changed label no longer matches the MD5 entry; without app0 there is no limit.
+    const Bytes renamed = changed(tableBytes, 2 * 32 + 12, 'b');
+    const auto damaged = image::inspectPartitionTable(renamed.data(), renamed.size());
+    EXPECT_EQ(damaged.md5, image::PartitionTableReport::Md5::differs);
+    EXPECT_EQ(damaged.applicationSize, kDevApplicationPartition);
+    const auto twoEntries = image::inspectPartitionTable(tableBytes.data(), 64);
+    EXPECT_EQ(twoEntries.md5, image::PartitionTableReport::Md5::absent);
+    EXPECT_FALSE(twoEntries.applicationSize);
+}
+
+TEST(ImageInspection, RefusesWhatMustNotBeWrittenAsFirmware) {
+    const Bytes firmware = devImage("firmware.bin");
+    const std::string json = R"({"name": "plotter", "pens": 12}
+)";  // 32 bytes
+    const Bytes text(json.begin(), json.end());
+    const image::FirmwareRules real{kDevApplicationPartition, false};
+    const image::FirmwareRules simulated{kDevApplicationPartition, true};
+    const image::FirmwareRules noTable{std::nullopt, true};
+    struct Row {
+        const char* name;
+        Bytes bytes;
+        image::FirmwareRules rules;
+        std::optional<std::string> refusal;
+    };
+    const Row rows[] = {
+        {"0 bytes", {}, simulated, "an empty file (0 bytes)"},
+        {"text as .bin", text, simulated, "not a firmware image (first byte 0x7B, expected 0xE9)"},
+        {"cut in header", resized(firmware, 20), simulated, "damaged: it ends inside its header"},
+        {"no segments", changed(firmware, 1, 0), simulated,
+         "damaged: it declares 0 segments (1 to 16 expected)"},
+        {"cut in segment 1", resized(firmware, 40000), simulated,
+         "damaged: segment 1 runs past the end of the file"},
+        {"cut in SHA-256", resized(firmware, firmware.size() - 10), simulated,
+         "damaged: it ends before its SHA-256"},
+        {"ESP32 image", changed(firmware, 12, 0), simulated,
+         "built for another chip (chip id 0, ESP32; this machine is an ESP32-S3)"},
+        {"unknown chip", changed(firmware, 12, 77), simulated,
+         "built for another chip (chip id 77; this machine is an ESP32-S3)"},
+        {"segment byte changed", changed(firmware, 40000, firmware[40000] ^ 1), simulated,
+         "damaged: its checksum does not match"},
+        {"SHA-256 changed", changed(firmware, firmware.size() - 1, firmware.back() ^ 1), simulated,
+         "damaged: its SHA-256 does not match"},
+        {"bootloader", devImage("bootloader.bin"), simulated,
+         "not an application image (it has no application description)"},
+        {"4 MiB", resized(firmware, 4 * 1024 * 1024), simulated,
+         "too large for the application partition (4,194,304 bytes; the partition holds "
+         "1,966,080)"},
+        {"development image", firmware, real, "a development image, not firmware"},
+        {"development image, simulated", firmware, simulated, std::nullopt},
+        {"4 MiB, no partition table", resized(firmware, 4 * 1024 * 1024), noTable, std::nullopt},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(image::firmwareRefusal(inspect(row.bytes), row.rules), row.refusal) << row.name;
+    }
+}
+
+}  // namespace
