@@ -8,15 +8,6 @@
 
 namespace {
 
-std::optional<QByteArray> readWhole(const QString& path, QString* failure) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *failure = file.errorString();
-        return std::nullopt;
-    }
-    return file.readAll();
-}
-
 struct BootImages {
     QByteArray bootloader;
     QByteArray partitions;
@@ -39,7 +30,10 @@ BootImages loadBootImages(const ResourceBundle& resources) {
 
 void UpdateController::performFlash(const QString& port) {
     const auto firmware = loadFirmwareImage();
-    if (!firmware) {
+    // Checked before the version probe opens the port: a refused image reaches
+    // nothing. A custom file is checked again, as it may have changed since it
+    // was chosen.
+    if (!firmware || !firmwareAccepted(*firmware)) {
         return;
     }
     // One reading of the flag serves the whole job: erasing the chip and then
@@ -98,6 +92,15 @@ std::optional<QByteArray> UpdateController::loadFirmwareImage() {
     }
     log(QStringLiteral("Updating firmware (custom: ") + custom.fileName() + ")…");
     return chosen;
+}
+
+std::optional<QByteArray> UpdateController::readWhole(const QString& path, QString* failure) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *failure = file.errorString();
+        return std::nullopt;
+    }
+    return file.readAll();
 }
 
 bool UpdateController::decideFullFlash(const QString& port, bool eraseAll) {

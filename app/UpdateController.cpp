@@ -6,15 +6,17 @@
 #include <QPointer>
 
 #include "app/BuildConfig.h"
+#include "app/MachineConfigCheck.h"
 
 UpdateController::UpdateController(QObject* parent)
     : UpdateController(ResourceBundle::located(), DeviceMonitor::Detector(esp_detect_device),
-                       parent) {}
+                       DevelopmentImages::refuse, parent) {}
 
 UpdateController::UpdateController(ResourceBundle resources, DeviceMonitor::Detector detector,
-                                   QObject* parent)
+                                   DevelopmentImages developmentImages, QObject* parent)
     : QObject(parent),
       m_resources(std::move(resources)),
+      m_developmentImages(developmentImages),
       m_monitor(new DeviceMonitor(std::move(detector), this)),
       m_statusMessage(QStringLiteral("Waiting for device…")) {
     m_worker.setMaxThreadCount(1);
@@ -46,12 +48,6 @@ QString UpdateController::firmwareLabel() const {
         return QStringLiteral("Firmware version ") + BuildConfig::firmwareVersion();
     }
     return location.fileName();
-}
-
-void UpdateController::chooseCustomFirmware(const std::optional<QString>& path) {
-    setCustomFirmwareURL(path ? QUrl::fromLocalFile(*path) : QUrl());
-    log(QStringLiteral("Custom firmware: ") +
-        (path ? QFileInfo(*path).fileName() : QStringLiteral("unknown")));
 }
 
 void UpdateController::updateFirmware() {
@@ -86,6 +82,11 @@ void UpdateController::uploadConfigFromFile(const QString& path) {
         return;
     }
     const QByteArray configData = file.readAll();
+    if (const auto problem = machineConfigProblem(configData)) {
+        log(QStringLiteral("ERROR: ") + fileName +
+            QStringLiteral(" is not a valid machine configuration: ") + *problem);
+        return;
+    }
     clearLog();
     log(QStringLiteral("Preparing ") + fileName + versionSuffix(configData));
     submit([port = *port, configData](UpdateController& controller) {

@@ -18,6 +18,10 @@
 #include "app/UpdateState.h"
 #include "esp_flasher.h"
 
+namespace image {
+struct ImageReport;
+}
+
 /// The application's one controller: owns the device monitor, publishes what the
 /// main window shows, and runs the two jobs (writing firmware, uploading a
 /// machine configuration) on a private background worker, one at a time.
@@ -43,12 +47,17 @@ class UpdateController : public QObject {
     Q_PROPERTY(bool jobRunning READ jobRunning NOTIFY jobRunningChanged)
 
   public:
+    /// Whether firmware images that carry the development marker may be written.
+    /// Only a program whose every device is simulated accepts them.
+    enum class DevelopmentImages { refuse, accept };
+
     /// Uses the resources beside the executable and the library's device
-    /// detection; starts polling for the device.
+    /// detection, refuses development images; starts polling for the device.
     explicit UpdateController(QObject* parent = nullptr);
     /// Uses `resources` and `detector` in their place (tests, the simulated-plotter
     /// demo); starts polling for the device.
     UpdateController(ResourceBundle resources, DeviceMonitor::Detector detector,
+                     DevelopmentImages developmentImages = DevelopmentImages::refuse,
                      QObject* parent = nullptr);
     ~UpdateController() override;
 
@@ -83,8 +92,12 @@ class UpdateController : public QObject {
     /// until its last posted step has arrived on the GUI thread.
     bool jobRunning() const { return m_jobRunning; }
 
-    /// Records the firmware file chosen in the file dialog (none when the dialog
-    /// confirmed without a location) and logs "Custom firmware: " and its name.
+    /// Takes the firmware file chosen in the file dialog after checking it as the
+    /// job will: a file that cannot be firmware leaves the choice as it was and
+    /// logs "ERROR: NAME cannot be used: REASON"; an accepted one is recorded and
+    /// logged with "Custom firmware: " and its name, then its version, project
+    /// and build date. None (the dialog confirmed without a location) clears the
+    /// choice and logs "Custom firmware: unknown".
     void chooseCustomFirmware(const std::optional<QString>& path);
 
     /// The user message for a library result code.
@@ -104,7 +117,9 @@ class UpdateController : public QObject {
     void updateFirmware();
     /// Starts an upload of a product's configuration from the resources.
     void uploadConfig(const QString& configFile, const QString& productName);
-    /// Reads a configuration file from disk and starts its upload.
+    /// Reads a configuration file from disk and starts its upload; a file that is
+    /// not a valid machine configuration (see `machineConfigProblem`) is refused
+    /// with one "ERROR: " log line and no other change.
     void uploadConfigFromFile(const QString& path);
     /// Appends a line to the log, asynchronously on the GUI thread, in call order.
     void log(const QString& line);
@@ -119,6 +134,12 @@ class UpdateController : public QObject {
 
   private:
     static QString versionSuffix(const QByteArray& configData);
+    static std::optional<QByteArray> readWhole(const QString& path, QString* failure);
+    /// Why the image must not be written here (checked against the bundled
+    /// partition table and the development-image policy); none when it may be.
+    std::optional<QString> firmwareRefusal(const image::ImageReport& report) const;
+    /// Reports a refused image as an error; any thread.
+    bool firmwareAccepted(const QByteArray& firmware);
 
     /// Queues `step` for the GUI thread; dropped when the controller is gone by then.
     static void postStep(const QPointer<UpdateController>& self,
@@ -148,6 +169,7 @@ class UpdateController : public QObject {
     void assignJobRunning(bool running);
 
     const ResourceBundle m_resources;
+    const DevelopmentImages m_developmentImages;
     DeviceMonitor* m_monitor;
     UpdateState m_state = UpdateState::idle();
     float m_progress = 0.0f;

@@ -38,10 +38,12 @@ int main(int argc, char** argv) {
     sim::PtyPlotter plotter(demoConfig());
     const std::string port = plotter.path();
     // Only the simulator's pseudo-terminal is ever offered as the device, so the
-    // development images this program carries cannot reach a real machine.
+    // development images this program carries, and accepts, cannot reach a real
+    // machine.
     DeviceMonitor::Detector detector = [port](uint16_t, uint16_t) { return strdup(port.c_str()); };
     AppDelegate delegate(
-        std::make_unique<UpdateController>(ResourceBundle::located(), std::move(detector)),
+        std::make_unique<UpdateController>(ResourceBundle::located(), std::move(detector),
+                                           UpdateController::DevelopmentImages::accept),
         AppDelegate::Options());
     delegate.applicationDidFinishLaunching();
     delegate.window()->setWindowTitle(

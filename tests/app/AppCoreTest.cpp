@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "app/BuildConfig.h"
+#include "app/MachineConfigCheck.h"
 #include "app/ResourceBundle.h"
 #include "app/UpdateController.h"
 
@@ -36,9 +37,10 @@ void AppCoreTest::developmentSetIsNeverTheShippedFirmware() {
     }
     QCOMPARE(BuildConfig::firmwareVersion(), QStringLiteral("2.10.6"));
     for (const auto& product : BuildConfig::products()) {
-        const auto version =
-            UpdateController::extractMetaVersion(dev.readConfig(product.configFile).value_or(""));
+        const QByteArray config = dev.readConfig(product.configFile).value_or("");
+        const auto version = UpdateController::extractMetaVersion(config);
         QVERIFY2(version && version->endsWith("-devset"), qPrintable(product.configFile));
+        QCOMPARE(machineConfigProblem(config).value_or("valid"), QStringLiteral("valid"));
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTemporaryDir>
 #include <QTest>
 #include <algorithm>
 #include <cstring>
@@ -13,17 +14,63 @@ inline char* toString(const UpdateState& state) {
     return QTest::toString(state.toString());
 }
 
+/// `bytes` as the file `name` in `dir`; returns its path.
+inline QString writeFile(const QTemporaryDir& dir, const QString& name, const QByteArray& bytes) {
+    QFile file(dir.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+        qFatal("cannot write %s", qPrintable(file.fileName()));
+    }
+    return file.fileName();
+}
+
+/// A firmware file the updater must refuse, and the reason it gives.
+struct RefusedFirmware {
+    QString fileName;
+    QByteArray bytes;
+    QString reason;
+};
+
+/// One file of each kind that must never be written as firmware, most of them
+/// made from the development application (whose partition holds 1,966,080 bytes).
+inline QList<RefusedFirmware> refusedFirmwares() {
+    const QByteArray application =
+        ResourceBundle(TFU_DEV_RESOURCES_DIR).read("firmware", "bin").value_or("");
+    QByteArray esp32 = application;
+    esp32[12] = 0;  // chip id
+    QByteArray damaged = application;
+    damaged[damaged.size() - 1] = char(damaged.back() ^ 1);  // inside the appended SHA-256
+    QByteArray padded = application;
+    padded.append(4 * 1024 * 1024 - application.size(), char(0xFF));
+    return {
+        {"notes.bin", "{\"name\": \"plotter\", \"pens\": 12}\n",
+         "not a firmware image (first byte 0x7B, expected 0xE9)"},
+        {"empty.bin", "", "an empty file (0 bytes)"},
+        {"padded.bin", padded,
+         "too large for the application partition (4,194,304 bytes; the partition holds "
+         "1,966,080)"},
+        {"esp32.bin", esp32,
+         "built for another chip (chip id 0, ESP32; this machine is an ESP32-S3)"},
+        {"damaged.bin", damaged, "damaged: its SHA-256 does not match"},
+    };
+}
+
 /// An UpdateController whose device detection answers the path a test plugs in,
-/// with a record of the states and status lines it published.
+/// with a record of the states and status lines it published. It accepts the
+/// development images unless told otherwise.
 class ControllerHarness : public QObject {
     // Declared first: the controller's detector shares it.
     std::shared_ptr<QByteArray> m_port = std::make_shared<QByteArray>();
 
   public:
-    explicit ControllerHarness(const QString& resourcesRoot = TFU_DEV_RESOURCES_DIR)
-        : controller(ResourceBundle(resourcesRoot), [port = m_port](uint16_t, uint16_t) -> char* {
-              return port->isEmpty() ? nullptr : strdup(port->constData());
-          }) {
+    explicit ControllerHarness(const QString& resourcesRoot = TFU_DEV_RESOURCES_DIR,
+                               UpdateController::DevelopmentImages developmentImages =
+                                   UpdateController::DevelopmentImages::accept)
+        : controller(
+              ResourceBundle(resourcesRoot),
+              [port = m_port](uint16_t, uint16_t) -> char* {
+                  return port->isEmpty() ? nullptr : strdup(port->constData());
+              },
+              developmentImages) {
         connect(&controller, &UpdateController::stateChanged, this,
                 [this](const UpdateState& state) { states.append(state); });
         connect(&controller, &UpdateController::statusMessageChanged, this,

@@ -42,6 +42,7 @@ class ControllerSimTest : public QObject {
     void fullFlashWithEraseAllEndsWithTheNote();
     void fullFlashOfCustomImageWhenTheConsoleIsSilent();
     void configurationsFromTheTableAndFromAFile();
+    void refusedImagesAndConfigurationsReachNothing();
 };
 
 void ControllerSimTest::applicationOnlyWhenTheConsoleAnswers() {
@@ -146,6 +147,57 @@ void ControllerSimTest::configurationsFromTheTableAndFromAFile() {
     QCOMPARE(harness.controller.logMessages().mid(0, 2),
              QStringList({"Preparing workshop.yml v9.9", "Uploading config file..."}));
     QVERIFY(storedConfig(plotter) == config);
+}
+
+void ControllerSimTest::refusedImagesAndConfigurationsReachNothing() {
+    sim::PtyPlotter plotter;
+    const QString port = QString::fromStdString(plotter.path());
+    ControllerHarness harness;
+    auto& controller = harness.controller;
+    QVERIFY(harness.plug(port));
+
+    // Chosen files are checked again by the job: they may have changed since.
+    QTemporaryDir dir;
+    for (const RefusedFirmware& file : refusedFirmwares()) {
+        controller.setCustomFirmwareURL(
+            QUrl::fromLocalFile(writeFile(dir, file.fileName, file.bytes)));
+        controller.updateFirmware();
+        const QString message = "Firmware image refused: " + file.reason;
+        QCOMPARE(harness.waitForOutcome(5000), std::optional(UpdateState::error(message)));
+        QCOMPARE(harness.statuses.last(), message);
+        QTRY_COMPARE(controller.logMessages(),
+                     QStringList({"Updating firmware (custom: " + file.fileName + ")…",
+                                  "ERROR: " + message}));
+        QVERIFY(harness.plug(port));
+    }
+
+    const std::pair<QString, QByteArray> configs[] = {
+        {"line 2, column 1: not valid UTF-8", "name: a\n\xff\xfe: b\n"},
+        {"line 2, column 9: not valid UTF-8", "axes:\n  x: caf\xe9\n"},  // Latin-1
+        {"line 3, column 1: end of sequence flow not found", "axes:\n  x: [1, 2\n"},
+        {"larger than 1 MiB", QByteArray(1024 * 1024 + 1, '#')},
+        {"the top level is not a mapping of settings", "- just\n- a list\n"},
+    };
+    QStringList log = controller.logMessages();  // a refused file empties nothing
+    for (const auto& [problem, bytes] : configs) {
+        controller.uploadConfigFromFile(writeFile(dir, "machine.yaml", bytes));
+        log << "ERROR: machine.yaml is not a valid machine configuration: " + problem;
+    }
+    QTRY_COMPARE(controller.logMessages(), log);
+    QTest::qWait(300);
+    QVERIFY(harness.states.count(UpdateState::ready()) == harness.states.size());
+
+    // The real program refuses the development application it would ship with.
+    ControllerHarness real(TFU_DEV_RESOURCES_DIR, UpdateController::DevelopmentImages::refuse);
+    QVERIFY(real.plug(port));
+    real.controller.updateFirmware();
+    const QString message =
+        QStringLiteral("Firmware image refused: a development image, not firmware");
+    QCOMPARE(real.waitForOutcome(5000), std::optional(UpdateState::error(message)));
+    QTRY_COMPARE(real.controller.logMessages(),
+                 QStringList({"Updating firmware v2.10.6…", "ERROR: " + message}));
+
+    plotter.inspect([](const sim::Plotter& p) { QCOMPARE(p.transcript().size(), size_t{0}); });
 }
 
 QTEST_GUILESS_MAIN(ControllerSimTest)

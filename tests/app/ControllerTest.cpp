@@ -137,16 +137,35 @@ void ControllerTest::customFirmwareChoice() {
     auto& controller = harness.controller;
     QCOMPARE(controller.firmwareLabel(), QStringLiteral("Firmware version 2.10.6"));
 
-    controller.chooseCustomFirmware(QStringLiteral("/home/user/builds/custom-2.11.bin"));
-    QCOMPARE(controller.customFirmwareURL(),
-             QUrl::fromLocalFile("/home/user/builds/custom-2.11.bin"));
-    QCOMPARE(controller.firmwareLabel(), QStringLiteral("custom-2.11.bin"));
+    const QString application = TFU_DEV_RESOURCES_DIR "/firmware.bin";
+    controller.chooseCustomFirmware(application);
+    QStringList log{"Custom firmware: firmware.bin",
+                    "Firmware image: version 0.0.0-devset, project teskal-devset, built Jan  1 "
+                    "2000 00:00:00"};
+
+    // Refused files leave the accepted choice in place.
+    QTemporaryDir dir;
+    for (const RefusedFirmware& file : refusedFirmwares()) {
+        controller.chooseCustomFirmware(writeFile(dir, file.fileName, file.bytes));
+        log << "ERROR: " + file.fileName + " cannot be used: " + file.reason;
+    }
+    controller.chooseCustomFirmware(dir.filePath("gone.bin"));
+    log << "ERROR: gone.bin cannot be used: it could not be read (No such file or directory)";
+    QTRY_COMPARE(controller.logMessages(), log);
+    QCOMPARE(controller.customFirmwareURL(), QUrl::fromLocalFile(application));
+    QCOMPARE(controller.firmwareLabel(), QStringLiteral("firmware.bin"));
 
     controller.chooseCustomFirmware(std::nullopt);
     QVERIFY(controller.customFirmwareURL().isEmpty());
     QCOMPARE(controller.firmwareLabel(), QStringLiteral("Firmware version 2.10.6"));
-    QTRY_COMPARE(controller.logMessages(),
-                 QStringList({"Custom firmware: custom-2.11.bin", "Custom firmware: unknown"}));
+    QTRY_COMPARE(controller.logMessages().last(), QStringLiteral("Custom firmware: unknown"));
+
+    ControllerHarness real(TFU_DEV_RESOURCES_DIR, UpdateController::DevelopmentImages::refuse);
+    real.controller.chooseCustomFirmware(application);
+    QTRY_COMPARE(
+        real.controller.logMessages(),
+        QStringList{"ERROR: firmware.bin cannot be used: a development image, not firmware"});
+    QVERIFY(real.controller.customFirmwareURL().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(ControllerTest)

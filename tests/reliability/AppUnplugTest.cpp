@@ -28,7 +28,8 @@ void AppUnplugTest::unplugDuringAnUpdateEndsInErrorThenIdle() {
         plotter->inspect([&](const sim::Plotter& p) { gone = p.mode() == sim::Mode::Gone; });
         return gone ? nullptr : strdup(plotter->path().c_str());
     };
-    UpdateController controller(ResourceBundle(QStringLiteral(TFU_DEV_RESOURCES_DIR)), detector);
+    UpdateController controller(ResourceBundle(QStringLiteral(TFU_DEV_RESOURCES_DIR)), detector,
+                                UpdateController::DevelopmentImages::accept);
     controller.setDetailedLogging(true);
     QList<UpdateState> states;
     connect(&controller, &UpdateController::stateChanged,

@@ -29,7 +29,8 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     AppDelegate delegate(
         std::make_unique<UpdateController>(
             ResourceBundle(QStringLiteral(TFU_DEV_RESOURCES_DIR)),
-            [port = plotter.path()](uint16_t, uint16_t) { return strdup(port.c_str()); }),
+            [port = plotter.path()](uint16_t, uint16_t) { return strdup(port.c_str()); },
+            UpdateController::DevelopmentImages::accept),
         AppDelegate::Options());
     delegate.applicationDidFinishLaunching();
     auto* view = qobject_cast<UpdaterView*>(delegate.window()->centralWidget());

@@ -1,0 +1,101 @@
+#include "app/MachineConfigCheck.h"
+
+#include <yaml-cpp/yaml.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+struct LeadByte {
+    qsizetype length;
+    char32_t bits;
+    char32_t smallest;  // below it the sequence is an overlong form
+};
+
+std::optional<LeadByte> leadByte(uint8_t lead) {
+    if ((lead & 0xE0) == 0xC0) {
+        return LeadByte{2, lead & 0x1Fu, 0x80};
+    }
+    if ((lead & 0xF0) == 0xE0) {
+        return LeadByte{3, lead & 0x0Fu, 0x800};
+    }
+    if ((lead & 0xF8) == 0xF0) {
+        return LeadByte{4, lead & 0x07u, 0x10000};
+    }
+    return std::nullopt;
+}
+
+// Length of the UTF-8 sequence that starts at `at`, or 0 when it is not a
+// well-formed one (overlong forms, surrogates and code points past U+10FFFF too).
+qsizetype sequenceLength(const QByteArray& text, qsizetype at) {
+    const auto first = static_cast<uint8_t>(text[at]);
+    if (first < 0x80) {
+        return 1;
+    }
+    const auto lead = leadByte(first);
+    if (!lead || text.size() - at < lead->length) {
+        return 0;
+    }
+    char32_t codePoint = lead->bits;
+    for (qsizetype i = 1; i < lead->length; ++i) {
+        const auto next = static_cast<uint8_t>(text[at + i]);
+        if ((next & 0xC0) != 0x80) {
+            return 0;
+        }
+        codePoint = codePoint << 6 | (next & 0x3F);
+    }
+    const bool surrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
+    return codePoint < lead->smallest || codePoint > 0x10FFFF || surrogate ? 0 : lead->length;
+}
+
+QString position(int line, int column) {
+    return QStringLiteral("line %1, column %2: ").arg(line).arg(column);
+}
+
+std::optional<QString> utf8Problem(const QByteArray& text) {
+    int line = 1;
+    int column = 1;
+    for (qsizetype at = 0; at < text.size();) {
+        const qsizetype length = sequenceLength(text, at);
+        if (length == 0) {
+            return position(line, column) + QStringLiteral("not valid UTF-8");
+        }
+        if (text[at] == '\n') {
+            ++line;
+            column = 0;
+        }
+        ++column;
+        at += length;
+    }
+    return std::nullopt;
+}
+
+std::optional<QString> yamlProblem(const QByteArray& text) {
+    std::vector<YAML::Node> documents;
+    try {
+        documents = YAML::LoadAll(text.toStdString());
+    } catch (const YAML::Exception& failure) {
+        const QString message = QString::fromStdString(failure.msg);
+        if (failure.mark.is_null()) {
+            return message;
+        }
+        return position(failure.mark.line + 1, failure.mark.column + 1) + message;
+    }
+    if (documents.empty() || !documents.front().IsMap()) {
+        return QStringLiteral("the top level is not a mapping of settings");
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<QString> machineConfigProblem(const QByteArray& bytes) {
+    if (bytes.size() > kMaxMachineConfigSize) {
+        return QStringLiteral("larger than 1 MiB");
+    }
+    if (auto problem = utf8Problem(bytes)) {
+        return problem;
+    }
+    return yamlProblem(bytes);
+}
