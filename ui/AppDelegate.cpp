@@ -9,6 +9,7 @@
 #include <QUrl>
 
 #include "app/LogExport.h"
+#include "app/SleepInhibitor.h"
 #include "app/UpdateController.h"
 #include "ui/AboutWindow.h"
 #include "ui/UpdaterView.h"
@@ -36,7 +37,12 @@ void bringToFront(QWidget* window) {
 AppDelegate::AppDelegate() : AppDelegate(std::make_unique<UpdateController>(), Options()) {}
 
 AppDelegate::AppDelegate(std::unique_ptr<UpdateController> controller, Options options)
-    : m_options(std::move(options)), m_updateController(std::move(controller)) {}
+    : m_options(std::move(options)),
+      m_updateController(std::move(controller)),
+      m_sleepInhibitor(new SleepInhibitor(QDBusConnection::systemBus(), this)) {
+    connect(m_updateController.get(), &UpdateController::jobRunningChanged, m_sleepInhibitor,
+            &SleepInhibitor::setHeld);
+}
 
 AppDelegate::~AppDelegate() {
     // The view and the About window go before the controller they observe.
@@ -52,6 +58,10 @@ void AppDelegate::applicationDidFinishLaunching() {
     m_window->setWindowTitle(QStringLiteral("Teskal Firmware Updater"));
     m_window->setCentralWidget(new UpdaterView(*m_updateController));
     m_window->layout()->setSizeConstraint(QLayout::SetFixedSize);
+    m_quitGuard = new QuitGuard(
+        m_window.get(),
+        [controller = m_updateController.get()] { return controller->jobRunning(); },
+        askToQuitDuringJob, m_options.exitNow, this);
     setupMenus();
     m_window->adjustSize();
     centreOnScreen(m_window.get());

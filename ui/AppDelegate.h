@@ -6,6 +6,7 @@
 
 #include "app/BuildConfig.h"
 #include "ui/FileChooser.h"
+#include "ui/QuitGuard.h"
 #include "ui/SaveChooser.h"
 
 class AboutWindow;
@@ -13,11 +14,14 @@ class EscapeCloser;
 class QAction;
 class QMainWindow;
 class QMenu;
+class SleepInhibitor;
 class UpdateController;
 
 /// The application shell: owns the one update controller, opens the main window
 /// with its menus, shows the About window and turns menu commands into calls on
-/// the controller. Create it after the QApplication; GUI thread only.
+/// the controller. While a job runs it keeps the computer from sleeping, and
+/// closing the window or quitting asks first (see `QuitGuard`). Create it after
+/// the QApplication; GUI thread only.
 class AppDelegate : public QObject {
     Q_OBJECT
 
@@ -30,6 +34,8 @@ class AppDelegate : public QObject {
         FileChooser chooseFile = chooseFileWithDialog;
         /// Asks where to save the log.
         SaveChooser chooseSaveFile = chooseSaveFileWithDialog;
+        /// Ends the program when the user quits anyway during a job.
+        std::function<void()> exitNow = exitAtOnce;
     };
 
     /// Owns a controller on the resources beside the executable and the real
@@ -76,4 +82,6 @@ class AppDelegate : public QObject {
     std::unique_ptr<UpdateController> m_updateController;
     std::unique_ptr<AboutWindow> m_aboutWindow;
     EscapeCloser* m_escapeCloser = nullptr;
+    QuitGuard* m_quitGuard = nullptr;
+    SleepInhibitor* m_sleepInhibitor;
 };

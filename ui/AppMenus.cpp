@@ -37,7 +37,7 @@ QMenu* AppDelegate::addApplicationMenu() {
                                      &AppDelegate::showAbout);
     about->setMenuRole(QAction::AboutRole);
     menu->addSeparator();
-    QAction* quit = menu->addAction(QStringLiteral("Quit"), qApp, &QCoreApplication::quit);
+    QAction* quit = menu->addAction(QStringLiteral("Quit"), m_quitGuard, &QuitGuard::requestQuit);
     quit->setMenuRole(QAction::QuitRole);
     setKey(quit, QKeySequence(Qt::CTRL | Qt::Key_Q));
     return menu;

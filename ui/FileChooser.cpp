@@ -1,16 +1,50 @@
 #include "ui/FileChooser.h"
 
-#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <algorithm>
 
-std::optional<QString> chooseFileWithDialog(QWidget* parent, const FileRequest& request) {
+ExtensionFileDialog::ExtensionFileDialog(QWidget* parent, const FileRequest& request)
+    : QFileDialog(parent, request.message), m_extensions(request.extensions) {
+    setOption(QFileDialog::DontUseNativeDialog);
+    setAcceptMode(QFileDialog::AcceptOpen);
+    setFileMode(QFileDialog::ExistingFile);
     QStringList patterns;
-    for (const QString& extension : request.extensions) {
+    for (const QString& extension : m_extensions) {
         patterns.append(QStringLiteral("*.") + extension);
     }
-    const QString path = QFileDialog::getOpenFileName(parent, request.message, QString(),
-                                                      patterns.join(QLatin1Char(' ')));
-    if (path.isEmpty()) {
+    setNameFilter(patterns.join(QLatin1Char(' ')));
+}
+
+QString ExtensionFileDialog::refusal() const {
+    QStringList names;
+    for (const QString& extension : m_extensions) {
+        names.append(QLatin1Char('.') + extension);
+    }
+    const QString last = names.takeLast();
+    const QString listed =
+        names.isEmpty() ? last : names.join(QStringLiteral(", ")) + QStringLiteral(" or ") + last;
+    return QStringLiteral("Choose a ") + listed + QStringLiteral(" file.");
+}
+
+void ExtensionFileDialog::accept() {
+    const QStringList files = selectedFiles();
+    // A folder name opens the folder; that is the base dialog's to do.
+    const bool refused = std::any_of(files.begin(), files.end(), [this](const QString& file) {
+        const QFileInfo info(file);
+        return !info.isDir() && !m_extensions.contains(info.suffix(), Qt::CaseInsensitive);
+    });
+    if (refused) {
+        QMessageBox::warning(this, windowTitle(), refusal());
+        return;
+    }
+    QFileDialog::accept();
+}
+
+std::optional<QString> chooseFileWithDialog(QWidget* parent, const FileRequest& request) {
+    ExtensionFileDialog dialog(parent, request);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
-    return path;
+    return dialog.selectedFiles().first();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFileDialog>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -18,5 +19,26 @@ struct FileRequest {
 /// Runs modally on the GUI thread.
 using FileChooser = std::function<std::optional<QString>(QWidget* parent, const FileRequest&)>;
 
-/// The platform's file-open dialog.
+/// A file-open dialog that takes only files with one of the request's extensions
+/// (in any letter case). A name typed with another one is refused with a short
+/// message ("Choose a .bin file.") and the dialog stays open. It is Qt's own
+/// dialog: a platform dialog closes itself before a name could be refused.
+/// GUI thread only.
+class ExtensionFileDialog : public QFileDialog {
+    Q_OBJECT
+
+  public:
+    ExtensionFileDialog(QWidget* parent, const FileRequest& request);
+
+    /// "Choose a .bin file.", "Choose a .yaml or .yml file.".
+    QString refusal() const;
+
+  public slots:
+    void accept() override;
+
+  private:
+    QStringList m_extensions;
+};
+
+/// Asks with an `ExtensionFileDialog`.
 std::optional<QString> chooseFileWithDialog(QWidget* parent, const FileRequest& request);

@@ -9,6 +9,7 @@
 #include "app/UpdateController.h"
 #include "sim/PtyPlotter.h"
 #include "ui/AppDelegate.h"
+#include "ui/SingleInstance.h"
 
 namespace {
 
@@ -35,6 +36,10 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("teskal-firmware-updater"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/teskal-firmware-updater.png")));
 
+    const auto instance = SingleInstance::claim(QStringLiteral("teskal-updater-sim"));
+    if (!instance) {
+        return EXIT_FAILURE;
+    }
     sim::PtyPlotter plotter(demoConfig());
     const std::string port = plotter.path();
     // Only the simulator's pseudo-terminal is ever offered as the device, so the

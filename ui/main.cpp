@@ -1,7 +1,9 @@
 #include <QApplication>
 #include <QIcon>
+#include <cstdlib>
 
 #include "ui/AppDelegate.h"
+#include "ui/SingleInstance.h"
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -9,6 +11,10 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("teskal-firmware-updater"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/teskal-firmware-updater.png")));
 
+    const auto instance = SingleInstance::claim(QStringLiteral("teskal-firmware-updater"));
+    if (!instance) {
+        return EXIT_FAILURE;
+    }
     AppDelegate delegate;
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();

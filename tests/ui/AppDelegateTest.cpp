@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -13,6 +14,7 @@
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
 #include "ui/LogPanel.h"
+#include "ui/SingleInstance.h"
 #include "ui/UpdaterView.h"
 
 namespace {
@@ -46,6 +48,8 @@ class AppDelegateTest : public QObject {
     void aboutWindowIsReusedAndEscapeClosesItWhileActive();
     void windowsOfferOnlyTheirButtons();
     void saveLogWritesHeaderAndLinesOrLogsWhyNot();
+    void fileDialogsTakeOnlyTheirExtensions();
+    void aSecondCopyOfAProgramFindsItLocked();
 
   private:
     void launch(QList<ProductConfig> products);
@@ -246,6 +250,63 @@ void AppDelegateTest::saveLogWritesHeaderAndLinesOrLogsWhyNot() {
     save->trigger();
     QTRY_VERIFY(
         controller.logMessages().last().startsWith(QStringLiteral("ERROR: Could not save log: ")));
+}
+
+void AppDelegateTest::fileDialogsTakeOnlyTheirExtensions() {
+    QTemporaryDir dir;
+    for (const char* name : {"machine.yml", "FIRMWARE.BIN"}) {
+        QFile file(dir.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    const struct {
+        FileRequest request;
+        QString typed;
+        QString refusal;
+        QString taken;
+    } rows[] = {
+        {{"Select a firmware binary (.bin)", {"bin"}},
+         "machine.yml",
+         "Choose a .bin file.",
+         "FIRMWARE.BIN"},
+        {{"Select a configuration file (.yaml)", {"yaml", "yml"}},
+         "FIRMWARE.BIN",
+         "Choose a .yaml or .yml file.",
+         "machine.yml"},
+    };
+    for (const auto& row : rows) {
+        ExtensionFileDialog dialog(m_delegate->window(), row.request);
+        dialog.setDirectory(dir.path());
+        dialog.open();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+        QVERIFY(name != nullptr);
+        name->setFocus();  // as a user typing there; it then replaces the file list's selection
+        QTRY_VERIFY(name->hasFocus());
+        QTest::keyClicks(name, row.typed);
+        QStringList asked;
+        answerNextMessageBox("Escape", &asked);
+        dialog.accept();
+        QCOMPARE(asked.size(), 1);
+        QCOMPARE(asked.first().section('|', 0, 0), row.refusal);
+        QVERIFY(dialog.isVisible());
+
+        name->selectAll();  // typed over
+        QTest::keyClicks(name, row.taken);
+        dialog.accept();
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(dialog.selectedFiles(), QStringList{dir.filePath(row.taken)});
+    }
+}
+
+void AppDelegateTest::aSecondCopyOfAProgramFindsItLocked() {
+    QTemporaryDir runtime;
+    qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
+    auto first = SingleInstance::tryLock("teskal-firmware-updater");
+    QVERIFY(first);
+    QVERIFY(!SingleInstance::tryLock("teskal-firmware-updater"));
+    QVERIFY(SingleInstance::tryLock("teskal-updater-sim"));  // another program
+    first.reset();
+    QVERIFY(SingleInstance::tryLock("teskal-firmware-updater"));
 }
 
 QTEST_MAIN(AppDelegateTest)

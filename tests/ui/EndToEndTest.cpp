@@ -7,6 +7,7 @@
 #include <QTest>
 #include <cstring>
 
+#include "UiTestSupport.h"
 #include "app/BuildConfig.h"
 #include "app/UpdateController.h"
 #include "sim/PtyPlotter.h"
@@ -15,8 +16,22 @@
 #include "ui/LogView.h"
 #include "ui/UpdaterView.h"
 
+namespace {
+
+QAction* menuItem(const AppDelegate& delegate, const QString& title) {
+    for (QAction* item : delegate.window()->menuBar()->findChildren<QAction*>()) {
+        if (item->text() == title) {
+            return item;
+        }
+    }
+    qFatal("no menu item %s", qPrintable(title));
+}
+
+}  // namespace
+
 // The whole program against the simulated plotter on a pseudo-terminal: the update
-// button (clicked twice) and a product's menu item each run their job to the end.
+// button (clicked twice) and a product's menu item each run their job to the end;
+// closing or quitting while the update runs asks first.
 class EndToEndTest : public QObject {
     Q_OBJECT
 
@@ -26,12 +41,15 @@ class EndToEndTest : public QObject {
 
 void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     sim::PtyPlotter plotter;
+    int exits = 0;
+    AppDelegate::Options options;
+    options.exitNow = [&exits] { ++exits; };
     AppDelegate delegate(
         std::make_unique<UpdateController>(
             ResourceBundle(QStringLiteral(TFU_DEV_RESOURCES_DIR)),
             [port = plotter.path()](uint16_t, uint16_t) { return strdup(port.c_str()); },
             UpdateController::DevelopmentImages::accept),
-        AppDelegate::Options());
+        std::move(options));
     delegate.applicationDidFinishLaunching();
     auto* view = qobject_cast<UpdaterView*>(delegate.window()->centralWidget());
     const QStringList& log = view->logPanel()->view()->lines();
@@ -50,6 +68,23 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     // A double click: the second arrives before the job has left "ready".
     QTest::mouseClick(view->updateButton(), Qt::LeftButton);
     QTest::mouseClick(view->updateButton(), Qt::LeftButton);
+
+    // The job has at least its probe and the port's settling time ahead of it.
+    QStringList asked;
+    answerNextMessageBox("Escape", &asked);
+    QVERIFY(!delegate.window()->close());
+    answerNextMessageBox("Keep Running", &asked);
+    menuItem(delegate, "Quit")->trigger();
+    QCOMPARE(exits, 0);
+    answerNextMessageBox("Quit Anyway", &asked);
+    menuItem(delegate, "Quit")->trigger();
+    QCOMPARE(exits, 1);
+    const QString question = QStringLiteral(
+        "An update is running. Quitting now can leave the machine unable to start. Quit "
+        "anyway?|Keep Running|Quit Anyway|default Keep Running");
+    QCOMPARE(asked, QStringList(3, question));
+    QVERIFY(delegate.window()->isVisible());
+
     QTRY_VERIFY_WITH_TIMEOUT(log.contains(QStringLiteral("Firmware update complete.")), 60000);
     QVERIFY(barShown && buttonHeldDisabled);
     QCOMPARE(log.filter(QStringLiteral("ERROR:")), QStringList());
@@ -58,14 +93,17 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     QCOMPARE(view->portLabel()->text(), "(" + QString::fromStdString(plotter.path()) + ")");
 
     const ProductConfig& product = BuildConfig::products().first();
-    for (QAction* item : delegate.window()->menuBar()->findChildren<QAction*>()) {
-        if (item->text() == product.name) {
-            item->trigger();
-        }
-    }
+    menuItem(delegate, product.name)->trigger();
     QTRY_VERIFY_WITH_TIMEOUT(log.contains(QStringLiteral("Upload successful; restarting machine.")),
                              60000);
     QVERIFY(log.first().startsWith(QStringLiteral("Preparing ") + product.name + " config"));
+
+    // With no job running the window closes without a question.
+    QTRY_VERIFY(!delegate.updateController().jobRunning());
+    answerNextMessageBox("Keep Running", &asked);
+    QVERIFY(delegate.window()->close());
+    QTest::qWait(10);
+    QCOMPARE(asked.last(), QStringLiteral("none"));
 }
 
 QTEST_MAIN(EndToEndTest)

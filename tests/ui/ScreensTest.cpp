@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QMainWindow>
+#include <QMessageBox>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTemporaryDir>
@@ -13,6 +14,7 @@
 #include "ui/Fonts.h"
 #include "ui/LogPanel.h"
 #include "ui/LogView.h"
+#include "ui/QuitGuard.h"
 #include "ui/UpdaterView.h"
 
 // Renders the windows in their characteristic states to PNG files in the folder
@@ -24,6 +26,7 @@ class ScreensTest : public QObject {
   private slots:
     void initTestCase();
     void mainWindowStates();
+    void refusedFirmwareAndQuitQuestion();
     void aboutWindow();
 
   private:
@@ -93,6 +96,27 @@ void ScreensTest::mainWindowStates() {
         view->showLog(log << QStringLiteral("FLASH_DATA block %1 of 500").arg(i + 1));
     }
     save(window, QStringLiteral("main-long-log"));
+}
+
+void ScreensTest::refusedFirmwareAndQuitQuestion() {
+    QTemporaryDir files;
+    QFile notes(files.filePath(QStringLiteral("notes.bin")));
+    QVERIFY(notes.open(QIODevice::WriteOnly) && notes.write("{\"name\": \"plotter\"}\n") > 0);
+    notes.close();
+    AppDelegate delegate(std::make_unique<UpdateController>(ResourceBundle(files.path()), noDevice),
+                         AppDelegate::Options());
+    delegate.applicationDidFinishLaunching();
+    QMainWindow* window = delegate.window();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    delegate.updateController().chooseCustomFirmware(notes.fileName());
+    const auto* view = qobject_cast<UpdaterView*>(window->centralWidget());
+    QTRY_COMPARE(view->logPanel()->view()->lines().size(), 1);
+    save(window, QStringLiteral("main-refused-firmware"));
+
+    const auto question = quitDuringJobQuestion(window);
+    question->show();
+    QVERIFY(QTest::qWaitForWindowExposed(question.get()));
+    save(question.get(), QStringLiteral("quit-question"));
 }
 
 void ScreensTest::aboutWindow() {

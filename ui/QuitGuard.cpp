@@ -1,0 +1,65 @@
+#include "ui/QuitGuard.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <cstdlib>
+
+std::unique_ptr<QMessageBox> quitDuringJobQuestion(QWidget* parent) {
+    auto question = std::make_unique<QMessageBox>(
+        QMessageBox::Warning, QStringLiteral("Teskal Firmware Updater"),
+        QStringLiteral("An update is running. Quitting now can leave the machine unable to "
+                       "start. Quit anyway?"),
+        QMessageBox::NoButton, parent);
+    QPushButton* keep =
+        question->addButton(QStringLiteral("Keep Running"), QMessageBox::RejectRole);
+    question->addButton(QStringLiteral("Quit Anyway"), QMessageBox::DestructiveRole);
+    question->setDefaultButton(keep);
+    question->setEscapeButton(keep);
+    return question;
+}
+
+bool askToQuitDuringJob(QWidget* parent) {
+    const auto question = quitDuringJobQuestion(parent);
+    question->exec();
+    return question->buttonRole(question->clickedButton()) == QMessageBox::DestructiveRole;
+}
+
+void exitAtOnce() {
+    std::_Exit(EXIT_SUCCESS);
+}
+
+QuitGuard::QuitGuard(QWidget* window, std::function<bool()> jobRunning, Question askToQuit,
+                     std::function<void()> exitNow, QObject* parent)
+    : QObject(parent),
+      m_window(window),
+      m_jobRunning(std::move(jobRunning)),
+      m_askToQuit(std::move(askToQuit)),
+      m_exitNow(std::move(exitNow)) {
+    window->installEventFilter(this);
+}
+
+void QuitGuard::requestQuit() {
+    if (mayEnd()) {
+        QCoreApplication::quit();
+    }
+}
+
+bool QuitGuard::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_window && event->type() == QEvent::Close && !mayEnd()) {
+        event->ignore();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool QuitGuard::mayEnd() {
+    if (!m_jobRunning()) {
+        return true;
+    }
+    if (m_askToQuit(m_window)) {
+        m_exitNow();
+    }
+    return false;
+}
