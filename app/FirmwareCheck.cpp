@@ -39,12 +39,25 @@ std::optional<QString> UpdateController::firmwareRefusal(const image::ImageRepor
     return QString::fromStdString(*refusal);
 }
 
-bool UpdateController::firmwareAccepted(const QByteArray& firmware) {
-    const auto refusal = firmwareRefusal(inspect(firmware));
-    if (refusal) {
+bool UpdateController::imagesAccepted(const QByteArray& firmware) {
+    if (const auto refusal = firmwareRefusal(inspect(firmware))) {
         logError(QStringLiteral("Firmware image refused: ") + *refusal);
+        return false;
     }
-    return !refusal;
+    if (m_developmentImages == DevelopmentImages::accept) {
+        return true;
+    }
+    const QByteArray marker =
+        QByteArray::fromRawData(image::kDevelopmentMarker.data(), image::kDevelopmentMarker.size());
+    for (const char* name : {"bootloader", "partitions", "boot_app0", "esp32s3_stub"}) {
+        const auto bundled = m_resources.read(QString::fromLatin1(name), QStringLiteral("bin"));
+        if (bundled && bundled->contains(marker)) {
+            logError(QStringLiteral("Bundled %1.bin refused: a development image, not firmware")
+                         .arg(QLatin1String(name)));
+            return false;
+        }
+    }
+    return true;
 }
 
 void UpdateController::chooseCustomFirmware(const std::optional<QString>& path) {

@@ -33,7 +33,7 @@ void UpdateController::performFlash(const QString& port) {
     // Checked before the version probe opens the port: a refused image reaches
     // nothing. A custom file is checked again, as it may have changed since it
     // was chosen.
-    if (!firmware || !firmwareAccepted(*firmware)) {
+    if (!firmware || !imagesAccepted(*firmware)) {
         return;
     }
     // One reading of the flag serves the whole job: erasing the chip and then

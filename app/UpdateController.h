@@ -138,8 +138,9 @@ class UpdateController : public QObject {
     /// Why the image must not be written here (checked against the bundled
     /// partition table and the development-image policy); none when it may be.
     std::optional<QString> firmwareRefusal(const image::ImageReport& report) const;
-    /// Reports a refused image as an error; any thread.
-    bool firmwareAccepted(const QByteArray& firmware);
+    /// Checks the firmware and, where development images are refused, that no
+    /// other bundled image is one; reports a refusal as an error. Any thread.
+    bool imagesAccepted(const QByteArray& firmware);
 
     /// Queues `step` for the GUI thread; dropped when the controller is gone by then.
     static void postStep(const QPointer<UpdateController>& self,

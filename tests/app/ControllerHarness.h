@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCryptographicHash>
 #include <QTemporaryDir>
 #include <QTest>
 #include <algorithm>
@@ -52,6 +53,24 @@ inline QList<RefusedFirmware> refusedFirmwares() {
          "built for another chip (chip id 0, ESP32; this machine is an ESP32-S3)"},
         {"damaged.bin", damaged, "damaged: its SHA-256 does not match"},
     };
+}
+
+/// The development application made into one the real program takes: each marker
+/// text overwritten with another of its length, the checksum byte (right before
+/// the appended SHA-256) and the SHA-256 made to match again.
+inline QByteArray unmarkedApplication() {
+    QByteArray image = ResourceBundle(TFU_DEV_RESOURCES_DIR).read("firmware", "bin").value_or("");
+    const QByteArray marker("TESKAL DEVELOPMENT IMAGE - NOT FIRMWARE");
+    const QByteArray other("TESKAL TEST APPLICATION - NOT FIRMWARE!");
+    const qsizetype checksumAt = image.size() - 33;
+    for (qsizetype at = image.indexOf(marker); at >= 0; at = image.indexOf(marker, at)) {
+        for (qsizetype i = 0; i < marker.size(); ++i) {
+            image[checksumAt] = char(image[checksumAt] ^ marker[i] ^ other[i]);
+        }
+        image.replace(at, marker.size(), other);
+    }
+    const QByteArray hashed = image.left(image.size() - 32);
+    return hashed + QCryptographicHash::hash(hashed, QCryptographicHash::Sha256);
 }
 
 /// An UpdateController whose device detection answers the path a test plugs in,

@@ -166,7 +166,7 @@ void ControllerSimTest::refusedImagesAndConfigurationsReachNothing() {
         QCOMPARE(harness.waitForOutcome(5000), std::optional(UpdateState::error(message)));
         QCOMPARE(harness.statuses.last(), message);
         QTRY_COMPARE(controller.logMessages(),
-                     QStringList({"Updating firmware (custom: " + file.fileName + ")…",
+                     QStringList({"Updating firmware (custom: " + file.fileName + ")\u2026",
                                   "ERROR: " + message}));
         QVERIFY(harness.plug(port));
     }
@@ -187,15 +187,24 @@ void ControllerSimTest::refusedImagesAndConfigurationsReachNothing() {
     QTest::qWait(300);
     QVERIFY(harness.states.count(UpdateState::ready()) == harness.states.size());
 
-    // The real program refuses the development application it would ship with.
+    // The real program refuses the development set's application, and with a
+    // chosen application the development set's boot images.
     ControllerHarness real(TFU_DEV_RESOURCES_DIR, UpdateController::DevelopmentImages::refuse);
-    QVERIFY(real.plug(port));
-    real.controller.updateFirmware();
-    const QString message =
-        QStringLiteral("Firmware image refused: a development image, not firmware");
-    QCOMPARE(real.waitForOutcome(5000), std::optional(UpdateState::error(message)));
-    QTRY_COMPARE(real.controller.logMessages(),
-                 QStringList({"Updating firmware v2.10.6…", "ERROR: " + message}));
+    for (const bool custom : {false, true}) {
+        if (custom) {
+            real.controller.setCustomFirmwareURL(
+                QUrl::fromLocalFile(writeFile(dir, "unmarked.bin", unmarkedApplication())));
+        }
+        QVERIFY(real.plug(port));
+        real.controller.updateFirmware();
+        const QString message =
+            custom ? QStringLiteral(
+                         "Bundled bootloader.bin refused: a development image, not firmware")
+                   : QStringLiteral("Firmware image refused: a development image, not firmware");
+        QCOMPARE(real.waitForOutcome(5000), std::optional(UpdateState::error(message)));
+        QTRY_COMPARE(real.controller.logMessages().last(), "ERROR: " + message);
+        QCOMPARE(real.controller.logMessages().size(), 2);
+    }
 
     plotter.inspect([](const sim::Plotter& p) { QCOMPARE(p.transcript().size(), size_t{0}); });
 }

@@ -162,10 +162,13 @@ void ControllerTest::customFirmwareChoice() {
 
     ControllerHarness real(TFU_DEV_RESOURCES_DIR, UpdateController::DevelopmentImages::refuse);
     real.controller.chooseCustomFirmware(application);
+    const QString unmarked = writeFile(dir, "unmarked.bin", unmarkedApplication());
+    real.controller.chooseCustomFirmware(unmarked);
     QTRY_COMPARE(
         real.controller.logMessages(),
-        QStringList{"ERROR: firmware.bin cannot be used: a development image, not firmware"});
-    QVERIFY(real.controller.customFirmwareURL().isEmpty());
+        QStringList({"ERROR: firmware.bin cannot be used: a development image, not firmware",
+                     "Custom firmware: unmarked.bin", log[1]}));
+    QCOMPARE(real.controller.customFirmwareURL(), QUrl::fromLocalFile(unmarked));
 }
 
 QTEST_GUILESS_MAIN(ControllerTest)
