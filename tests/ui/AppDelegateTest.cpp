@@ -258,12 +258,8 @@ void AppDelegateTest::fileDialogsTakeOnlyTheirExtensions() {
         QFile file(dir.filePath(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
     }
-    const struct {
-        FileRequest request;
-        QString typed;
-        QString refusal;
-        QString taken;
-    } rows[] = {
+    // The request, a name it refuses with its message, a name it takes.
+    const std::tuple<FileRequest, QString, QString, QString> rows[] = {
         {{"Select a firmware binary (.bin)", {"bin"}},
          "machine.yml",
          "Choose a .bin file.",
@@ -273,8 +269,8 @@ void AppDelegateTest::fileDialogsTakeOnlyTheirExtensions() {
          "Choose a .yaml or .yml file.",
          "machine.yml"},
     };
-    for (const auto& row : rows) {
-        ExtensionFileDialog dialog(m_delegate->window(), row.request);
+    for (const auto& [request, typed, refusal, taken] : rows) {
+        ExtensionFileDialog dialog(m_delegate->window(), request);
         dialog.setDirectory(dir.path());
         dialog.open();
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
@@ -282,19 +278,19 @@ void AppDelegateTest::fileDialogsTakeOnlyTheirExtensions() {
         QVERIFY(name != nullptr);
         name->setFocus();  // as a user typing there; it then replaces the file list's selection
         QTRY_VERIFY(name->hasFocus());
-        QTest::keyClicks(name, row.typed);
+        QTest::keyClicks(name, typed);
         QStringList asked;
         answerNextMessageBox("Escape", &asked);
         dialog.accept();
         QCOMPARE(asked.size(), 1);
-        QCOMPARE(asked.first().section('|', 0, 0), row.refusal);
+        QCOMPARE(asked.first().section('|', 0, 0), refusal);
         QVERIFY(dialog.isVisible());
 
         name->selectAll();  // typed over
-        QTest::keyClicks(name, row.taken);
+        QTest::keyClicks(name, taken);
         dialog.accept();
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
-        QCOMPARE(dialog.selectedFiles(), QStringList{dir.filePath(row.taken)});
+        QCOMPARE(dialog.selectedFiles(), QStringList{dir.filePath(taken)});
     }
 }
 
