@@ -1,9 +1,10 @@
 #include "app/MachineConfigCheck.h"
 
+#include <yaml-cpp/eventhandler.h>
 #include <yaml-cpp/yaml.h>
 
+#include <sstream>
 #include <string>
-#include <vector>
 
 namespace {
 
@@ -71,10 +72,70 @@ std::optional<QString> utf8Problem(const QByteArray& text) {
     return std::nullopt;
 }
 
+// Follows the parser's events: the kind of the first document's top level, and
+// whether the parser still moves on. yaml-cpp 0.7 meets some tokens it cannot
+// take at the top level (a leading ',' for one) by starting document after
+// document there, without end.
+class DocumentOutline : public YAML::EventHandler {
+  public:
+    bool firstIsMapping() const { return m_firstIsMapping.value_or(false); }
+    /// Where the parser stopped moving on, if it did.
+    const std::optional<YAML::Mark>& stalledAt() const { return m_stalledAt; }
+
+    void OnDocumentStart(const YAML::Mark& mark) override {
+        if (m_lastStart && m_lastStart->pos == mark.pos) {
+            m_stalledAt = mark;
+        }
+        m_lastStart = mark;
+    }
+    void OnDocumentEnd() override {}
+    void OnNull(const YAML::Mark&, YAML::anchor_t) override { node(false); }
+    void OnAlias(const YAML::Mark&, YAML::anchor_t) override { node(false); }
+    void OnScalar(const YAML::Mark&, const std::string&, YAML::anchor_t,
+                  const std::string&) override {
+        node(false);
+    }
+    void OnSequenceStart(const YAML::Mark&, const std::string&, YAML::anchor_t,
+                         YAML::EmitterStyle::value) override {
+        node(false);
+    }
+    void OnSequenceEnd() override {}
+    void OnMapStart(const YAML::Mark&, const std::string&, YAML::anchor_t,
+                    YAML::EmitterStyle::value) override {
+        node(true);
+    }
+    void OnMapEnd() override {}
+
+  private:
+    // The first node of the stream is the first document's top level.
+    void node(bool mapping) {
+        if (!m_firstIsMapping) {
+            m_firstIsMapping = mapping;
+        }
+    }
+
+    std::optional<bool> m_firstIsMapping;
+    std::optional<YAML::Mark> m_lastStart;
+    std::optional<YAML::Mark> m_stalledAt;
+};
+
+QString unexpected(const QByteArray& text, const YAML::Mark& mark) {
+    const char c = mark.pos >= 0 && mark.pos < text.size() ? text[mark.pos] : '\0';
+    const QString what = c > ' ' && c < 0x7F ? QStringLiteral("'") + QChar::fromLatin1(c) + '\''
+                                             : QStringLiteral("text");
+    return position(mark.line + 1, mark.column + 1) + QStringLiteral("unexpected ") + what;
+}
+
 std::optional<QString> yamlProblem(const QByteArray& text) {
-    std::vector<YAML::Node> documents;
+    std::istringstream stream(text.toStdString());
+    YAML::Parser parser(stream);
+    DocumentOutline outline;
     try {
-        documents = YAML::LoadAll(text.toStdString());
+        while (parser.HandleNextDocument(outline)) {
+            if (const auto& stalled = outline.stalledAt()) {
+                return unexpected(text, *stalled);
+            }
+        }
     } catch (const YAML::Exception& failure) {
         const QString message = QString::fromStdString(failure.msg);
         if (failure.mark.is_null()) {
@@ -82,7 +143,7 @@ std::optional<QString> yamlProblem(const QByteArray& text) {
         }
         return position(failure.mark.line + 1, failure.mark.column + 1) + message;
     }
-    if (documents.empty() || !documents.front().IsMap()) {
+    if (!outline.firstIsMapping()) {
         return QStringLiteral("the top level is not a mapping of settings");
     }
     return std::nullopt;

@@ -175,6 +175,7 @@ void ControllerSimTest::refusedImagesAndConfigurationsReachNothing() {
         {"line 2, column 1: not valid UTF-8", "name: a\n\xff\xfe: b\n"},
         {"line 2, column 9: not valid UTF-8", "axes:\n  x: caf\xe9\n"},  // Latin-1
         {"line 3, column 1: end of sequence flow not found", "axes:\n  x: [1, 2\n"},
+        {"line 1, column 1: unexpected ','", ",a: 1\n"},  // the parser would start over and over
         {"larger than 1 MiB", QByteArray(1024 * 1024 + 1, '#')},
         {"the top level is not a mapping of settings", "- just\n- a list\n"},
     };
