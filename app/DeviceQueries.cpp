@@ -17,4 +17,17 @@ std::optional<QString> firmwareVersion(const QString& port) {
     return UserText::cleanFirmwareVersion(QString::fromUtf8(reply.get()));
 }
 
+PartitionTable partitionTable(const QString& port, const QByteArray& stub) {
+    switch (esp_probe_partition_table(port.toUtf8().constData(),
+                                      reinterpret_cast<const uint8_t*>(stub.constData()),
+                                      static_cast<size_t>(stub.size()))) {
+        case 1:
+            return PartitionTable::present;
+        case 0:
+            return PartitionTable::absent;
+        default:
+            return PartitionTable::unreadable;
+    }
+}
+
 }  // namespace DeviceQueries

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <optional>
 
@@ -10,5 +11,12 @@ namespace DeviceQueries {
 /// The version the running firmware reports, cleaned as the window shows it
 /// ("v3.7.8"); none when it does not answer.
 std::optional<QString> firmwareVersion(const QString& port);
+
+enum class PartitionTable { present, absent, unreadable };
+
+/// Whether the machine's flash holds a partition table with an application at
+/// 0x10000, read through the ROM loader with the flasher stub `stub`;
+/// `unreadable` when the loader or the stub does not answer.
+PartitionTable partitionTable(const QString& port, const QByteArray& stub);
 
 }  // namespace DeviceQueries

@@ -39,25 +39,39 @@ std::optional<QString> firmwareRefusal(const image::ImageReport& report,
     return QString::fromStdString(*refusal);
 }
 
+std::optional<QString> bundledImageRefusal(const ResourceBundle& resources, const QString& name,
+                                           DevelopmentImages developmentImages) {
+    if (developmentImages == DevelopmentImages::accept) {
+        return std::nullopt;
+    }
+    const QByteArray marker =
+        QByteArray::fromRawData(image::kDevelopmentMarker.data(), image::kDevelopmentMarker.size());
+    const auto bundled = resources.read(name, QStringLiteral("bin"));
+    if (bundled && bundled->contains(marker)) {
+        return QStringLiteral("Bundled %1.bin refused: a development image, not firmware")
+            .arg(name);
+    }
+    return std::nullopt;
+}
+
+std::optional<QString> bundledImagesRefusal(const ResourceBundle& resources,
+                                            DevelopmentImages developmentImages) {
+    for (const char* name : {"bootloader", "partitions", "boot_app0", "esp32s3_stub"}) {
+        if (auto refusal =
+                bundledImageRefusal(resources, QString::fromLatin1(name), developmentImages)) {
+            return refusal;
+        }
+    }
+    return std::nullopt;
+}
+
 std::optional<QString> imagesRefusal(const QByteArray& firmware, const ResourceBundle& resources,
                                      DevelopmentImages developmentImages) {
     if (const auto refusal =
             firmwareRefusal(inspectFirmware(firmware), resources, developmentImages)) {
         return QStringLiteral("Firmware image refused: ") + *refusal;
     }
-    if (developmentImages == DevelopmentImages::accept) {
-        return std::nullopt;
-    }
-    const QByteArray marker =
-        QByteArray::fromRawData(image::kDevelopmentMarker.data(), image::kDevelopmentMarker.size());
-    for (const char* name : {"bootloader", "partitions", "boot_app0", "esp32s3_stub"}) {
-        const auto bundled = resources.read(QString::fromLatin1(name), QStringLiteral("bin"));
-        if (bundled && bundled->contains(marker)) {
-            return QStringLiteral("Bundled %1.bin refused: a development image, not firmware")
-                .arg(QLatin1String(name));
-        }
-    }
-    return std::nullopt;
+    return bundledImagesRefusal(resources, developmentImages);
 }
 
 QString describeFirmware(const image::AppDescription& app) {

@@ -26,9 +26,19 @@ std::optional<QString> firmwareRefusal(const image::ImageReport& report,
                                        const ResourceBundle& resources,
                                        DevelopmentImages developmentImages);
 
-/// Checks `firmware` and, where development images are refused, that no other
-/// image of `resources` is one. The user message of a refusal ("Firmware image
-/// refused: REASON", "Bundled NAME.bin refused: ..."), or none. Any thread.
+/// Where development images are refused and the image `name` (.bin) of
+/// `resources` is one, the user message "Bundled NAME.bin refused: a development
+/// image, not firmware"; none otherwise. Any thread.
+std::optional<QString> bundledImageRefusal(const ResourceBundle& resources, const QString& name,
+                                           DevelopmentImages developmentImages);
+
+/// `bundledImageRefusal` of the first boot or stub image that is refused.
+std::optional<QString> bundledImagesRefusal(const ResourceBundle& resources,
+                                            DevelopmentImages developmentImages);
+
+/// Checks `firmware`, then the other images with `bundledImagesRefusal`. The
+/// user message of a refusal ("Firmware image refused: REASON", "Bundled
+/// NAME.bin refused: ..."), or none. Any thread.
 std::optional<QString> imagesRefusal(const QByteArray& firmware, const ResourceBundle& resources,
                                      DevelopmentImages developmentImages);
 

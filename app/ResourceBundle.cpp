@@ -22,19 +22,20 @@ std::optional<QByteArray> readWholeFile(const QString& path, QString* failure) {
     return file.readAll();
 }
 
-ResourceBundle ResourceBundle::forExecutableDir(const QString& executableDir) {
+ResourceBundle ResourceBundle::forExecutableDir(const QString& executableDir,
+                                                const QString& folderName) {
     const QDir dir(executableDir);
-    const QString beside = dir.filePath(QStringLiteral("resources"));
+    const QString beside = dir.filePath(folderName);
     if (QFileInfo(beside).isDir()) {
         return ResourceBundle(beside);
     }
-    const QString installed =
-        QDir::cleanPath(dir.filePath(QStringLiteral("../") + QLatin1String(kInstalledPath)));
+    const QString installed = QDir::cleanPath(dir.filePath(
+        QStringLiteral("../") + QLatin1String(kInstalledPath) + QLatin1Char('/') + folderName));
     return ResourceBundle(QFileInfo(installed).isDir() ? installed : beside);
 }
 
-ResourceBundle ResourceBundle::located() {
-    return forExecutableDir(QCoreApplication::applicationDirPath());
+ResourceBundle ResourceBundle::located(const QString& folderName) {
+    return forExecutableDir(QCoreApplication::applicationDirPath(), folderName);
 }
 
 std::optional<QString> ResourceBundle::path(const QString& name, const QString& extension,

@@ -18,17 +18,21 @@ std::optional<QByteArray> readWholeFile(const QString& path, QString* failure);
 /// An immutable value; safe to read from any thread.
 class ResourceBundle {
   public:
-    /// The folder name below the installation prefix.
-    static constexpr const char* kInstalledPath = "share/teskal-firmware-updater/resources";
+    /// The folder that holds the installed resource folders, below the prefix.
+    static constexpr const char* kInstalledPath = "share/teskal-firmware-updater";
+    /// The name of the folder of the program's own resource set.
+    static constexpr const char* kFolderName = "resources";
 
     explicit ResourceBundle(QString root) : m_root(std::move(root)) {}
 
-    /// The folder for an executable in `executableDir`: "resources" beside it when
-    /// that exists (build tree), else the installed folder one level up. When
-    /// neither exists the first is used, so every lookup reports a missing file.
-    static ResourceBundle forExecutableDir(const QString& executableDir);
+    /// The folder `folderName` for an executable in `executableDir`: beside it
+    /// when that exists (build tree), else the installed folder one level up.
+    /// When neither exists the first is used, so every lookup reports a missing
+    /// file.
+    static ResourceBundle forExecutableDir(const QString& executableDir,
+                                           const QString& folderName = kFolderName);
     /// `forExecutableDir` of the running program; needs a QCoreApplication.
-    static ResourceBundle located();
+    static ResourceBundle located(const QString& folderName = kFolderName);
 
     const QString& root() const { return m_root; }
 

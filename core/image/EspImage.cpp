@@ -108,6 +108,7 @@ uint8_t checksumOf(const uint8_t* data, const std::vector<Segment>& segments) {
 ImageReport inspectImage(const uint8_t* data, size_t size) {
     ImageReport report;
     report.size = size;
+    report.fileSha256 = detail::sha256(data, data == nullptr ? 0 : size);
     if (size == 0 || data == nullptr) {
         report.layoutFault = "an empty file (0 bytes)";
         return report;

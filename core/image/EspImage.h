@@ -40,6 +40,8 @@ struct AppDescription {
 /// What an image holds, read as far as its layout allows.
 struct ImageReport {
     size_t size = 0;  ///< bytes in the file
+    /// Of the whole file, as a checksum listing shows it.
+    std::array<uint8_t, 32> fileSha256{};
     /// The first fault of the layout in plain words: empty file, wrong first
     /// byte, or a header, segment, checksum or hash that is cut off. Empty when
     /// all of them lie within the file; only then are the fields below complete.
