@@ -1,0 +1,12 @@
+#include "cli/Commands.h"
+
+std::vector<std::unique_ptr<Command>> makeCommands() {
+    std::vector<std::unique_ptr<Command>> commands;
+    commands.push_back(makeDetectCommand());
+    commands.push_back(makeVersionCommand());
+    commands.push_back(makeFlashCommand());
+    commands.push_back(makeUploadConfigCommand());
+    commands.push_back(makeProbeCommand());
+    commands.push_back(makeInspectCommand());
+    return commands;
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "cli/Command.h"
+
+std::unique_ptr<Command> makeDetectCommand();
+std::unique_ptr<Command> makeVersionCommand();
+std::unique_ptr<Command> makeFlashCommand();
+std::unique_ptr<Command> makeUploadConfigCommand();
+std::unique_ptr<Command> makeProbeCommand();
+std::unique_ptr<Command> makeInspectCommand();
+
+/// Every subcommand, in the order --help lists them.
+std::vector<std::unique_ptr<Command>> makeCommands();

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+
+#include "cli/Event.h"
+#include "cli/Reporter.h"
+
+/// One compact JSON object for `event`, without a line break: {"type":"log",
+/// "line":…}, {"type":"progress","fraction":…,"stage":…,"bytes":…} or
+/// {"type":"result","code":…,"message":…}, with "port" when `port` is not empty.
+/// An error is the log line the window shows for it, "ERROR: " and the message.
+QByteArray toJsonLine(const QString& port, const Event& event);
+
+/// The event of one such line; none for anything else.
+std::optional<Event> eventFromJsonLine(const QByteArray& line);
+
+/// Prints every event as one JSON line on standard output; notices go to
+/// standard error as plain text.
+class JsonReporter : public Reporter {
+  public:
+    /// With `withPorts`, every object carries "port".
+    explicit JsonReporter(bool withPorts) : withPorts_(withPorts) {}
+
+    void report(const QString& port, const Event& event) override;
+    void notice(const QString& text) override;
+
+  private:
+    bool withPorts_;
+};

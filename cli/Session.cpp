@@ -1,0 +1,146 @@
+#include "cli/Session.h"
+
+#include <unistd.h>
+
+#include <QEventLoop>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+#include "app/UserText.h"
+#include "cli/Fleet.h"
+#include "cli/Interrupts.h"
+#include "cli/Json.h"
+#include "cli/LocalRun.h"
+#include "cli/Plotters.h"
+#include "cli/TextReporter.h"
+
+namespace {
+
+const QString kDevelopmentFolder = QStringLiteral("resources-dev");
+
+std::unique_ptr<Reporter> makeReporter(const CommonOptions& options, bool several) {
+    if (options.json) {
+        return std::make_unique<JsonReporter>(several);
+    }
+    TextReporter::Style style;
+    style.terminal = ::isatty(STDOUT_FILENO) == 1;
+    style.withPorts = several;
+    style.showLog = !several || options.verbose;
+    return std::make_unique<TextReporter>(style);
+}
+
+ResourceBundle resourcesFor(const CommonOptions& options) {
+    if (!options.resources.empty()) {
+        return ResourceBundle(QString::fromStdString(options.resources));
+    }
+    return options.simulated > 0 ? ResourceBundle::located(kDevelopmentFolder)
+                                 : ResourceBundle::located();
+}
+
+// The plotters named on the command line, every connected one (--all), or the
+// first connected one.
+QStringList chosenPorts(const Command& command, const CommonOptions& options,
+                        const QStringList& connected) {
+    if (command.ports() == Command::Ports::none) {
+        return {QString()};
+    }
+    if (options.all) {
+        return connected;
+    }
+    QStringList ports;
+    for (const std::string& port : options.ports) {
+        ports << QString::fromStdString(port);
+    }
+    if (ports.isEmpty() && !connected.isEmpty()) {
+        ports << connected.first();
+    }
+    return ports;
+}
+
+// Runs the command for one plotter or none; with a simulated port, the simulated
+// plotter lives in this process, as the port-in-use check expects.
+class Single {
+  public:
+    Single(const Command& command, const CommonOptions& options, const QString& port,
+           const QStringList& connected, Reporter& reporter) {
+        CommandContext context;
+        context.portName = port;
+        context.portPath = port;
+        context.connected = connected;
+        context.resources = resourcesFor(options);
+        context.developmentSet = options.simulated > 0 && options.resources.empty();
+        context.simulated =
+            port.isEmpty() ? options.simulated > 0 : Plotters::isSimulated(port, options.simulated);
+        if (!port.isEmpty() && context.simulated) {
+            plotter_ = Plotters::startSimulated(context.resources);
+            context.portPath = QString::fromStdString(plotter_->path());
+        }
+        run_ = std::make_unique<LocalRun>(command, std::move(context), reporter, options.verbose);
+    }
+
+    LocalRun& run() { return *run_; }
+
+  private:
+    std::unique_ptr<sim::PtyPlotter> plotter_;  // outlives the run that uses it
+    std::unique_ptr<LocalRun> run_;
+};
+
+}  // namespace
+
+int runSession(const Command& command, const CommonOptions& options, const QStringList& arguments) {
+    const Interrupts interrupts;
+    // Output that nobody reads any more (a closed pipe) must not end a firmware
+    // write half way; a failed write to standard output is harmless.
+    std::signal(SIGPIPE, SIG_IGN);
+    const QStringList connected = Plotters::connected(options.simulated);
+    const QStringList ports = chosenPorts(command, options, connected);
+    const bool several = ports.size() > 1;
+    const std::unique_ptr<Reporter> reporter = makeReporter(options, several);
+    if (ports.isEmpty()) {
+        reporter->report(QString(),
+                         event::Result{command.noDeviceCode(),
+                                       UserText::errorMessage(ExitCode::noDevice), true});
+        return command.noDeviceCode();
+    }
+
+    QEventLoop loop;
+    std::unique_ptr<Fleet> fleet;
+    std::unique_ptr<Single> single;
+    if (several) {
+        fleet = std::make_unique<Fleet>(ports, arguments, command.writesFirmware(), *reporter);
+        QObject::connect(fleet.get(), &Fleet::finished, &loop, &QEventLoop::exit);
+    } else {
+        single = std::make_unique<Single>(command, options, ports.first(), connected, *reporter);
+        QObject::connect(&single->run(), &LocalRun::finished, &loop, &QEventLoop::exit);
+    }
+
+    bool warned = false;
+    QObject::connect(&interrupts, &Interrupts::pressed, &loop, [&] {
+        const bool writing = fleet ? fleet->writing() : single->run().writing();
+        if (writing && !warned) {
+            warned = true;
+            reporter->notice(
+                QStringLiteral("Writing firmware: stopping now can leave the machine unable to "
+                               "start. Press Ctrl+C again to stop."));
+            return;
+        }
+        if (fleet) {
+            fleet->terminate();
+        }
+        reporter->close();
+        std::fflush(nullptr);
+        // The job may be blocked inside the library; nothing would join its thread.
+        std::_Exit(ExitCode::stopped);
+    });
+
+    if (fleet) {
+        fleet->start();
+    } else {
+        single->run().start();
+    }
+    const int status = loop.exec();
+    reporter->close();
+    return status;
+}

@@ -1,0 +1,162 @@
+#include "cli/TextReporter.h"
+
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kDrawIntervalMs = 100;
+constexpr int kStageWidth = 16;
+constexpr int kBarWidth = 16;
+
+int terminalColumns() {
+    winsize size{};
+    if (::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0) {
+        return size.ws_col;
+    }
+    return 80;
+}
+
+void write(std::FILE* stream, const QString& text) {
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stream);
+    std::fflush(stream);
+}
+
+}  // namespace
+
+TextReporter::TextReporter(Style style) : style_(style) {
+    clock_.start();
+    drawTimer_.setSingleShot(true);
+    connect(&drawTimer_, &QTimer::timeout, this, [this] { draw(); });
+}
+
+void TextReporter::report(const QString& port, const Event& event) {
+    Row& target = row(port);
+    if (const auto* log = std::get_if<event::Log>(&event)) {
+        if (style_.showLog) {
+            printLine(stdout, prefixed(port, log->line));
+        }
+    } else if (const auto* error = std::get_if<event::Error>(&event)) {
+        printLine(stderr, prefixed(port, QStringLiteral("ERROR: ") + error->message));
+    } else if (const auto* progress = std::get_if<event::Progress>(&event)) {
+        onProgress(target, *progress);
+    } else {
+        onResult(target, std::get<event::Result>(event));
+    }
+}
+
+void TextReporter::notice(const QString& text) {
+    printLine(stderr, text);
+}
+
+void TextReporter::close() {
+    drawTimer_.stop();
+    if (style_.terminal) {
+        draw();
+    }
+}
+
+TextReporter::Row& TextReporter::row(const QString& port) {
+    const auto found =
+        std::find_if(rows_.begin(), rows_.end(), [&](const Row& r) { return r.port == port; });
+    if (found != rows_.end()) {
+        return *found;
+    }
+    rows_.push_back(Row{port, {}, {}, -1});
+    return rows_.back();
+}
+
+void TextReporter::onProgress(Row& row, const event::Progress& progress) {
+    row.meter.update(progress, clock_.elapsed());
+    if (style_.terminal) {
+        scheduleDraw();
+        return;
+    }
+    if (progress.stage.isEmpty() && row.printedStage.isEmpty()) {
+        return;  // the job has started; the library has not reported yet
+    }
+    const int tenth = row.meter.percent() / 10;
+    const bool newStage = !progress.stage.isEmpty() && progress.stage != row.printedStage;
+    if (!newStage && tenth <= row.printedTenth) {
+        return;
+    }
+    row.printedStage = row.meter.stage();
+    row.printedTenth = tenth;
+    printLine(stdout,
+              prefixed(row.port, row.meter.stage() + QStringLiteral(" ") + row.meter.figures()));
+}
+
+void TextReporter::onResult(Row& row, const event::Result& result) {
+    if (row.meter.active()) {
+        row.meter.finish(!result.failed);
+        scheduleDraw();
+    }
+    if (result.failed) {
+        printLine(stderr, prefixed(row.port, QStringLiteral("ERROR: ") + result.message));
+    } else if (style_.withPorts) {
+        printLine(stdout, prefixed(row.port, result.message));
+    }
+}
+
+QString TextReporter::prefixed(const QString& port, const QString& text) const {
+    return style_.withPorts && !port.isEmpty() ? port + QStringLiteral(": ") + text : text;
+}
+
+void TextReporter::printLine(std::FILE* stream, const QString& text) {
+    if (style_.terminal) {
+        erase();
+        scheduleDraw();
+    }
+    write(stream, text + QLatin1Char('\n'));
+}
+
+void TextReporter::scheduleDraw() {
+    if (!style_.terminal || drawTimer_.isActive()) {
+        return;
+    }
+    const qint64 sinceLast = clock_.elapsed() - lastDrawMs_;
+    drawTimer_.start(static_cast<int>(std::max<qint64>(0, kDrawIntervalMs - sinceLast)));
+}
+
+void TextReporter::draw() {
+    erase();
+    int portWidth = 0;
+    for (const Row& r : rows_) {
+        if (style_.withPorts) {
+            portWidth = std::max(portWidth, static_cast<int>(r.port.size()));
+        }
+    }
+    QString lines;
+    for (const Row& r : rows_) {
+        if (r.meter.active()) {
+            lines += progressLine(r, portWidth) + QLatin1Char('\n');
+            ++drawnLines_;
+        }
+    }
+    write(stdout, lines);
+    lastDrawMs_ = clock_.elapsed();
+}
+
+void TextReporter::erase() {
+    if (drawnLines_ == 0) {
+        return;
+    }
+    // Up to the first progress line, then clear everything below it.
+    write(stdout, QStringLiteral("\x1b[%1A\r\x1b[J").arg(drawnLines_));
+    drawnLines_ = 0;
+}
+
+QString TextReporter::progressLine(const Row& row, int portWidth) const {
+    QString line;
+    if (portWidth > 0) {
+        line = row.port.leftJustified(portWidth) + QStringLiteral("  ");
+    }
+    line += row.meter.stage().leftJustified(kStageWidth, QLatin1Char(' '), true) +
+            QLatin1Char(' ') + row.meter.bar(kBarWidth) + QStringLiteral("  ") +
+            row.meter.figures();
+    // A line that wraps would throw off the cursor movement of the next redraw.
+    return line.left(terminalColumns() - 1);
+}
