@@ -1,0 +1,346 @@
+#include <poll.h>
+#include <pty.h>
+#include <signal.h>
+#include <unistd.h>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const QString kProgram = QStringLiteral(TFU_FLASH_PROGRAM);
+const QString kDev = QStringLiteral(TFU_DEV_RESOURCES_DIR);
+const QString kNoPort = QStringLiteral("/dev/tfu-no-such-port");
+const QString kComplete = QStringLiteral("Firmware update complete.");
+const QString kUploaded = QStringLiteral("Upload successful; restarting machine.");
+const QString kWarning = QStringLiteral(
+    "Writing firmware: stopping now can leave the machine unable to start. Press Ctrl+C again "
+    "to stop.\n");
+
+struct Run {
+    int exitCode = -1;
+    QString out;
+    QString err;
+};
+
+Run run(const QStringList& arguments) {
+    QProcess process;
+    process.start(kProgram, arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit) {
+        qFatal("teskal-flash %s did not end", qPrintable(arguments.join(' ')));
+    }
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+QList<QJsonObject> jsonObjects(const QString& out) {
+    QList<QJsonObject> objects;
+    for (const QString& line : out.split('\n', Qt::SkipEmptyParts)) {
+        QJsonParseError error{};
+        const QJsonDocument document = QJsonDocument::fromJson(line.toUtf8(), &error);
+        if (error.error != QJsonParseError::NoError || !document.isObject()) {
+            qFatal("not a JSON object: %s", qPrintable(line));
+        }
+        objects << document.object();
+    }
+    return objects;
+}
+
+// Whether `lines` appear in `text`'s lines in this order, others between them.
+bool containsInOrder(const QString& text, const QStringList& lines) {
+    qsizetype next = 0;
+    for (const QString& line : text.split('\n')) {
+        if (next < lines.size() && line == lines[next]) {
+            ++next;
+        }
+    }
+    return next == lines.size();
+}
+
+qint64 devImageSize(const QString& name) {
+    return QFileInfo(kDev + '/' + name + ".bin").size();
+}
+
+}  // namespace
+
+/// The program as a user runs it, against simulated plotters on pseudo-terminals.
+class CliTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void initTestCase();
+    void subcommands_data();
+    void subcommands();
+    void jsonLinesCarryTheBytesOfTheFlashPlan();
+    void severalPlottersRunAtOnce();
+    void terminalProgressIsRedrawnInPlace();
+    void ctrlCWarnsOnceDuringAWrite();
+
+  private:
+    QString file(const QString& name) const { return files_.filePath(name); }
+    QTemporaryDir files_;
+};
+
+void CliTest::initTestCase() {
+    const std::pair<QString, QByteArray> contents[] = {
+        {"text.bin", "{\"name\": \"plotter\"}\n"},
+        {"workshop.yml", "name: \"Workshop plotter\"\nmeta: '9.9'\n"},
+        {"bad.yaml", "axes:\n  x: [1, 2\n"},
+        {"notes.txt", "pens: 12\n"},
+    };
+    for (const auto& [name, bytes] : contents) {
+        QFile out(file(name));
+        QVERIFY(out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size());
+    }
+    QVERIFY(QDir(files_.path()).mkpath("empty-resources"));
+}
+
+void CliTest::subcommands_data() {
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QStringList>("outLines");  // in this order, others between them
+    QTest::addColumn<QStringList>("notInOut");
+    QTest::addColumn<QString>("err");  // exact; null: not compared
+
+    const QString device = QStringLiteral(
+        "Device running firmware v3.7.8 \u2014 updating "
+        "firmware only.");
+    const QString note = QStringLiteral(
+        "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for "
+        "your machine.");
+    QTest::newRow("detect") << QStringList{"detect", "--sim", "3"} << 0
+                            << QStringList{"sim1", "sim2", "sim3"} << QStringList{} << "";
+    QTest::newRow("version") << QStringList{"version", "--sim"} << 0 << QStringList{"v3.7.8"}
+                             << QStringList{} << "";
+    QTest::newRow("version, no answer")
+        << QStringList{"version", "--port", kNoPort} << 9 << QStringList{} << QStringList{}
+        << "ERROR: Operation timed out. Try unplugging and reconnecting.\n";
+    QTest::newRow("probe") << QStringList{"probe", "--sim"} << 0
+                           << QStringList{"Partition table: present"} << QStringList{} << "";
+    QTest::newRow("flash, application only")
+        << QStringList{"flash", "--sim"} << 0
+        << QStringList{"Updating firmware v2.10.6\u2026", "Checking device status\u2026", device,
+                       kComplete}
+        << QStringList{"Opening port"} << "";
+    QTest::newRow("flash, erase all, verbose")
+        << QStringList{"flash", "--sim", "--erase-all", "--verbose"} << 0
+        << QStringList{"Updating firmware v2.10.6\u2026",
+                       "Erasing entire flash...",
+                       "Flash plan: 4 entries (FULL)",
+                       kComplete,
+                       "",
+                       note}
+        << QStringList{"Checking device status"} << "";
+    QTest::newRow("flash, refused image, nothing sent")
+        << QStringList{"flash", "--sim", "--verbose", "--firmware", file("text.bin")} << 11
+        << QStringList{"Updating firmware (custom: text.bin)\u2026"}
+        << QStringList{"Checking device status", "Opening port"}
+        << "ERROR: Firmware image refused: not a firmware image (first byte 0x7B, expected "
+           "0xE9)\n";
+    QTest::newRow("flash, development image for a real port")
+        << QStringList{"flash", "--sim", "--port", kNoPort} << 11 << QStringList{}
+        << QStringList{"Checking device status"}
+        << "ERROR: Firmware image refused: a development image, not firmware\n";
+    QTest::newRow("flash, resources missing")
+        << QStringList{"flash", "--port", kNoPort, "--resources", file("empty-resources")} << 12
+        << QStringList{} << QStringList{} << "ERROR: Bundled firmware not found\n";
+    QTest::newRow("upload, product")
+        << QStringList{"upload-config", "--sim", "--product", "Corvane Halcot"} << 0
+        << QStringList{"Preparing Corvane Halcot config v1.2.0-devset", kUploaded} << QStringList{}
+        << "";
+    QTest::newRow("upload, file after --sim")
+        << QStringList{"upload-config", "--sim", file("workshop.yml")} << 0
+        << QStringList{"Preparing workshop.yml v9.9", "Uploading config file...", kUploaded}
+        << QStringList{} << "";
+    QTest::newRow("upload, invalid file")
+        << QStringList{"upload-config", "--sim", file("bad.yaml")} << 11 << QStringList{}
+        << QStringList{"Preparing"}
+        << "ERROR: bad.yaml is not a valid machine configuration: line 3, column 1: end of "
+           "sequence flow not found\n";
+    QTest::newRow("upload, development configuration for a real port")
+        << QStringList{"upload-config", "--sim", "--product", "Halcot.yaml", "--port", kNoPort}
+        << 11 << QStringList{} << QStringList{"Preparing"}
+        << "ERROR: The development set's configurations are only for simulated plotters\n";
+    QTest::newRow("upload, port cannot be opened")
+        << QStringList{"upload-config", "--resources", kDev,   "--product",
+                       "Halcot.yaml",   "--port",      kNoPort}
+        << 2 << QStringList{"Preparing Corvane Halcot config v1.2.0-devset"} << QStringList{}
+        << "ERROR: Could not open serial port. Is another app using it?\n";
+    QTest::newRow("inspect, simulated")
+        << QStringList{"inspect", "--sim", kDev + "/firmware.bin", kDev + "/configs/Halcot.yaml"}
+        << 0
+        << QStringList{"firmware.bin",
+                       "  chip: ESP32-S3 (chip id 9)",
+                       "  version: 0.0.0-devset",
+                       "  project: teskal-devset",
+                       "  partition: fits (the application partition holds 1,966,080 bytes)",
+                       "  result: passes",
+                       "Halcot.yaml",
+                       "  meta: 1.2.0-devset",
+                       "  result: passes"}
+        << QStringList{} << "";
+    QTest::newRow("inspect, refusals")
+        << QStringList{"inspect",
+                       "--resources",
+                       file("empty-resources"),
+                       kDev + "/firmware.bin",
+                       file("text.bin"),
+                       file("notes.txt")}
+        << 11
+        << QStringList{"firmware.bin",
+                       "  partition: unknown (no partition table in the resources)",
+                       "  result: refused",
+                       "text.bin",
+                       "  size: 20 bytes",
+                       "  SHA-256: "
+                       "fa9c3e324e6282a583cf5744a6d61770870e8710d7200dcc77af917e46839f13",
+                       "  result: refused",
+                       "notes.txt",
+                       "  result: refused"}
+        << QStringList{"partition: fits"}
+        << "ERROR: firmware.bin cannot be used: a development image, not firmware\n"
+           "ERROR: text.bin cannot be used: not a firmware image (first byte 0x7B, expected "
+           "0xE9)\n"
+           "ERROR: notes.txt is neither a firmware image (.bin) nor a machine configuration "
+           "(.yaml, .yml)\n"
+           "ERROR: 3 of 3 files refused\n";
+    QTest::newRow("usage error") << QStringList{"flash", "--all", "--port", "sim1"} << 64
+                                 << QStringList{} << QStringList{} << QString();
+}
+
+void CliTest::subcommands() {
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
+    QFETCH(QStringList, outLines);
+    QFETCH(QStringList, notInOut);
+    QFETCH(QString, err);
+
+    const Run result = run(arguments);
+    QCOMPARE(result.exitCode, exitCode);
+    QVERIFY2(containsInOrder(result.out, outLines), qPrintable(result.out));
+    for (const QString& absent : notInOut) {
+        QVERIFY2(!result.out.contains(absent), qPrintable(absent));
+    }
+    if (!err.isNull()) {
+        QCOMPARE(result.err, err);
+    }
+    // Not a terminal: plain lines only.
+    for (const QChar c : result.out + result.err) {
+        QVERIFY2(c == '\n' || c.category() != QChar::Other_Control, qPrintable(result.out));
+    }
+}
+
+void CliTest::jsonLinesCarryTheBytesOfTheFlashPlan() {
+    const Run result = run({"flash", "--sim", "--json"});
+    QCOMPARE(result.exitCode, 0);
+    const QList<QJsonObject> objects = jsonObjects(result.out);
+    QCOMPARE(objects.last(),
+             QJsonObject({{"type", "result"}, {"code", 0}, {"message", kComplete}}));
+    double fraction = 0.0;
+    qint64 bytes = 0;
+    for (const QJsonObject& object : objects) {
+        QVERIFY(!object.contains("port"));
+        const QString type = object["type"].toString();
+        QVERIFY2(type == "log" || type == "progress" || type == "result", qPrintable(type));
+        if (type == "progress") {
+            QVERIFY(object["fraction"].toDouble() >= fraction);
+            QVERIFY(object["bytes"].toInteger() >= bytes);
+            fraction = object["fraction"].toDouble();
+            bytes = object["bytes"].toInteger();
+        }
+    }
+    // An application-only update writes the boot-app image and the application;
+    // the regions run from 0.12 to 0.85.
+    QCOMPARE(bytes, devImageSize("boot_app0") + devImageSize("firmware"));
+    QCOMPARE(qRound(fraction * 100), 85);
+}
+
+void CliTest::severalPlottersRunAtOnce() {
+    const Run three = run({"flash", "--sim", "3", "--all", "--json"});
+    QCOMPARE(three.exitCode, 0);
+    QSet<QString> succeeded;
+    QSet<QString> progressed;
+    for (const QJsonObject& object : jsonObjects(three.out)) {
+        const QString port = object["port"].toString();
+        QVERIFY2(QStringList({"sim1", "sim2", "sim3"}).contains(port), qPrintable(port));
+        if (object["type"] == "progress") {
+            progressed << port;
+        }
+        if (object["type"] == "result" && object["code"] == 0) {
+            succeeded << port;
+        }
+    }
+    QCOMPARE(succeeded, QSet<QString>({"sim1", "sim2", "sim3"}));
+    QCOMPARE(progressed, succeeded);
+
+    // Text: one result line each; the status is the first failure in port order.
+    const Run mixed =
+        run({"flash", "--sim", "2", "--port", "sim2", "--port", kNoPort, "--port", "sim1"});
+    QCOMPARE(mixed.exitCode, 11);
+    QVERIFY(mixed.out.contains("sim2: " + kComplete + '\n'));
+    QVERIFY(mixed.out.contains("sim1: " + kComplete + '\n'));
+    QVERIFY2(!mixed.out.contains("Updating firmware"), "log lines only with --verbose");
+    QCOMPARE(mixed.err,
+             kNoPort + ": ERROR: Firmware image refused: a development image, not firmware\n");
+}
+
+void CliTest::terminalProgressIsRedrawnInPlace() {
+    int master = -1;
+    int slave = -1;
+    QVERIFY(::openpty(&master, &slave, nullptr, nullptr, nullptr) == 0);
+    QProcess process;
+    process.setChildProcessModifier([slave] { ::dup2(slave, STDOUT_FILENO); });
+    process.start(kProgram, {"flash", "--sim"});
+    QVERIFY(process.waitForStarted());
+    ::close(slave);
+    QByteArray screen;
+    char buffer[4096];
+    pollfd readable{master, POLLIN, 0};
+    while (::poll(&readable, 1, 60000) > 0) {
+        const ssize_t n = ::read(master, buffer, sizeof buffer);
+        if (n <= 0) {
+            break;  // the last writer has gone
+        }
+        screen.append(buffer, n);
+    }
+    ::close(master);
+    QVERIFY(process.waitForFinished(10000));
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY2(screen.contains("\x1b[1A\r\x1b[J"), screen.constData());  // back over the bar
+    QVERIFY(screen.contains("Flashing         [#"));
+    QVERIFY(screen.contains("Complete         [################]  100%  "));
+    QVERIFY(screen.contains(kComplete.toUtf8() + "\r\n"));
+}
+
+void CliTest::ctrlCWarnsOnceDuringAWrite() {
+    for (const bool duringWrite : {true, false}) {
+        QProcess process;
+        process.start(kProgram, {"flash", "--sim", "--json"});
+        const QByteArray awaited = duringWrite ? "\"type\":\"progress\"" : "\"type\":\"log\"";
+        QByteArray out;
+        QVERIFY(QTest::qWaitFor(
+            [&] {
+                process.waitForReadyRead(50);
+                out += process.readAllStandardOutput();
+                return out.contains(awaited);
+            },
+            20000));
+        ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+        if (duringWrite) {
+            QByteArray err;
+            QTRY_COMPARE(QString::fromUtf8(err += process.readAllStandardError()), kWarning);
+            QVERIFY(!process.waitForFinished(300));  // the write goes on
+            ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+        }
+        QVERIFY(process.waitForFinished(5000));
+        QCOMPARE(process.exitCode(), 130);
+        QVERIFY(!process.readAllStandardOutput().contains("\"type\":\"result\""));
+    }
+}
+
+QTEST_GUILESS_MAIN(CliTest)
+#include "CliTest.moc"
