@@ -51,6 +51,14 @@ void Fleet::start() {
                 [this, raw] { readOutput(*raw); });
         connect(&process, &QProcess::readyReadStandardError, this,
                 [raw] { raw->errors += raw->process->readAllStandardError(); });
+        // A child that never starts emits no finished signal.
+        connect(&process, &QProcess::errorOccurred, this,
+                [this, raw](QProcess::ProcessError error) {
+                    if (error == QProcess::FailedToStart) {
+                        raw->errors = raw->process->errorString().toUtf8();
+                        childEnded(*raw, ExitCode::crashed, QProcess::CrashExit);
+                    }
+                });
         connect(&process, &QProcess::finished, this,
                 [this, raw](int exitCode, QProcess::ExitStatus status) {
                     childEnded(*raw, exitCode, status);
@@ -98,12 +106,16 @@ void Fleet::childEnded(Child& child, int exitCode, QProcess::ExitStatus status) 
     readOutput(child);
     child.writing = false;
     child.exitCode = status == QProcess::NormalExit ? exitCode : ExitCode::crashed;
+    const QString why = QString::fromUtf8(child.errors).trimmed();
     if (!child.reported) {
-        const QString why = QString::fromUtf8(child.errors).trimmed();
         reporter_.report(
             child.port,
             event::Result{*child.exitCode,
                           why.isEmpty() ? QStringLiteral("ended without a result") : why, true});
+    } else if (status != QProcess::NormalExit) {
+        reporter_.report(child.port,
+                         event::Error{QStringLiteral("ended abnormally after its result") +
+                                      (why.isEmpty() ? QString() : QStringLiteral(": ") + why)});
     }
     const bool allEnded = std::all_of(children_.begin(), children_.end(),
                                       [](const auto& c) { return c->exitCode.has_value(); });

@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QStringList>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "cli/Reporter.h"

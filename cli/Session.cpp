@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <system_error>
 
 #include "app/UserText.h"
 #include "cli/Fleet.h"
@@ -112,7 +113,18 @@ int runSession(const Command& command, const CommonOptions& options, const QStri
         fleet = std::make_unique<Fleet>(ports, arguments, command.writesFirmware(), *reporter);
         QObject::connect(fleet.get(), &Fleet::finished, &loop, &QEventLoop::exit);
     } else {
-        single = std::make_unique<Single>(command, options, ports.first(), connected, *reporter);
+        try {
+            single =
+                std::make_unique<Single>(command, options, ports.first(), connected, *reporter);
+        } catch (const std::system_error& error) {
+            reporter->report(
+                ports.first(),
+                event::Result{ExitCode::portNotOpened,
+                              QStringLiteral("Could not start the simulated plotter: ") +
+                                  QString::fromLocal8Bit(error.what()),
+                              true});
+            return ExitCode::portNotOpened;
+        }
         QObject::connect(&single->run(), &LocalRun::finished, &loop, &QEventLoop::exit);
     }
 

@@ -261,7 +261,7 @@ void CliTest::jsonLinesCarryTheBytesOfTheFlashPlan() {
 
 void CliTest::severalPlottersRunAtOnce() {
     const Run three = run({"flash", "--sim", "3", "--all", "--json"});
-    QCOMPARE(three.exitCode, 0);
+    QVERIFY2(three.exitCode == 0, qPrintable(three.out + three.err));
     QSet<QString> succeeded;
     QSet<QString> progressed;
     for (const QJsonObject& object : jsonObjects(three.out)) {
