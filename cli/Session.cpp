@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 #include <system_error>
 
@@ -88,6 +89,43 @@ class Single {
     std::unique_ptr<LocalRun> run_;
 };
 
+// A single run, or none when its simulated plotter cannot start (reported).
+std::unique_ptr<Single> startSingle(const Command& command, const CommonOptions& options,
+                                    const QString& port, const QStringList& connected,
+                                    Reporter& reporter) {
+    try {
+        return std::make_unique<Single>(command, options, port, connected, reporter);
+    } catch (const std::system_error& error) {
+        reporter.report(port, event::Result{ExitCode::portNotOpened,
+                                            QStringLiteral("Could not start the simulated "
+                                                           "plotter: ") +
+                                                QString::fromLocal8Bit(error.what()),
+                                            true});
+        return nullptr;
+    }
+}
+
+// Ctrl+C: during a firmware write the first press only warns; any other press
+// stops at once, children too.
+void stopOnInterrupts(const Interrupts& interrupts, Reporter& reporter,
+                      std::function<bool()> writing, std::function<void()> stopChildren) {
+    auto warned = std::make_shared<bool>(false);
+    QObject::connect(&interrupts, &Interrupts::pressed, &interrupts, [=, &reporter] {
+        if (writing() && !*warned) {
+            *warned = true;
+            reporter.notice(
+                QStringLiteral("Writing firmware: stopping now can leave the machine unable to "
+                               "start. Press Ctrl+C again to stop."));
+            return;
+        }
+        stopChildren();
+        reporter.close();
+        std::fflush(nullptr);
+        // The job may be blocked inside the library; nothing would join its thread.
+        std::_Exit(ExitCode::stopped);
+    });
+}
+
 }  // namespace
 
 int runSession(const Command& command, const CommonOptions& options, const QStringList& arguments) {
@@ -97,8 +135,7 @@ int runSession(const Command& command, const CommonOptions& options, const QStri
     std::signal(SIGPIPE, SIG_IGN);
     const QStringList connected = Plotters::connected(options.simulated);
     const QStringList ports = chosenPorts(command, options, connected);
-    const bool several = ports.size() > 1;
-    const std::unique_ptr<Reporter> reporter = makeReporter(options, several);
+    const std::unique_ptr<Reporter> reporter = makeReporter(options, ports.size() > 1);
     if (ports.isEmpty()) {
         reporter->report(QString(),
                          event::Result{command.noDeviceCode(),
@@ -107,51 +144,26 @@ int runSession(const Command& command, const CommonOptions& options, const QStri
     }
 
     QEventLoop loop;
-    std::unique_ptr<Fleet> fleet;
-    std::unique_ptr<Single> single;
-    if (several) {
-        fleet = std::make_unique<Fleet>(ports, arguments, command.writesFirmware(), *reporter);
-        QObject::connect(fleet.get(), &Fleet::finished, &loop, &QEventLoop::exit);
-    } else {
-        try {
-            single =
-                std::make_unique<Single>(command, options, ports.first(), connected, *reporter);
-        } catch (const std::system_error& error) {
-            reporter->report(
-                ports.first(),
-                event::Result{ExitCode::portNotOpened,
-                              QStringLiteral("Could not start the simulated plotter: ") +
-                                  QString::fromLocal8Bit(error.what()),
-                              true});
-            return ExitCode::portNotOpened;
-        }
-        QObject::connect(&single->run(), &LocalRun::finished, &loop, &QEventLoop::exit);
-    }
-
-    bool warned = false;
-    QObject::connect(&interrupts, &Interrupts::pressed, &loop, [&] {
-        const bool writing = fleet ? fleet->writing() : single->run().writing();
-        if (writing && !warned) {
-            warned = true;
-            reporter->notice(
-                QStringLiteral("Writing firmware: stopping now can leave the machine unable to "
-                               "start. Press Ctrl+C again to stop."));
-            return;
-        }
-        if (fleet) {
-            fleet->terminate();
-        }
+    if (ports.size() > 1) {
+        Fleet fleet(ports, arguments, command.writesFirmware(), *reporter);
+        QObject::connect(&fleet, &Fleet::finished, &loop, &QEventLoop::exit);
+        stopOnInterrupts(
+            interrupts, *reporter, [&fleet] { return fleet.writing(); },
+            [&fleet] { fleet.terminate(); });
+        fleet.start();
+        const int status = loop.exec();
         reporter->close();
-        std::fflush(nullptr);
-        // The job may be blocked inside the library; nothing would join its thread.
-        std::_Exit(ExitCode::stopped);
-    });
-
-    if (fleet) {
-        fleet->start();
-    } else {
-        single->run().start();
+        return status;
     }
+    const auto single = startSingle(command, options, ports.first(), connected, *reporter);
+    if (!single) {
+        return ExitCode::portNotOpened;
+    }
+    LocalRun& run = single->run();
+    QObject::connect(&run, &LocalRun::finished, &loop, &QEventLoop::exit);
+    stopOnInterrupts(
+        interrupts, *reporter, [&run] { return run.writing(); }, [] {});
+    run.start();
     const int status = loop.exec();
     reporter->close();
     return status;
