@@ -135,20 +135,18 @@ int esp_probe_partition_table(const char* port, const uint8_t* stub, size_t stub
 
 esp_error_t esp_download_file(const char* port, const char* name, uint8_t** data, size_t* length,
                               esp_progress_cb progress, esp_log_cb log) {
-    const auto say = [log](const char* line) {
-        if (log != nullptr) {
-            log(line);
-        }
-    };
     if (data == nullptr || length == nullptr || name == nullptr) {
-        say("XModem download: invalid arguments");
+        logLine(log, "XModem download: invalid arguments");
         return esp::result::DownloadFailed;
     }
     *data = nullptr;
     *length = 0;
+    if (refuseSharedPort(port, log)) {
+        return esp::result::PortOpenFailed;
+    }
     SerialPort serial;
     if (!openPort(serial, port)) {
-        say("Failed to open port");
+        logLine(log, "Failed to open port");
         return esp::result::PortOpenFailed;
     }
     const auto file = esp::runDownloadFileJob(serial, name, progress, log);
@@ -158,7 +156,7 @@ esp_error_t esp_download_file(const char* port, const char* name, uint8_t** data
     if (!file->empty()) {
         *data = static_cast<uint8_t*>(std::malloc(file->size()));
         if (*data == nullptr) {
-            say("XModem download: out of memory");
+            logLine(log, "XModem download: out of memory");
             return esp::result::DownloadFailed;
         }
         std::memcpy(*data, file->data(), file->size());
