@@ -13,6 +13,15 @@ std::pair<QString, QString> splitResourceName(const QString& fileName) {
     return {fileName.left(dot), fileName.mid(dot + 1)};
 }
 
+std::optional<QByteArray> readWholeFile(const QString& path, QString* failure) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *failure = file.errorString();
+        return std::nullopt;
+    }
+    return file.readAll();
+}
+
 ResourceBundle ResourceBundle::forExecutableDir(const QString& executableDir) {
     const QDir dir(executableDir);
     const QString beside = dir.filePath(QStringLiteral("resources"));

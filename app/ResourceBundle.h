@@ -9,6 +9,10 @@
 /// a name without "." has an empty extension ("a.b.yaml" gives "a.b" and "yaml").
 std::pair<QString, QString> splitResourceName(const QString& fileName);
 
+/// The whole file at `path`; none when it cannot be read, with the system's
+/// description of why in `failure`.
+std::optional<QByteArray> readWholeFile(const QString& path, QString* failure);
+
 /// The folder of images and machine configurations the application ships with:
 /// the five images at its top level, the configurations in its folder "configs".
 /// An immutable value; safe to read from any thread.

@@ -1,12 +1,12 @@
 #include "app/UpdateController.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QMutexLocker>
 #include <QPointer>
 
 #include "app/BuildConfig.h"
-#include "app/MachineConfigCheck.h"
+#include "app/ConfigUploadJob.h"
+#include "app/FirmwareUpdateJob.h"
 
 UpdateController::UpdateController(QObject* parent)
     : UpdateController(ResourceBundle::located(), DeviceMonitor::Detector(esp_detect_device),
@@ -65,8 +65,12 @@ void UpdateController::uploadConfig(const QString& configFile, const QString& pr
         return;
     }
     clearLog();
-    submit([port = *port, configFile, productName](UpdateController& controller) {
-        controller.performConfigUpload(port, configFile, productName);
+    submit([port = *port,
+            product = ProductConfig{productName, configFile}](UpdateController& controller) {
+        const ConfigUploadJob job(port, controller.m_resources, product);
+        controller.finish(job.run(controller.jobSink(controller.configProgressHandler(),
+                                                     UpdateState::uploadingConfig(0.0f),
+                                                     UpdateState::configComplete())));
     });
 }
 
@@ -75,23 +79,44 @@ void UpdateController::uploadConfigFromFile(const QString& path) {
     if (!port) {
         return;
     }
-    const QString fileName = QFileInfo(path).fileName();
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        log(QStringLiteral("ERROR: Could not read file: ") + fileName);
-        return;
-    }
-    const QByteArray configData = file.readAll();
-    if (const auto problem = machineConfigProblem(configData)) {
-        log(QStringLiteral("ERROR: ") + fileName +
-            QStringLiteral(" is not a valid machine configuration: ") + *problem);
+    const ConfigFile config = readConfigFile(path);
+    if (!config.bytes) {
+        log(QStringLiteral("ERROR: ") + config.refusal);
         return;
     }
     clearLog();
-    log(QStringLiteral("Preparing ") + fileName + versionSuffix(configData));
-    submit([port = *port, configData](UpdateController& controller) {
-        controller.performConfigUploadData(port, configData);
+    log(config.announcement);
+    submit([port = *port, configData = *config.bytes](UpdateController& controller) {
+        const ConfigUploadJob job(port, configData);
+        controller.finish(job.run(controller.jobSink(controller.configProgressHandler(),
+                                                     UpdateState::uploadingConfig(0.0f),
+                                                     UpdateState::configComplete())));
     });
+}
+
+void UpdateController::chooseCustomFirmware(const std::optional<QString>& path) {
+    if (!path) {
+        setCustomFirmwareURL(QUrl());
+        log(QStringLiteral("Custom firmware: unknown"));
+        return;
+    }
+    const QString fileName = QFileInfo(*path).fileName();
+    const QString refused =
+        QStringLiteral("ERROR: ") + fileName + QStringLiteral(" cannot be used: ");
+    QString failure;
+    const auto firmware = readWholeFile(*path, &failure);
+    if (!firmware) {
+        log(refused + QStringLiteral("it could not be read (") + failure + ')');
+        return;
+    }
+    const image::ImageReport report = inspectFirmware(*firmware);
+    if (const auto refusal = firmwareRefusal(report, m_resources, m_developmentImages)) {
+        log(refused + *refusal);
+        return;
+    }
+    setCustomFirmwareURL(QUrl::fromLocalFile(*path));
+    log(QStringLiteral("Custom firmware: ") + fileName);
+    log(describeFirmware(*report.app));
 }
 
 std::optional<QString> UpdateController::portForNewJob() {
@@ -121,6 +146,75 @@ void UpdateController::submit(std::function<void(UpdateController&)> job) {
         QMetaObject::invokeMethod(
             self, [self] { self->assignJobRunning(false); }, Qt::QueuedConnection);
     });
+}
+
+void UpdateController::performFlash(const QString& port) {
+    FirmwareUpdateJob::Options options;
+    const QUrl custom = customFirmwareURL();
+    if (!custom.isEmpty()) {
+        options.customFirmware = custom.toLocalFile();
+    }
+    options.writeBootPartitions = m_writeBootPartitions;
+    options.eraseAll = m_eraseAllFlash;
+    options.developmentImages = m_developmentImages;
+    const FirmwareUpdateJob job(port, m_resources, options);
+    finish(job.run(jobSink(flashProgressHandler(), UpdateState::flashing(0.0f),
+                           UpdateState::flashComplete())));
+}
+
+JobSink UpdateController::jobSink(FlasherBridge::ProgressHandler progress,
+                                  const UpdateState& running, const UpdateState& complete) {
+    JobSink sink;
+    sink.progress = std::move(progress);
+    sink.log = [this](const QString& line) { log(line); };
+    sink.libraryLog = libraryLogHandler();
+    sink.started = [this, running](qint64) { setState(running); };
+    sink.succeeded = [this, complete] { setState(complete); };
+    return sink;
+}
+
+void UpdateController::finish(const JobOutcome& outcome) {
+    if (!outcome.ok()) {
+        logError(outcome.message);
+    }
+}
+
+FlasherBridge::ProgressHandler UpdateController::flashProgressHandler() {
+    return [self = QPointer(this)](float fraction, const QString& message) {
+        postStep(self, [fraction, message](UpdateController& controller) {
+            controller.assignProgress(fraction);
+            controller.assignState(UpdateState::flashing(fraction));
+            if (!message.isEmpty()) {
+                controller.assignStatus(message);
+            }
+        });
+    };
+}
+
+FlasherBridge::ProgressHandler UpdateController::configProgressHandler() {
+    return [self = QPointer(this)](float fraction, const QString& message) {
+        postStep(self, [fraction, message](UpdateController& controller) {
+            controller.assignProgress(fraction);
+            controller.assignState(UpdateState::uploadingConfig(fraction));
+            if (message.isEmpty()) {
+                return;
+            }
+            if (message != controller.m_statusMessage) {
+                controller.appendLog(message);
+            }
+            controller.assignStatus(message);
+        });
+    };
+}
+
+FlasherBridge::LogHandler UpdateController::libraryLogHandler() {
+    return [self = QPointer(this)](const QString& line) {
+        postStep(self, [line](UpdateController& controller) {
+            if (controller.m_detailedLogging) {
+                controller.appendLog(line);
+            }
+        });
+    };
 }
 
 void UpdateController::postStep(const QPointer<UpdateController>& self,

@@ -13,18 +13,19 @@
 #include <optional>
 
 #include "app/DeviceMonitor.h"
+#include "app/FirmwareCheck.h"
 #include "app/FlasherBridge.h"
+#include "app/JobOutcome.h"
+#include "app/JobSink.h"
 #include "app/ResourceBundle.h"
 #include "app/UpdateState.h"
+#include "app/UserText.h"
 #include "esp_flasher.h"
 
-namespace image {
-struct ImageReport;
-}
-
 /// The application's one controller: owns the device monitor, publishes what the
-/// main window shows, and runs the two jobs (writing firmware, uploading a
-/// machine configuration) on a private background worker, one at a time.
+/// main window shows, and runs the two jobs (`FirmwareUpdateJob`,
+/// `ConfigUploadJob`) on a private background worker, one at a time, turning what
+/// they report into its published state.
 ///
 /// Threading: create it and call every public function on the GUI thread, except
 /// `log`, which may be called from any thread. Published properties are written
@@ -49,7 +50,7 @@ class UpdateController : public QObject {
   public:
     /// Whether firmware images that carry the development marker may be written.
     /// Only a program whose every device is simulated accepts them.
-    enum class DevelopmentImages { refuse, accept };
+    using DevelopmentImages = ::DevelopmentImages;
 
     /// Uses the resources beside the executable and the library's device
     /// detection, refuses development images; starts polling for the device.
@@ -100,14 +101,16 @@ class UpdateController : public QObject {
     /// choice and logs "Custom firmware: unknown".
     void chooseCustomFirmware(const std::optional<QString>& path);
 
-    /// The user message for a library result code.
-    static QString errorMessage(esp_error_t code);
-    /// The value of the first non-empty "meta:" line of a configuration file,
-    /// without blanks and quotes; none for invalid UTF-8 or no such line.
-    static std::optional<QString> extractMetaVersion(const QByteArray& bytes);
-    /// The version part of a console version reply: "FluidNC v3.7.8 (main-abc)"
-    /// gives "v3.7.8".
-    static QString cleanFirmwareVersion(const QString& reply);
+    /// See `UserText::errorMessage`.
+    static QString errorMessage(esp_error_t code) { return UserText::errorMessage(code); }
+    /// See `UserText::extractMetaVersion`.
+    static std::optional<QString> extractMetaVersion(const QByteArray& bytes) {
+        return UserText::extractMetaVersion(bytes);
+    }
+    /// See `UserText::cleanFirmwareVersion`.
+    static QString cleanFirmwareVersion(const QString& reply) {
+        return UserText::cleanFirmwareVersion(reply);
+    }
 
   public slots:
     /// The three start operations refuse, with one "ERROR: " log line and no other
@@ -133,15 +136,6 @@ class UpdateController : public QObject {
     void jobRunningChanged(bool running);
 
   private:
-    static QString versionSuffix(const QByteArray& configData);
-    static std::optional<QByteArray> readWhole(const QString& path, QString* failure);
-    /// Why the image must not be written here (checked against the bundled
-    /// partition table and the development-image policy); none when it may be.
-    std::optional<QString> firmwareRefusal(const image::ImageReport& report) const;
-    /// Checks the firmware and, where development images are refused, that no
-    /// other bundled image is one; reports a refusal as an error. Any thread.
-    bool imagesAccepted(const QByteArray& firmware);
-
     /// Queues `step` for the GUI thread; dropped when the controller is gone by then.
     static void postStep(const QPointer<UpdateController>& self,
                          std::function<void(UpdateController&)> step);
@@ -150,12 +144,11 @@ class UpdateController : public QObject {
     void submit(std::function<void(UpdateController&)> job);
 
     void performFlash(const QString& port);
-    std::optional<QByteArray> loadFirmwareImage();
-    bool decideFullFlash(const QString& port, bool eraseAll);
-    void performConfigUpload(const QString& port, const QString& configFile,
-                             const QString& productName);
-    void performConfigUploadData(const QString& port, const QByteArray& configData);
-    void runConfigUpload(const QString& port, const QByteArray& configData);
+    /// A sink that posts what a job reports: `running` when it starts, `complete`
+    /// when it succeeds.
+    JobSink jobSink(FlasherBridge::ProgressHandler progress, const UpdateState& running,
+                    const UpdateState& complete);
+    void finish(const JobOutcome& outcome);
     FlasherBridge::ProgressHandler flashProgressHandler();
     FlasherBridge::ProgressHandler configProgressHandler();
     FlasherBridge::LogHandler libraryLogHandler();

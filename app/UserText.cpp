@@ -1,6 +1,7 @@
 #include <QStringDecoder>
+#include <QStringList>
 
-#include "app/UpdateController.h"
+#include "app/UserText.h"
 
 namespace {
 
@@ -54,7 +55,9 @@ QStringList splitLines(const QString& text) {
 
 }  // namespace
 
-QString UpdateController::errorMessage(esp_error_t code) {
+namespace UserText {
+
+QString errorMessage(esp_error_t code) {
     switch (code) {
         case 1:
             return QStringLiteral("No device found. Is it connected?");
@@ -81,7 +84,7 @@ QString UpdateController::errorMessage(esp_error_t code) {
     }
 }
 
-std::optional<QString> UpdateController::extractMetaVersion(const QByteArray& bytes) {
+std::optional<QString> extractMetaVersion(const QByteArray& bytes) {
     QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     const QString text = decoder.decode(bytes);
     if (decoder.hasError()) {
@@ -101,7 +104,7 @@ std::optional<QString> UpdateController::extractMetaVersion(const QByteArray& by
     return std::nullopt;
 }
 
-QString UpdateController::cleanFirmwareVersion(const QString& reply) {
+QString cleanFirmwareVersion(const QString& reply) {
     QString version = trimmed(reply, isBlank);
     const QLatin1StringView prefix("fluidnc ");
     if (version.toLower().startsWith(prefix)) {
@@ -111,7 +114,9 @@ QString UpdateController::cleanFirmwareVersion(const QString& reply) {
     return suffix < 0 ? version : version.left(suffix);
 }
 
-QString UpdateController::versionSuffix(const QByteArray& configData) {
+QString versionSuffix(const QByteArray& configData) {
     const auto version = extractMetaVersion(configData);
     return version ? QStringLiteral(" v") + *version : QString();
 }
+
+}  // namespace UserText
