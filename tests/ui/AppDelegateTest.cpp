@@ -114,12 +114,21 @@ void AppDelegateTest::menuBarMatchesTheTable() {
         "  ---",
         "  Write Boot Partitions||checkable",
         "  Erase All Flash||checkable",
+        "  ---",
+        "  Back Up Machine Config Before Upload||checkable",
         "Config||",
         "  Update Config||",
         "    Alpha||tag=0",
         "    Beta||tag=1",
         "  ---",
         "  Select from Disk...||",
+        "  ---",
+        "  Save Machine Config\u2026||",
+        "  Compare With Machine\u2026||",
+        "    Alpha||tag=0",
+        "    Beta||tag=1",
+        "    ---",
+        "    Choose File\u2026||",
     };
     QCOMPARE(menus(), expected);
     QCOMPARE(action("About Teskal Firmware Updater")->menuRole(), QAction::AboutRole);
@@ -128,14 +137,16 @@ void AppDelegateTest::menuBarMatchesTheTable() {
     launch({});
     QCOMPARE(menus().mid(menus().indexOf("Config||")),
              QStringList({"Config||", "  No products configured||disabled", "  ---",
-                          "  Select from Disk...||"}));
+                          "  Select from Disk...||", "  ---", "  Save Machine Config\u2026||",
+                          "  Compare With Machine\u2026||", "    Choose File\u2026||"}));
 }
 
 void AppDelegateTest::togglesFlipTheFlagAndTheCheckMark() {
     for (const auto& [title, flag] :
          {std::pair{"Detailed Logging", "detailedLogging"},
           std::pair{"Write Boot Partitions", "writeBootPartitionsEnabled"},
-          std::pair{"Erase All Flash", "eraseAllFlashEnabled"}}) {
+          std::pair{"Erase All Flash", "eraseAllFlashEnabled"},
+          std::pair{"Back Up Machine Config Before Upload", "backupBeforeUploadEnabled"}}) {
         for (const bool on : {true, false}) {
             action(title)->trigger();
             QVERIFY2(m_delegate->updateController().property(flag).toBool() == on, title);
