@@ -1,11 +1,13 @@
 #include <QAction>
 #include <QFile>
+#include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 
@@ -282,9 +284,15 @@ void AppDelegateTest::fileDialogsTakeOnlyTheirExtensions() {
     };
     for (const auto& [request, typed, refusal, taken] : rows) {
         ExtensionFileDialog dialog(m_delegate->window(), request);
+        auto* files = dialog.findChild<QFileSystemModel*>();
+        QVERIFY(files != nullptr);
+        QSignalSpy loaded(files, &QFileSystemModel::directoryLoaded);
         dialog.setDirectory(dir.path());
         dialog.open();
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        // The folder is read on a thread of its own; once it arrives the dialog
+        // re-selects, which must not overtake the typing.
+        QTRY_VERIFY(loaded.count() > 0);
         auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
         QVERIFY(name != nullptr);
         name->setFocus();  // as a user typing there; it then replaces the file list's selection
@@ -297,7 +305,12 @@ void AppDelegateTest::fileDialogsTakeOnlyTheirExtensions() {
         QCOMPARE(asked.first().section('|', 0, 0), refusal);
         QVERIFY(dialog.isVisible());
 
-        name->selectAll();  // typed over
+        // Typed over, back in the name field: a keystroke that lands while the
+        // file list has the focus adds to the list's selection instead.
+        QApplication::setActiveWindow(&dialog);
+        name->setFocus();
+        QTRY_VERIFY(name->hasFocus());
+        name->selectAll();
         QTest::keyClicks(name, taken);
         dialog.accept();
         QCOMPARE(dialog.result(), int(QDialog::Accepted));

@@ -133,8 +133,7 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     QTRY_VERIFY(!delegate.updateController().jobRunning());
     answerNextMessageBox("Keep Running", &asked);
     QVERIFY(delegate.window()->close());
-    QTest::qWait(10);
-    QCOMPARE(asked.last(), QStringLiteral("none"));
+    QCOMPARE(asked.size(), 3);
 }
 
 QTEST_MAIN(EndToEndTest)
