@@ -9,6 +9,7 @@
 
 #include "JobSupport.h"
 #include "api/Jobs.h"
+#include "esp/Packet.h"
 #include "sim/Plotter.h"
 
 namespace {
