@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -10,32 +9,33 @@
 #include "JobSupport.h"
 #include "api/Jobs.h"
 #include "esp/Packet.h"
-#include "sim/Plotter.h"
 
 namespace {
 
 using namespace jobtest;
+using Prepare = std::function<void(WatchedPlotter&)>;
 
 class DeviceJobsTest : public ::testing::Test {
   protected:
     void SetUp() override { clearRecords(); }
 
-    // A fresh plotter set up by `setup`, connected to `port`.
-    sim::Plotter& device(const std::function<void(sim::Config&)>& setup = [](auto&) {}) {
-        auto& plotter = plotters.emplace_back(std::make_unique<sim::Plotter>());
-        setup(plotter->config());
-        plotter->connectLoopback(port);
-        return *plotter;
+    // A fresh plotter set up by `setup`, connected to `port` with `stale` waiting.
+    WatchedPlotter& device(
+        const Prepare& setup = [](auto&) {}, const Bytes& stale = {}) {
+        auto& watched = devices.emplace_back(std::make_unique<WatchedPlotter>());
+        setup(*watched);
+        watched->connect(port, stale);
+        return *watched;
     }
 
-    std::vector<std::unique_ptr<sim::Plotter>> plotters;
+    std::vector<std::unique_ptr<WatchedPlotter>> devices;
     SerialPort port;
 };
 
 TEST_F(DeviceJobsTest, UploadStoresTheFileAfterTheQueryAndRestarts) {
     for (const size_t size : {3000, 0}) {
         clearRecords();
-        const auto& plotter = device();
+        const auto& plotter = device().plotter;
         const auto file = pattern(size, 5);
         ASSERT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress), 0u);
         const auto& transcript = plotter.transcript();
@@ -54,23 +54,98 @@ TEST_F(DeviceJobsTest, UploadStoresTheFileAfterTheQueryAndRestarts) {
 }
 
 TEST_F(DeviceJobsTest, UploadFailuresReturn8WithoutRestart) {
-    const auto& unanswered = device([](auto& c) { c.xmodemHandshake = false; });
+    const auto& unanswered = device([](auto& d) { d.plotter.config().xmodemHandshake = false; });
     const auto file = pattern(5000, 5);
     EXPECT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress), 8u);
     const decltype(progressCalls) report = {{0.0f, "XModem: no handshake received (30s timeout)"}};
     EXPECT_EQ(progressCalls, report);
 
-    const auto& cancelling = device([](auto& c) { c.xmodemCanBlock = 2; });
+    const auto& cancelling = device([](auto& d) { d.plotter.config().xmodemCanBlock = 2; });
     EXPECT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), nullptr), 8u);
-    for (const auto* plotter : {&unanswered, &cancelling}) {
-        EXPECT_FALSE(plotter->storedConfig().has_value());
-        EXPECT_NE(plotter->transcript().back(), "$Bye");
+    for (const auto* watched : {&unanswered, &cancelling}) {
+        EXPECT_FALSE(watched->plotter.storedConfig().has_value());
+        EXPECT_NE(watched->plotter.transcript().back(), "$Bye");
     }
+}
+
+// Within the few milliseconds by which read loops stop short of their deadlines:
+// settle 500 ms, drain 50 ms, "$I" (2 s to answer), "$Xmodem...", a drain of 500 ms
+// that swallows the receiver's first request (200 ms after the command), its next
+// one a second later, the blocks, 5 s for an "ok" that never comes, "$Bye", 500 ms.
+TEST_F(DeviceJobsTest, UploadKeepsItsWaitsAndDropsStaleConsoleOutput) {
+    const std::string command = "$Xmodem/Receive=config.yaml";
+    const std::vector<WatchedPlotter::Write> answered = {
+        {550, "$I"}, {550, command}, {1750, "block 1"}, {1750, "EOT"}, {6750, "$Bye"}};
+    const std::vector<WatchedPlotter::Write> unanswered = {
+        {550, "$I"}, {2550, command}, {3750, "block 1"}, {3750, "EOT"}, {8750, "$Bye"}};
+    // More than two of the console's bounded drains (64 KiB each) can swallow.
+    Bytes chatter;
+    for (int i = 0; i < 64 * 1024; ++i) {
+        chatter.insert(chatter.end(), {'o', 'k', '\r', '\n'});
+    }
+    const struct {
+        const char* name;
+        Prepare setup;
+        Bytes stale;
+        std::vector<WatchedPlotter::Write> writes;
+    } cases[] = {
+        {"version answered", [](auto&) {}, {}, answered},
+        {"version unanswered", [](auto& d) { d.answerVersion = false; }, {}, unanswered},
+        {"stale output before the query", [](auto&) {}, chatter, answered},
+        {"stale output after the answer", [&](auto& d) { d.afterVersion = chatter; }, {}, answered},
+    };
+    const auto file = pattern(700, 5);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        auto& watched = device(
+            [&](WatchedPlotter& d) {
+                d.plotter.config().handshakeFirstMs = 200;
+                d.quietAfterUpload = true;
+                c.setup(d);
+            },
+            c.stale);
+        ASSERT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), nullptr), 0u);
+        EXPECT_EQ(watched.plotter.storedConfig(), file);
+        ASSERT_EQ(watched.writes.size(), c.writes.size()) << testing::PrintToString(watched.writes);
+        for (size_t i = 0; i < c.writes.size(); ++i) {
+            EXPECT_EQ(watched.writes[i].second, c.writes[i].second);
+            EXPECT_NEAR(watched.writes[i].first, c.writes[i].first, 5) << c.writes[i].second;
+        }
+        EXPECT_NEAR(watched.elapsedMs(), c.writes.back().first + 500, 5);
+    }
+}
+
+TEST_F(DeviceJobsTest, EveryConsoleJobSettlesHalfASecondAndDrainsBeforeItsQuery) {
+    const struct {
+        const char* job;
+        std::function<void(SerialPort&)> run;
+    } cases[] = {
+        {"version query", [](SerialPort& p) { esp::runQueryVersionJob(p); }},
+        {"upload", [](SerialPort& p) { esp::runUploadConfigJob(p, nullptr, 0, nullptr); }},
+        {"download",
+         [](SerialPort& p) { esp::runDownloadFileJob(p, "config.yaml", nullptr, nullptr); }},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.job);
+        auto& watched = device();
+        c.run(port);
+        ASSERT_FALSE(watched.writes.empty());
+        EXPECT_EQ(watched.writes.front().second, "$I");
+        EXPECT_NEAR(watched.writes.front().first, 550, 5);
+    }
+}
+
+TEST_F(DeviceJobsTest, QueryVersionTellsAnEmptyVersionFromNoneWithinTwoSeconds) {
+    device([](auto& d) { d.plotter.config().versionReport = ""; });
+    EXPECT_EQ(esp::runQueryVersionJob(port), std::string());
+    const auto& silent = device([](auto& d) { d.plotter.config().silentConsole = true; });
+    EXPECT_EQ(esp::runQueryVersionJob(port), std::nullopt);
+    EXPECT_NEAR(silent.elapsedMs(), 500 + 50 + 2000, 5);
 }
 
 // A configuration as the machine keeps it: text, so never ending in the 0x1A that
 // XModem pads with.
-std::vector<uint8_t> configFile(size_t size) {
+Bytes configFile(size_t size) {
     auto file = pattern(size, 7);
     if (!file.empty()) {
         file.back() = '\n';
@@ -88,9 +163,9 @@ TEST_F(DeviceJobsTest, DownloadGivesBackTheUploadedBytes) {
             SCOPED_TRACE(testing::Message() << (mode.crc ? "CRC " : "checksum ") << mode.blockSize
                                             << "-byte blocks, " << size << " bytes");
             clearRecords();
-            device([&](auto& c) {
-                c.xmodemCrc = c.xmodemSendCrc = mode.crc;
-                c.xmodemSendBlockSize = mode.blockSize;
+            device([&](auto& d) {
+                d.plotter.config().xmodemCrc = d.plotter.config().xmodemSendCrc = mode.crc;
+                d.plotter.config().xmodemSendBlockSize = mode.blockSize;
             });
             const auto file = configFile(size);
             ASSERT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), nullptr), 0u);
@@ -129,9 +204,9 @@ TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         clearRecords();
-        device([&](auto& config) {
-            config.machineConfig = std::string(file.begin(), file.end());
-            c.setup(config);
+        device([&](auto& d) {
+            d.plotter.config().machineConfig = std::string(file.begin(), file.end());
+            c.setup(d.plotter.config());
         });
         const auto downloaded = esp::runDownloadFileJob(port, "config.yaml", nullptr, recordLog);
         if (c.failure == nullptr) {
@@ -144,14 +219,8 @@ TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
     }
 }
 
-TEST_F(DeviceJobsTest, QueryVersionTellsAnEmptyVersionFromNone) {
-    device([](auto& c) { c.versionReport = ""; });
-    EXPECT_EQ(esp::runQueryVersionJob(port), std::string());
-    device([](auto& c) { c.silentConsole = true; });
-    EXPECT_EQ(esp::runQueryVersionJob(port), std::nullopt);
-}
-
-TEST_F(DeviceJobsTest, ProbeReadsTheTableThroughTheStub) {
+// The probe leaves the chip in its loader: it settles 500 ms first and never resets it.
+TEST_F(DeviceJobsTest, ProbeReadsTheTableThroughTheStubWithoutAReset) {
     const struct {
         const char* name;
         std::function<void(sim::Plotter&)> setup;
@@ -177,8 +246,10 @@ TEST_F(DeviceJobsTest, ProbeReadsTheTableThroughTheStub) {
     const auto stub = stubImage();
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
-        c.setup(device());
+        const auto& watched = device([&](auto& d) { c.setup(d.plotter); });
         EXPECT_EQ(esp::runProbePartitionTableJob(port, stub.data(), stub.size()), c.expected);
+        EXPECT_EQ(watched.firstActionMs, 500);
+        EXPECT_TRUE(watched.endsWithoutReset());
     }
 }
 
