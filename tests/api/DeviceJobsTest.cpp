@@ -32,27 +32,6 @@ class DeviceJobsTest : public ::testing::Test {
     SerialPort port;
 };
 
-TEST_F(DeviceJobsTest, UploadStoresTheFileAfterTheQueryAndRestarts) {
-    for (const size_t size : {3000, 0}) {
-        clearRecords();
-        const auto& plotter = device().plotter;
-        const auto file = pattern(size, 5);
-        ASSERT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress), 0u);
-        const auto& transcript = plotter.transcript();
-        EXPECT_EQ(transcript.front(), "$I");
-        EXPECT_EQ(transcript.back(), "$Bye");
-        if (size == 0) {
-            EXPECT_TRUE(progressCalls.empty());
-            continue;
-        }
-        EXPECT_EQ(plotter.storedConfig(), file);
-        EXPECT_EQ(transcript[2], "XMODEM 1");
-        ASSERT_FALSE(progressCalls.empty());
-        EXPECT_EQ(progressCalls.back(),
-                  std::make_pair(1.0f, std::string("Uploading config file...")));
-    }
-}
-
 TEST_F(DeviceJobsTest, UploadFailuresReturn8WithoutRestart) {
     const auto& unanswered = device([](auto& d) { d.plotter.config().xmodemHandshake = false; });
     const auto file = pattern(5000, 5);
@@ -74,27 +53,40 @@ TEST_F(DeviceJobsTest, UploadFailuresReturn8WithoutRestart) {
 // one a second later, the blocks, 5 s for an "ok" that never comes, "$Bye", 500 ms.
 TEST_F(DeviceJobsTest, UploadKeepsItsWaitsAndDropsStaleConsoleOutput) {
     const std::string command = "$Xmodem/Receive=config.yaml";
-    const std::vector<WatchedPlotter::Write> answered = {
+    using Writes = std::vector<WatchedPlotter::Write>;
+    const Writes answered = {
         {550, "$I"}, {550, command}, {1750, "block 1"}, {1750, "EOT"}, {6750, "$Bye"}};
-    const std::vector<WatchedPlotter::Write> unanswered = {
-        {550, "$I"}, {2550, command}, {3750, "block 1"}, {3750, "EOT"}, {8750, "$Bye"}};
     // More than two of the console's bounded drains (64 KiB each) can swallow.
     Bytes chatter;
     for (int i = 0; i < 64 * 1024; ++i) {
         chatter.insert(chatter.end(), {'o', 'k', '\r', '\n'});
     }
+    const auto file = pattern(700, 5);
     const struct {
         const char* name;
         Prepare setup;
         Bytes stale;
-        std::vector<WatchedPlotter::Write> writes;
+        Bytes file;
+        Writes writes;
     } cases[] = {
-        {"version answered", [](auto&) {}, {}, answered},
-        {"version unanswered", [](auto& d) { d.answerVersion = false; }, {}, unanswered},
-        {"stale output before the query", [](auto&) {}, chatter, answered},
-        {"stale output after the answer", [&](auto& d) { d.afterVersion = chatter; }, {}, answered},
+        {"version answered", [](auto&) {}, {}, file, answered},
+        {"version unanswered",
+         [](auto& d) { d.answerVersion = false; },
+         {},
+         file,
+         {{550, "$I"}, {2550, command}, {3750, "block 1"}, {3750, "EOT"}, {8750, "$Bye"}}},
+        {"stale output before the query", [](auto&) {}, chatter, file, answered},
+        {"stale output after the answer",
+         [&](auto& d) { d.afterVersion = chatter; },
+         {},
+         file,
+         answered},
+        {"empty file",
+         [](auto&) {},
+         {},
+         {},
+         {{550, "$I"}, {550, command}, {1750, "EOT"}, {6750, "$Bye"}}},
     };
-    const auto file = pattern(700, 5);
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         auto& watched = device(
@@ -104,34 +96,16 @@ TEST_F(DeviceJobsTest, UploadKeepsItsWaitsAndDropsStaleConsoleOutput) {
                 c.setup(d);
             },
             c.stale);
-        ASSERT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), nullptr), 0u);
-        EXPECT_EQ(watched.plotter.storedConfig(), file);
+        clearRecords();
+        ASSERT_EQ(esp::runUploadConfigJob(port, c.file.data(), c.file.size(), recordProgress), 0u);
+        EXPECT_EQ(watched.plotter.storedConfig(), c.file);
+        EXPECT_EQ(progressCalls.size(), c.file.empty() ? 0u : 1u);
         ASSERT_EQ(watched.writes.size(), c.writes.size()) << testing::PrintToString(watched.writes);
         for (size_t i = 0; i < c.writes.size(); ++i) {
             EXPECT_EQ(watched.writes[i].second, c.writes[i].second);
             EXPECT_NEAR(watched.writes[i].first, c.writes[i].first, 5) << c.writes[i].second;
         }
         EXPECT_NEAR(watched.elapsedMs(), c.writes.back().first + 500, 5);
-    }
-}
-
-TEST_F(DeviceJobsTest, EveryConsoleJobSettlesHalfASecondAndDrainsBeforeItsQuery) {
-    const struct {
-        const char* job;
-        std::function<void(SerialPort&)> run;
-    } cases[] = {
-        {"version query", [](SerialPort& p) { esp::runQueryVersionJob(p); }},
-        {"upload", [](SerialPort& p) { esp::runUploadConfigJob(p, nullptr, 0, nullptr); }},
-        {"download",
-         [](SerialPort& p) { esp::runDownloadFileJob(p, "config.yaml", nullptr, nullptr); }},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.job);
-        auto& watched = device();
-        c.run(port);
-        ASSERT_FALSE(watched.writes.empty());
-        EXPECT_EQ(watched.writes.front().second, "$I");
-        EXPECT_NEAR(watched.writes.front().first, 550, 5);
     }
 }
 
@@ -204,11 +178,13 @@ TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         clearRecords();
-        device([&](auto& d) {
+        const auto& watched = device([&](auto& d) {
             d.plotter.config().machineConfig = std::string(file.begin(), file.end());
             c.setup(d.plotter.config());
         });
         const auto downloaded = esp::runDownloadFileJob(port, "config.yaml", nullptr, recordLog);
+        EXPECT_EQ(watched.writes.front().second, "$I") << "after the settle and a drain";
+        EXPECT_NEAR(watched.writes.front().first, 550, 5);
         if (c.failure == nullptr) {
             EXPECT_EQ(downloaded, file);
             EXPECT_TRUE(logLines.empty());
