@@ -4,23 +4,18 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 #include <string>
 #include <vector>
 
 #include "JobSupport.h"
 #include "api/esp_flasher.h"
 #include "sim/PtyPlotter.h"
+#include "tests/support/Descriptors.h"
 
 // The entry points of the shared library, over pseudo-terminals in real time.
 namespace {
 
 using namespace jobtest;
-
-size_t openDescriptors() {
-    const std::filesystem::directory_iterator entries("/proc/self/fd");
-    return static_cast<size_t>(std::distance(begin(entries), end(entries)));
-}
 
 const Bytes firmware = pattern(70000, 1);
 const Bytes stub = stubImage();
@@ -36,7 +31,7 @@ TEST(EntryPoint, EveryJobAgainstOnePlotter) {
     config.versionReport = "2.10.6 (sim)";
     sim::PtyPlotter device(config);
     const std::string path = device.path();
-    const size_t descriptors = openDescriptors();
+    const size_t descriptors = fdcheck::openDescriptorCount();
 
     ASSERT_EQ(esp_flash_firmware(path.c_str(), firmware.data(), firmware.size(), bootloader.data(),
                                  bootloader.size(), partitions.data(), partitions.size(),
@@ -74,7 +69,7 @@ TEST(EntryPoint, EveryJobAgainstOnePlotter) {
     EXPECT_EQ(logLines, Lines{"XModem download: cancelled by the device"});
     // Last: the probe leaves the chip in its loader.
     EXPECT_EQ(esp_probe_partition_table(path.c_str(), stub.data(), stub.size()), 1);
-    EXPECT_EQ(openDescriptors(), descriptors);
+    EXPECT_EQ(fdcheck::openDescriptorCount(), descriptors);
 }
 
 // A missing node, and a regular file that nobody else holds: it opens but has no
@@ -83,7 +78,7 @@ TEST(EntryPoint, EveryJobAgainstOnePlotter) {
 TEST(EntryPoint, PortsThatCannotBeOpenedFailEveryCallAndLeaveNoDescriptor) {
     char notATerminal[] = "/tmp/tfu-not-a-terminal-XXXXXX";
     ::close(::mkstemp(notATerminal));
-    const size_t descriptors = openDescriptors();
+    const size_t descriptors = fdcheck::openDescriptorCount();
     for (const std::string& path :
          {std::string("/nonexistent/ttyACM0"), std::string(notATerminal)}) {
         SCOPED_TRACE(path);
@@ -110,7 +105,7 @@ TEST(EntryPoint, PortsThatCannotBeOpenedFailEveryCallAndLeaveNoDescriptor) {
             ASSERT_TRUE(progressCalls.empty());
         }
     }
-    EXPECT_EQ(openDescriptors(), descriptors);
+    EXPECT_EQ(fdcheck::openDescriptorCount(), descriptors);
     ::unlink(notATerminal);
 }
 

@@ -2,16 +2,16 @@
 
 #include <optional>
 
-#include "Descriptors.h"
 #include "api/Jobs.h"
 #include "sim/Plotter.h"
+#include "tests/support/Descriptors.h"
 #include "tests/support/TestImages.h"
 
 // A long series of jobs, good and bad, must leave nothing behind: no descriptor,
 // no heap that grows with the number of jobs.
 namespace {
 
-using namespace reliability;
+using namespace fdcheck;
 
 TEST(Hygiene, ThousandJobsLeaveDescriptorsAndHeapFlat) {
     const auto firmware = testimg::pattern(40000, 1);

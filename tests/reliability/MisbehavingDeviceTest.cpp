@@ -17,9 +17,9 @@
 #include <thread>
 #include <vector>
 
-#include "Descriptors.h"
 #include "api/esp_flasher.h"
 #include "sim/PtyPlotter.h"
+#include "tests/support/Descriptors.h"
 #include "tests/support/TestImages.h"
 
 // Plotters that do what no healthy one does, and other programs on the plotter's
@@ -27,7 +27,7 @@
 namespace {
 
 using namespace std::chrono_literals;
-using namespace reliability;
+using namespace fdcheck;
 using Clock = std::chrono::steady_clock;
 using Lines = std::vector<std::string>;
 

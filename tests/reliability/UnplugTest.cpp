@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "Descriptors.h"
 #include "api/esp_flasher.h"
 #include "sim/PtyPlotter.h"
+#include "tests/support/Descriptors.h"
 #include "tests/support/TestImages.h"
 
 // The plotter's cable is pulled in the middle of a job, over a real pseudo-terminal
@@ -17,7 +17,7 @@
 // bound is the time-outs of the step that was waiting.
 namespace {
 
-using namespace reliability;
+using namespace fdcheck;
 
 const std::vector<uint8_t> firmware = testimg::pattern(5 * 16384 + 123, 1);
 const std::vector<uint8_t> configFile = testimg::pattern(6000, 9);
