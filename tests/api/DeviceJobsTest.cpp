@@ -195,6 +195,27 @@ TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
     }
 }
 
+TEST(PartitionTable, NeedsAReachableApplicationEntryAt0x10000) {
+    const std::pair<std::string, bool> cases[] = {
+        {"ddA" + std::string(93, '-'), true},
+        {"D", false},
+        {"a", false},
+        {"xA", false},
+        {"d-A", false},
+        {"d~", false},
+        {std::string(127, 'd') + "A", true},
+        {std::string(128, 'd') + "A", false},
+    };
+    for (const auto& [entries, valid] : cases) {
+        const auto bytes = partitionTable(entries);
+        EXPECT_EQ(esp::isPartitionTableValid(bytes.data(), bytes.size()), valid)
+            << entries.substr(0, 8) << " (" << entries.size() << " entries)";
+    }
+    EXPECT_FALSE(esp::isPartitionTableValid(nullptr, 3072));
+    const std::vector<uint8_t> short31(31, 0xAA);
+    EXPECT_FALSE(esp::isPartitionTableValid(short31.data(), short31.size()));
+}
+
 // The probe leaves the chip in its loader: it settles 500 ms first and never resets it.
 TEST_F(DeviceJobsTest, ProbeReadsTheTableThroughTheStubWithoutAReset) {
     const struct {

@@ -214,6 +214,7 @@ TEST_F(FlashTest, ReadFlashGathersFramesAndWaitsForTheTrailer) {
         {{}, 0, {}, 1000},
     };
     for (const auto& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(c.frames));
         reply = [&](const Request& r) {
             for (size_t at = 0; const size_t size : c.frames) {
                 pieces.push_back(

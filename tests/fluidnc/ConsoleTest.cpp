@@ -113,14 +113,4 @@ TEST(WaitForOk, EndsOnALineContainingOkOrAtTheDeadline) {
     EXPECT_EQ(console.pending.size(), 1u) << "no time, no read";
 }
 
-TEST(SendRestart, WritesByeAndPausesForTheRestart) {
-    FakeConsole console;
-    SerialPort port;
-    console.attach(port);
-    const int64_t start = mono::nowNs();
-    fluidnc::sendRestart(port);
-    EXPECT_EQ(console.written, "$Bye\n");
-    EXPECT_EQ(virtualMsSince(start), 500);
-}
-
 }  // namespace

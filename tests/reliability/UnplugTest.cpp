@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <cstdlib>
 #include <functional>
 #include <string>
 #include <vector>
@@ -57,22 +56,6 @@ TEST(Unplug, MidJobTheJobFailsWithinItsStepTimeOutAndReleasesThePort) {
                   c.boundS);
         EXPECT_EQ(descriptorsOn(plotter.path()), 0u) << "the job left its port open";
     }
-}
-
-TEST(Unplug, AfterTheLineIsGoneNothingOpensItAndNoDescriptorIsLeft) {
-    const size_t before = openDescriptorCount();
-    {
-        sim::PtyPlotter plotter;
-        char* version = esp_query_version(plotter.path().c_str());
-        ASSERT_NE(version, nullptr);
-        std::free(version);
-        plotter.unplug();
-        EXPECT_EQ(esp_query_version(plotter.path().c_str()), nullptr);
-        EXPECT_EQ(upload(plotter.path()), 2u);
-        EXPECT_EQ(flash(plotter.path()), 2u);
-        EXPECT_EQ(descriptorsOn(plotter.path()), 0u);
-    }
-    EXPECT_EQ(openDescriptorCount(), before);
 }
 
 }  // namespace
