@@ -112,6 +112,10 @@ struct ModeCase {
     std::vector<uint8_t> trailers[2];  // of the two blocks; together they use every CRC table entry
 };
 
+void PrintTo(const ModeCase& c, std::ostream* os) {
+    *os << c.name;
+}
+
 class XModemModeTest : public XModemTest, public ::testing::WithParamInterface<ModeCase> {};
 
 TEST_P(XModemModeTest, SendsPaddedBlocksWithTheCheckTheReceiverAskedFor) {
