@@ -1,12 +1,16 @@
 #include "app/UpdateController.h"
 
+#include <QDateTime>
 #include <QFileInfo>
 #include <QMutexLocker>
 #include <QPointer>
 
 #include "app/BuildConfig.h"
+#include "app/CompareMachineConfigJob.h"
 #include "app/ConfigUploadJob.h"
 #include "app/FirmwareUpdateJob.h"
+#include "app/MachineConfigBackup.h"
+#include "app/SaveMachineConfigJob.h"
 
 UpdateController::UpdateController(QObject* parent)
     : UpdateController(ResourceBundle::located(), DeviceMonitor::Detector(esp_detect_device),
@@ -65,12 +69,10 @@ void UpdateController::uploadConfig(const QString& configFile, const QString& pr
         return;
     }
     clearLog();
-    submit([port = *port,
-            product = ProductConfig{productName, configFile}](UpdateController& controller) {
-        const ConfigUploadJob job(port, controller.m_resources, product);
-        controller.finish(job.run(controller.jobSink(controller.configProgressHandler(),
-                                                     UpdateState::uploadingConfig(0.0f),
-                                                     UpdateState::configComplete())));
+    submit([port = *port, product = ProductConfig{productName, configFile},
+            backUp = m_backupBeforeUpload](UpdateController& controller) {
+        controller.performConfigUpload(port, ConfigUploadJob(port, controller.m_resources, product),
+                                       backUp);
     });
 }
 
@@ -86,12 +88,63 @@ void UpdateController::uploadConfigFromFile(const QString& path) {
     }
     clearLog();
     log(config.announcement);
-    submit([port = *port, configData = *config.bytes](UpdateController& controller) {
-        const ConfigUploadJob job(port, configData);
-        controller.finish(job.run(controller.jobSink(controller.configProgressHandler(),
-                                                     UpdateState::uploadingConfig(0.0f),
-                                                     UpdateState::configComplete())));
+    submit([port = *port, configData = *config.bytes,
+            backUp = m_backupBeforeUpload](UpdateController& controller) {
+        controller.performConfigUpload(port, ConfigUploadJob(port, configData), backUp);
     });
+}
+
+void UpdateController::saveMachineConfig(const QString& destination) {
+    const auto port = portForNewJob();
+    if (!port) {
+        return;
+    }
+    clearLog();
+    submit([port = *port, destination](UpdateController& controller) {
+        controller.setState(UpdateState::probing());
+        const SaveMachineConfigJob job(port, destination);
+        controller.finishDownload(job.run(controller.downloadSink()),
+                                  QStringLiteral("Machine config saved"));
+    });
+}
+
+void UpdateController::compareWithMachine(const ConfigChoice& choice) {
+    const auto port = portForNewJob();
+    if (!port) {
+        return;
+    }
+    const auto chosen = readChoice(choice);
+    if (!chosen) {
+        return;
+    }
+    clearLog();
+    submit([port = *port, chosen = *chosen, choice](UpdateController& controller) {
+        controller.setState(UpdateState::probing());
+        CompareMachineConfigJob job(port, chosen);
+        const auto failure = job.run(controller.downloadSink());
+        controller.finishDownload(failure, QStringLiteral("Machine config compared"),
+                                  [comparison = job.comparison(), choice](UpdateController& self) {
+                                      emit self.machineConfigCompared(comparison, choice);
+                                  });
+    });
+}
+
+std::optional<ConfigText> UpdateController::readChoice(const ConfigChoice& choice) {
+    if (choice.product) {
+        const auto bytes = m_resources.readConfig(choice.product->configFile);
+        if (!bytes) {
+            log(QStringLiteral("ERROR: Config file not found in bundle: ") +
+                choice.product->configFile);
+            return std::nullopt;
+        }
+        return ConfigText{choice.label(), *bytes};
+    }
+    const ConfigFile file = readConfigFile(choice.path);
+    if (!file.bytes) {
+        log(QStringLiteral("ERROR: ") + file.refusal);
+        return std::nullopt;
+    }
+    return ConfigText{choice.label(), *file.bytes};
 }
 
 void UpdateController::chooseCustomFirmware(const std::optional<QString>& path) {
@@ -162,6 +215,20 @@ void UpdateController::performFlash(const QString& port) {
                            UpdateState::flashComplete())));
 }
 
+void UpdateController::performConfigUpload(const QString& port, const ConfigUploadJob& job,
+                                           bool backUp) {
+    if (backUp) {
+        setState(UpdateState::probing());
+        if (const auto failure =
+                MachineConfigBackup::run(port, QDateTime::currentDateTime(), downloadSink())) {
+            logError(*failure);
+            return;
+        }
+    }
+    finish(job.run(jobSink(configProgressHandler(), UpdateState::uploadingConfig(0.0f),
+                           UpdateState::configComplete())));
+}
+
 JobSink UpdateController::jobSink(FlasherBridge::ProgressHandler progress,
                                   const UpdateState& running, const UpdateState& complete) {
     JobSink sink;
@@ -205,6 +272,37 @@ FlasherBridge::ProgressHandler UpdateController::configProgressHandler() {
             controller.assignStatus(message);
         });
     };
+}
+
+JobSink UpdateController::downloadSink() {
+    JobSink sink;
+    // XModem names no size in advance, so the bar stays indeterminate and the count
+    // of bytes, which changes with every block, is shown but not logged.
+    sink.progress = [self = QPointer(this)](float fraction, const QString& message) {
+        postStep(self, [fraction, message](UpdateController& controller) {
+            controller.assignProgress(fraction);
+            if (!message.isEmpty()) {
+                controller.assignStatus(message);
+            }
+        });
+    };
+    sink.log = [this](const QString& line) { log(line); };
+    return sink;
+}
+
+void UpdateController::finishDownload(const std::optional<QString>& failure, const QString& status,
+                                      std::function<void(UpdateController&)> then) {
+    if (failure) {
+        logError(*failure);
+        return;
+    }
+    postStep(this, [status, then = std::move(then)](UpdateController& controller) {
+        controller.assignState(UpdateState::ready());
+        controller.assignStatus(status);
+        if (then) {
+            then(controller);
+        }
+    });
 }
 
 FlasherBridge::LogHandler UpdateController::libraryLogHandler() {

@@ -12,6 +12,8 @@
 #include <functional>
 #include <optional>
 
+#include "app/ConfigChoice.h"
+#include "app/ConfigDiff.h"
 #include "app/DeviceMonitor.h"
 #include "app/FirmwareCheck.h"
 #include "app/FlasherBridge.h"
@@ -22,10 +24,12 @@
 #include "app/UserText.h"
 #include "esp_flasher.h"
 
+class ConfigUploadJob;
+
 /// The application's one controller: owns the device monitor, publishes what the
-/// main window shows, and runs the two jobs (`FirmwareUpdateJob`,
-/// `ConfigUploadJob`) on a private background worker, one at a time, turning what
-/// they report into its published state.
+/// main window shows, and runs its jobs (`FirmwareUpdateJob`, `ConfigUploadJob`,
+/// `SaveMachineConfigJob`, `CompareMachineConfigJob`) on a private background
+/// worker, one at a time, turning what they report into its published state.
 ///
 /// Threading: create it and call every public function on the GUI thread, except
 /// `log`, which may be called from any thread. Published properties are written
@@ -45,6 +49,8 @@ class UpdateController : public QObject {
     Q_PROPERTY(bool writeBootPartitionsEnabled READ writeBootPartitionsEnabled WRITE
                    setWriteBootPartitionsEnabled)
     Q_PROPERTY(bool eraseAllFlashEnabled READ eraseAllFlashEnabled WRITE setEraseAllFlashEnabled)
+    Q_PROPERTY(bool backupBeforeUploadEnabled READ backupBeforeUploadEnabled WRITE
+                   setBackupBeforeUploadEnabled)
     Q_PROPERTY(bool jobRunning READ jobRunning NOTIFY jobRunningChanged)
 
   public:
@@ -85,6 +91,11 @@ class UpdateController : public QObject {
     /// When set, the firmware update is a full flash that erases the whole chip first.
     bool eraseAllFlashEnabled() const { return m_eraseAllFlash; }
     void setEraseAllFlashEnabled(bool enabled) { m_eraseAllFlash = enabled; }
+    /// When set, every configuration upload first saves the machine's config.yaml
+    /// in `MachineConfigBackup::folder()` and does not start when that fails. Read
+    /// when the upload is started.
+    bool backupBeforeUploadEnabled() const { return m_backupBeforeUpload; }
+    void setBackupBeforeUploadEnabled(bool enabled) { m_backupBeforeUpload = enabled; }
 
     /// Owned by the controller for its whole life.
     DeviceMonitor* deviceMonitor() const { return m_monitor; }
@@ -113,8 +124,8 @@ class UpdateController : public QObject {
     }
 
   public slots:
-    /// The three start operations refuse, with one "ERROR: " log line and no other
-    /// change, when no device is connected or a job is still running.
+    /// The start operations refuse, with one "ERROR: " log line and no other change,
+    /// when no device is connected or a job is still running.
     ///
     /// Starts a firmware update on the monitor's port.
     void updateFirmware();
@@ -124,6 +135,17 @@ class UpdateController : public QObject {
     /// not a valid machine configuration (see `machineConfigProblem`) is refused
     /// with one "ERROR: " log line and no other change.
     void uploadConfigFromFile(const QString& path);
+    /// Downloads the machine's config.yaml and saves it at `destination` (see
+    /// `SaveMachineConfigJob`). While it runs the state is `probing` and the status
+    /// line shows the bytes received; it ends `ready` with the status "Machine
+    /// config saved", or as an error.
+    void saveMachineConfig(const QString& destination);
+    /// Reads the chosen configuration (refused like an upload of it when it cannot
+    /// be read or is not a valid machine configuration), then downloads the
+    /// machine's config.yaml and compares the two (see `CompareMachineConfigJob`),
+    /// with the states of `saveMachineConfig`; on success the status is "Machine
+    /// config compared" and `machineConfigCompared` is emitted.
+    void compareWithMachine(const ConfigChoice& choice);
     /// Appends a line to the log, asynchronously on the GUI thread, in call order.
     void log(const QString& line);
 
@@ -134,6 +156,9 @@ class UpdateController : public QObject {
     void logMessagesChanged(const QStringList& logMessages);
     void customFirmwareURLChanged(const QUrl& location);
     void jobRunningChanged(bool running);
+    /// A comparison started by `compareWithMachine` has ended; from the machine's
+    /// configuration to the `chosen` one.
+    void machineConfigCompared(const ConfigComparison& comparison, const ConfigChoice& chosen);
 
   private:
     /// Queues `step` for the GUI thread; dropped when the controller is gone by then.
@@ -144,6 +169,11 @@ class UpdateController : public QObject {
     void submit(std::function<void(UpdateController&)> job);
 
     void performFlash(const QString& port);
+    /// Backs up the machine's configuration first when `backUp` is set.
+    void performConfigUpload(const QString& port, const ConfigUploadJob& job, bool backUp);
+    /// The chosen configuration as it is to be compared; none, with one "ERROR: "
+    /// log line, when it cannot be.
+    std::optional<ConfigText> readChoice(const ConfigChoice& choice);
     /// A sink that posts what a job reports: `running` when it starts, `complete`
     /// when it succeeds.
     JobSink jobSink(FlasherBridge::ProgressHandler progress, const UpdateState& running,
@@ -151,6 +181,11 @@ class UpdateController : public QObject {
     void finish(const JobOutcome& outcome);
     FlasherBridge::ProgressHandler flashProgressHandler();
     FlasherBridge::ProgressHandler configProgressHandler();
+    /// Where a download reports: its byte count goes to the status line only.
+    JobSink downloadSink();
+    /// Ends a save or a comparison: an error, or `ready` with `status` and then `then`.
+    void finishDownload(const std::optional<QString>& failure, const QString& status,
+                        std::function<void(UpdateController&)> then = {});
     FlasherBridge::LogHandler libraryLogHandler();
 
     void logError(const QString& message);
@@ -174,6 +209,7 @@ class UpdateController : public QObject {
     std::atomic<bool> m_detailedLogging = false;
     std::atomic<bool> m_writeBootPartitions = false;
     std::atomic<bool> m_eraseAllFlash = false;
+    bool m_backupBeforeUpload = false;
     bool m_jobRunning = false;
     // Last member: destroyed first, so a running job finishes while the rest of
     // the controller still exists.

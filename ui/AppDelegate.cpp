@@ -9,9 +9,11 @@
 #include <QUrl>
 
 #include "app/LogExport.h"
+#include "app/SaveMachineConfigJob.h"
 #include "app/SleepInhibitor.h"
 #include "app/UpdateController.h"
 #include "ui/AboutWindow.h"
+#include "ui/CompareWindow.h"
 #include "ui/UpdaterView.h"
 
 namespace {
@@ -42,12 +44,15 @@ AppDelegate::AppDelegate(std::unique_ptr<UpdateController> controller, Options o
       m_sleepInhibitor(new SleepInhibitor(QDBusConnection::systemBus(), this)) {
     connect(m_updateController.get(), &UpdateController::jobRunningChanged, m_sleepInhibitor,
             &SleepInhibitor::setHeld);
+    connect(m_updateController.get(), &UpdateController::machineConfigCompared, this,
+            &AppDelegate::showComparison);
 }
 
 AppDelegate::~AppDelegate() {
-    // The view and the About window go before the controller they observe.
+    // The windows go before the controller they observe.
     m_window.reset();
     m_aboutWindow.reset();
+    m_compareWindow.reset();
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -99,7 +104,8 @@ void AppDelegate::useBundledFirmware() {
 void AppDelegate::saveLog() {
     const QDateTime now = QDateTime::currentDateTime();
     const auto path = m_options.chooseSaveFile(
-        m_window.get(), {QStringLiteral("Save Log"), LogExport::defaultFileName(now)});
+        m_window.get(), {QStringLiteral("Save Log"), LogExport::defaultFileName(now),
+                         QStringLiteral("Text files (*.txt)")});
     if (!path) {
         return;
     }
@@ -128,21 +134,73 @@ void AppDelegate::toggleEraseAllFlash(QAction* item) {
     item->setChecked(enabled);
 }
 
+void AppDelegate::toggleBackupBeforeUpload(QAction* item) {
+    const bool enabled = !m_updateController->backupBeforeUploadEnabled();
+    m_updateController->setBackupBeforeUploadEnabled(enabled);
+    item->setChecked(enabled);
+}
+
 void AppDelegate::uploadConfigAction(QAction* item) {
-    bool isNumber = false;
-    const int index = item->data().toInt(&isNumber);
-    if (!isNumber || index < 0 || index >= m_options.products.size()) {
-        return;
+    if (const auto product = productOf(item)) {
+        uploadChoice(ConfigChoice::ofProduct(*product));
     }
-    const ProductConfig& product = m_options.products[index];
-    m_updateController->uploadConfig(product.configFile, product.name);
 }
 
 void AppDelegate::uploadConfigFromDisk() {
-    const auto path =
-        m_options.chooseFile(m_window.get(), {QStringLiteral("Select a configuration file (.yaml)"),
-                                              {QStringLiteral("yaml"), QStringLiteral("yml")}});
+    if (const auto path = chooseConfigFile()) {
+        uploadChoice(ConfigChoice::ofFile(*path));
+    }
+}
+
+void AppDelegate::saveMachineConfig() {
+    const auto path = m_options.chooseSaveFile(
+        m_window.get(), {QStringLiteral("Save Machine Config"),
+                         SaveMachineConfigJob::defaultFileName(QDateTime::currentDateTime()),
+                         QStringLiteral("YAML files (*.yaml *.yml)")});
     if (path) {
-        m_updateController->uploadConfigFromFile(*path);
+        m_updateController->saveMachineConfig(*path);
+    }
+}
+
+void AppDelegate::compareWithProduct(QAction* item) {
+    if (const auto product = productOf(item)) {
+        m_updateController->compareWithMachine(ConfigChoice::ofProduct(*product));
+    }
+}
+
+void AppDelegate::compareWithFile() {
+    if (const auto path = chooseConfigFile()) {
+        m_updateController->compareWithMachine(ConfigChoice::ofFile(*path));
+    }
+}
+
+void AppDelegate::showComparison(const ConfigComparison& comparison, const ConfigChoice& chosen) {
+    m_compareWindow = std::make_unique<CompareWindow>(comparison, chosen.label());
+    connect(m_compareWindow.get(), &CompareWindow::uploadRequested, this,
+            [this, chosen] { uploadChoice(chosen); });
+    centreOnScreen(m_compareWindow.get());
+    bringToFront(m_compareWindow.get());
+}
+
+std::optional<ProductConfig> AppDelegate::productOf(const QAction* item) const {
+    bool isNumber = false;
+    const int index = item->data().toInt(&isNumber);
+    if (!isNumber || index < 0 || index >= m_options.products.size()) {
+        return std::nullopt;
+    }
+    return m_options.products[index];
+}
+
+std::optional<QString> AppDelegate::chooseConfigFile() {
+    return m_options.chooseFile(m_window.get(),
+                                {QStringLiteral("Select a configuration file (.yaml)"),
+                                 {QStringLiteral("yaml"), QStringLiteral("yml")}});
+}
+
+void AppDelegate::uploadChoice(const ConfigChoice& choice) {
+    if (choice.product) {
+        m_updateController->uploadConfig(choice.product->configFile, choice.product->name);
+    } else {
+        m_updateController->uploadConfigFromFile(choice.path);
     }
 }

@@ -5,11 +5,14 @@
 #include <memory>
 
 #include "app/BuildConfig.h"
+#include "app/ConfigChoice.h"
+#include "app/ConfigDiff.h"
 #include "ui/FileChooser.h"
 #include "ui/QuitGuard.h"
 #include "ui/SaveChooser.h"
 
 class AboutWindow;
+class CompareWindow;
 class EscapeCloser;
 class QAction;
 class QMainWindow;
@@ -32,7 +35,7 @@ class AppDelegate : public QObject {
         QList<ProductConfig> products = BuildConfig::products();
         /// Asks for firmware and configuration files.
         FileChooser chooseFile = chooseFileWithDialog;
-        /// Asks where to save the log.
+        /// Asks where to save the log and the machine's configuration.
         SaveChooser chooseSaveFile = chooseSaveFileWithDialog;
         /// Ends the program when the user quits anyway during a job.
         std::function<void()> exitNow = exitAtOnce;
@@ -52,6 +55,8 @@ class AppDelegate : public QObject {
     UpdateController& updateController() const { return *m_updateController; }
     /// The About window; null until it was first shown.
     AboutWindow* aboutWindow() const { return m_aboutWindow.get(); }
+    /// The window of the last comparison; null until one ended.
+    CompareWindow* compareWindow() const { return m_compareWindow.get(); }
 
   public slots:
     void showAbout();
@@ -63,10 +68,22 @@ class AppDelegate : public QObject {
     void toggleDetailedLogging(QAction* item);
     void toggleWriteBootPartitions(QAction* item);
     void toggleEraseAllFlash(QAction* item);
+    void toggleBackupBeforeUpload(QAction* item);
     /// Uploads the configuration of the product whose index is the item's data;
     /// an index outside the product list does nothing.
     void uploadConfigAction(QAction* item);
     void uploadConfigFromDisk();
+    /// Asks where to save the machine's config.yaml, proposing
+    /// "machine-config-yyyyMMdd-HHmm.yaml", and starts saving it there.
+    void saveMachineConfig();
+    /// Compares the machine's configuration with the product's whose index is the
+    /// item's data; an index outside the product list does nothing.
+    void compareWithProduct(QAction* item);
+    /// Asks for a configuration file and compares the machine's with it.
+    void compareWithFile();
+    /// Shows `comparison` in a new compare window, in place of an earlier one; its
+    /// "Upload This Configuration" uploads `chosen` as the Config menu would.
+    void showComparison(const ConfigComparison& comparison, const ConfigChoice& chosen);
 
   private:
     void setupMenus();
@@ -74,6 +91,10 @@ class AppDelegate : public QObject {
     QMenu* addFileMenu();
     QMenu* addOptionsMenu();
     QMenu* addConfigMenu();
+    void addProductItems(QMenu* menu, void (AppDelegate::*action)(QAction*));
+    std::optional<ProductConfig> productOf(const QAction* item) const;
+    std::optional<QString> chooseConfigFile();
+    void uploadChoice(const ConfigChoice& choice);
     QAction* addToggle(QMenu* menu, const QString& title, bool checked,
                        void (AppDelegate::*toggle)(QAction*));
 
@@ -81,6 +102,7 @@ class AppDelegate : public QObject {
     std::unique_ptr<QMainWindow> m_window;
     std::unique_ptr<UpdateController> m_updateController;
     std::unique_ptr<AboutWindow> m_aboutWindow;
+    std::unique_ptr<CompareWindow> m_compareWindow;
     EscapeCloser* m_escapeCloser = nullptr;
     QuitGuard* m_quitGuard = nullptr;
     SleepInhibitor* m_sleepInhibitor;

@@ -66,6 +66,10 @@ QMenu* AppDelegate::addOptionsMenu() {
               &AppDelegate::toggleWriteBootPartitions);
     addToggle(menu, QStringLiteral("Erase All Flash"), m_updateController->eraseAllFlashEnabled(),
               &AppDelegate::toggleEraseAllFlash);
+    menu->addSeparator();
+    addToggle(menu, QStringLiteral("Back Up Machine Config Before Upload"),
+              m_updateController->backupBeforeUploadEnabled(),
+              &AppDelegate::toggleBackupBeforeUpload);
     return menu;
 }
 
@@ -83,15 +87,29 @@ QMenu* AppDelegate::addConfigMenu() {
     if (m_options.products.isEmpty()) {
         menu->addAction(QStringLiteral("No products configured"))->setEnabled(false);
     } else {
-        QMenu* products = menu->addMenu(QStringLiteral("Update Config"));
-        for (qsizetype index = 0; index < m_options.products.size(); ++index) {
-            QAction* item = products->addAction(m_options.products[index].name);
-            item->setData(static_cast<int>(index));
-            connect(item, &QAction::triggered, this, [this, item] { uploadConfigAction(item); });
-        }
+        addProductItems(menu->addMenu(QStringLiteral("Update Config")),
+                        &AppDelegate::uploadConfigAction);
     }
     menu->addSeparator();
     menu->addAction(QStringLiteral("Select from Disk..."), this,
                     &AppDelegate::uploadConfigFromDisk);
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("Save Machine Config\u2026"), this,
+                    &AppDelegate::saveMachineConfig);
+    QMenu* compare = menu->addMenu(QStringLiteral("Compare With Machine\u2026"));
+    addProductItems(compare, &AppDelegate::compareWithProduct);
+    if (!m_options.products.isEmpty()) {
+        compare->addSeparator();
+    }
+    compare->addAction(QStringLiteral("Choose File\u2026"), this, &AppDelegate::compareWithFile);
     return menu;
+}
+
+// One item per product, in table order, each carrying its row's index.
+void AppDelegate::addProductItems(QMenu* menu, void (AppDelegate::*action)(QAction*)) {
+    for (qsizetype index = 0; index < m_options.products.size(); ++index) {
+        QAction* item = menu->addAction(m_options.products[index].name);
+        item->setData(static_cast<int>(index));
+        connect(item, &QAction::triggered, this, [this, item, action] { (this->*action)(item); });
+    }
 }

@@ -4,9 +4,8 @@
 #include <QFileDialog>
 
 std::optional<QString> chooseSaveFileWithDialog(QWidget* parent, const SaveRequest& request) {
-    const QString path = QFileDialog::getSaveFileName(parent, request.title,
-                                                      QDir::home().filePath(request.suggestedName),
-                                                      QStringLiteral("Text files (*.txt)"));
+    const QString path = QFileDialog::getSaveFileName(
+        parent, request.title, QDir::home().filePath(request.suggestedName), request.nameFilter);
     if (path.isEmpty()) {
         return std::nullopt;
     }

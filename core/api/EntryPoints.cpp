@@ -59,8 +59,19 @@ bool refuseSharedPort(const char* path, esp_log_cb log) {
     return true;
 }
 
-bool openPort(SerialPort& serial, const char* path) {
-    return path != nullptr && serial.open(path);
+// `log` hears why another program keeps the port from us; a plain open failure is
+// logged only where the caller's log has always said so.
+bool openPort(SerialPort& serial, const char* path, esp_log_cb log, bool logOpenFailure) {
+    if (refuseSharedPort(path, log)) {
+        return false;
+    }
+    if (path == nullptr || !serial.open(path)) {
+        if (logOpenFailure) {
+            logLine(log, "Failed to open port");
+        }
+        return false;
+    }
+    return true;
 }
 
 }  // namespace
@@ -84,12 +95,8 @@ esp_error_t esp_flash_firmware(const char* port, const uint8_t* firmware, size_t
         return esp::result::StubFailed;
     }
     logLine(log, std::string("Opening port: ") + (port != nullptr ? port : ""));
-    if (refuseSharedPort(port, log)) {
-        return esp::result::PortOpenFailed;
-    }
     SerialPort serial;
-    if (!openPort(serial, port)) {
-        logLine(log, "Failed to open port");
+    if (!openPort(serial, port, log, true)) {
         return esp::result::PortOpenFailed;
     }
     const esp::FlashRequest request{
@@ -104,7 +111,7 @@ esp_error_t esp_upload_config(const char* port, const uint8_t* data, size_t leng
         return esp::result::UploadFailed;
     }
     SerialPort serial;
-    if (refuseSharedPort(port, log) || !openPort(serial, port)) {
+    if (!openPort(serial, port, log, false)) {
         return esp::result::PortOpenFailed;
     }
     return esp::runUploadConfigJob(serial, data, length, progress);
@@ -112,7 +119,7 @@ esp_error_t esp_upload_config(const char* port, const uint8_t* data, size_t leng
 
 char* esp_query_version(const char* port) {
     SerialPort serial;
-    if (refuseSharedPort(port, nullptr) || !openPort(serial, port)) {
+    if (!openPort(serial, port, nullptr, false)) {
         return nullptr;
     }
     const auto version = esp::runQueryVersionJob(serial);
@@ -126,8 +133,8 @@ char* esp_detect_device(uint16_t vendorId, uint16_t productId) {
 
 int esp_probe_partition_table(const char* port, const uint8_t* stub, size_t stubLen) {
     SerialPort serial;
-    if (refuseNullBuffers({{"stub", stub, stubLen}}, nullptr) || refuseSharedPort(port, nullptr) ||
-        !openPort(serial, port)) {
+    if (refuseNullBuffers({{"stub", stub, stubLen}}, nullptr) ||
+        !openPort(serial, port, nullptr, false)) {
         return -1;
     }
     return esp::runProbePartitionTableJob(serial, stub, stubLen);
@@ -135,20 +142,14 @@ int esp_probe_partition_table(const char* port, const uint8_t* stub, size_t stub
 
 esp_error_t esp_download_file(const char* port, const char* name, uint8_t** data, size_t* length,
                               esp_progress_cb progress, esp_log_cb log) {
-    const auto say = [log](const char* line) {
-        if (log != nullptr) {
-            log(line);
-        }
-    };
     if (data == nullptr || length == nullptr || name == nullptr) {
-        say("XModem download: invalid arguments");
+        logLine(log, "XModem download: invalid arguments");
         return esp::result::DownloadFailed;
     }
     *data = nullptr;
     *length = 0;
     SerialPort serial;
-    if (!openPort(serial, port)) {
-        say("Failed to open port");
+    if (!openPort(serial, port, log, true)) {
         return esp::result::PortOpenFailed;
     }
     const auto file = esp::runDownloadFileJob(serial, name, progress, log);
@@ -158,7 +159,7 @@ esp_error_t esp_download_file(const char* port, const char* name, uint8_t** data
     if (!file->empty()) {
         *data = static_cast<uint8_t*>(std::malloc(file->size()));
         if (*data == nullptr) {
-            say("XModem download: out of memory");
+            logLine(log, "XModem download: out of memory");
             return esp::result::DownloadFailed;
         }
         std::memcpy(*data, file->data(), file->size());

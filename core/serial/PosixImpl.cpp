@@ -170,10 +170,7 @@ bool PosixImpl::setModemBit(int bit, bool level) {
     if (::ioctl(fd_, TIOCMGET, &bits) != 0) {
         return false;
     }
-    bits &= ~bit;
-    if (level) {
-        bits |= bit;
-    }
+    bits = withModemLine(bits, bit, level);
     return ::ioctl(fd_, TIOCMSET, &bits) == 0;
 }
 

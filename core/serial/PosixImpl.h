@@ -4,6 +4,13 @@
 
 #include "SerialPort.h"
 
+/// The modem-control word `bits` (as TIOCMGET gives it) with the line `lineBit`
+/// (TIOCM_DTR or TIOCM_RTS) asserted when `level` is true and released otherwise;
+/// every other bit is kept, so setting one line never disturbs the other.
+constexpr int withModemLine(int bits, int lineBit, bool level) {
+    return level ? (bits | lineBit) : (bits & ~lineBit);
+}
+
 /// A device node driven through the POSIX terminal interface. Owns its descriptor
 /// and closes it when destroyed. One thread at a time.
 ///

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -9,67 +8,118 @@
 
 #include "JobSupport.h"
 #include "api/Jobs.h"
-#include "sim/Plotter.h"
+#include "esp/Packet.h"
 
 namespace {
 
 using namespace jobtest;
+using Prepare = std::function<void(WatchedPlotter&)>;
 
 class DeviceJobsTest : public ::testing::Test {
   protected:
     void SetUp() override { clearRecords(); }
 
-    // A fresh plotter set up by `setup`, connected to `port`.
-    sim::Plotter& device(const std::function<void(sim::Config&)>& setup = [](auto&) {}) {
-        auto& plotter = plotters.emplace_back(std::make_unique<sim::Plotter>());
-        setup(plotter->config());
-        plotter->connectLoopback(port);
-        return *plotter;
+    // A fresh plotter set up by `setup`, connected to `port` with `stale` waiting.
+    WatchedPlotter& device(
+        const Prepare& setup = [](auto&) {}, const Bytes& stale = {}) {
+        auto& watched = devices.emplace_back(std::make_unique<WatchedPlotter>());
+        setup(*watched);
+        watched->connect(port, stale);
+        return *watched;
     }
 
-    std::vector<std::unique_ptr<sim::Plotter>> plotters;
+    std::vector<std::unique_ptr<WatchedPlotter>> devices;
     SerialPort port;
 };
 
-TEST_F(DeviceJobsTest, UploadStoresTheFileAfterTheQueryAndRestarts) {
-    for (const size_t size : {3000, 0}) {
-        clearRecords();
-        const auto& plotter = device();
-        const auto file = pattern(size, 5);
-        ASSERT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress), 0u);
-        const auto& transcript = plotter.transcript();
-        EXPECT_EQ(transcript.front(), "$I");
-        EXPECT_EQ(transcript.back(), "$Bye");
-        if (size == 0) {
-            EXPECT_TRUE(progressCalls.empty());
-            continue;
-        }
-        EXPECT_EQ(plotter.storedConfig(), file);
-        EXPECT_EQ(transcript[2], "XMODEM 1");
-        ASSERT_FALSE(progressCalls.empty());
-        EXPECT_EQ(progressCalls.back(),
-                  std::make_pair(1.0f, std::string("Uploading config file...")));
-    }
-}
-
 TEST_F(DeviceJobsTest, UploadFailuresReturn8WithoutRestart) {
-    const auto& unanswered = device([](auto& c) { c.xmodemHandshake = false; });
+    const auto& unanswered = device([](auto& d) { d.plotter.config().xmodemHandshake = false; });
     const auto file = pattern(5000, 5);
     EXPECT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress), 8u);
     const decltype(progressCalls) report = {{0.0f, "XModem: no handshake received (30s timeout)"}};
     EXPECT_EQ(progressCalls, report);
 
-    const auto& cancelling = device([](auto& c) { c.xmodemCanBlock = 2; });
+    const auto& cancelling = device([](auto& d) { d.plotter.config().xmodemCanBlock = 2; });
     EXPECT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), nullptr), 8u);
-    for (const auto* plotter : {&unanswered, &cancelling}) {
-        EXPECT_FALSE(plotter->storedConfig().has_value());
-        EXPECT_NE(plotter->transcript().back(), "$Bye");
+    for (const auto* watched : {&unanswered, &cancelling}) {
+        EXPECT_FALSE(watched->plotter.storedConfig().has_value());
+        EXPECT_NE(watched->plotter.transcript().back(), "$Bye");
     }
+}
+
+// Within the few milliseconds by which read loops stop short of their deadlines:
+// settle 500 ms, drain 50 ms, "$I" (2 s to answer), "$Xmodem...", a drain of 500 ms
+// that swallows the receiver's first request (200 ms after the command), its next
+// one a second later, the blocks, 5 s for an "ok" that never comes, "$Bye", 500 ms.
+TEST_F(DeviceJobsTest, UploadKeepsItsWaitsAndDropsStaleConsoleOutput) {
+    const std::string command = "$Xmodem/Receive=config.yaml";
+    using Writes = std::vector<WatchedPlotter::Write>;
+    const Writes answered = {
+        {550, "$I"}, {550, command}, {1750, "block 1"}, {1750, "EOT"}, {6750, "$Bye"}};
+    // More than two of the console's bounded drains (64 KiB each) can swallow.
+    Bytes chatter;
+    for (int i = 0; i < 64 * 1024; ++i) {
+        chatter.insert(chatter.end(), {'o', 'k', '\r', '\n'});
+    }
+    const auto file = pattern(700, 5);
+    const struct {
+        const char* name;
+        Prepare setup;
+        Bytes stale;
+        Bytes file;
+        Writes writes;
+    } cases[] = {
+        {"version answered", [](auto&) {}, {}, file, answered},
+        {"version unanswered",
+         [](auto& d) { d.answerVersion = false; },
+         {},
+         file,
+         {{550, "$I"}, {2550, command}, {3750, "block 1"}, {3750, "EOT"}, {8750, "$Bye"}}},
+        {"stale output before the query", [](auto&) {}, chatter, file, answered},
+        {"stale output after the answer",
+         [&](auto& d) { d.afterVersion = chatter; },
+         {},
+         file,
+         answered},
+        {"empty file",
+         [](auto&) {},
+         {},
+         {},
+         {{550, "$I"}, {550, command}, {1750, "EOT"}, {6750, "$Bye"}}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        auto& watched = device(
+            [&](WatchedPlotter& d) {
+                d.plotter.config().handshakeFirstMs = 200;
+                d.quietAfterUpload = true;
+                c.setup(d);
+            },
+            c.stale);
+        clearRecords();
+        ASSERT_EQ(esp::runUploadConfigJob(port, c.file.data(), c.file.size(), recordProgress), 0u);
+        EXPECT_EQ(watched.plotter.storedConfig(), c.file);
+        EXPECT_EQ(progressCalls.size(), c.file.empty() ? 0u : 1u);
+        ASSERT_EQ(watched.writes.size(), c.writes.size()) << testing::PrintToString(watched.writes);
+        for (size_t i = 0; i < c.writes.size(); ++i) {
+            EXPECT_EQ(watched.writes[i].second, c.writes[i].second);
+            EXPECT_NEAR(watched.writes[i].first, c.writes[i].first, 5) << c.writes[i].second;
+        }
+        EXPECT_NEAR(watched.elapsedMs(), c.writes.back().first + 500, 5);
+    }
+}
+
+TEST_F(DeviceJobsTest, QueryVersionTellsAnEmptyVersionFromNoneWithinTwoSeconds) {
+    device([](auto& d) { d.plotter.config().versionReport = ""; });
+    EXPECT_EQ(esp::runQueryVersionJob(port), std::string());
+    const auto& silent = device([](auto& d) { d.plotter.config().silentConsole = true; });
+    EXPECT_EQ(esp::runQueryVersionJob(port), std::nullopt);
+    EXPECT_NEAR(silent.elapsedMs(), 500 + 50 + 2000, 5);
 }
 
 // A configuration as the machine keeps it: text, so never ending in the 0x1A that
 // XModem pads with.
-std::vector<uint8_t> configFile(size_t size) {
+Bytes configFile(size_t size) {
     auto file = pattern(size, 7);
     if (!file.empty()) {
         file.back() = '\n';
@@ -87,9 +137,9 @@ TEST_F(DeviceJobsTest, DownloadGivesBackTheUploadedBytes) {
             SCOPED_TRACE(testing::Message() << (mode.crc ? "CRC " : "checksum ") << mode.blockSize
                                             << "-byte blocks, " << size << " bytes");
             clearRecords();
-            device([&](auto& c) {
-                c.xmodemCrc = c.xmodemSendCrc = mode.crc;
-                c.xmodemSendBlockSize = mode.blockSize;
+            device([&](auto& d) {
+                d.plotter.config().xmodemCrc = d.plotter.config().xmodemSendCrc = mode.crc;
+                d.plotter.config().xmodemSendBlockSize = mode.blockSize;
             });
             const auto file = configFile(size);
             ASSERT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), nullptr), 0u);
@@ -128,11 +178,13 @@ TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         clearRecords();
-        device([&](auto& config) {
-            config.machineConfig = std::string(file.begin(), file.end());
-            c.setup(config);
+        const auto& watched = device([&](auto& d) {
+            d.plotter.config().machineConfig = std::string(file.begin(), file.end());
+            c.setup(d.plotter.config());
         });
         const auto downloaded = esp::runDownloadFileJob(port, "config.yaml", nullptr, recordLog);
+        EXPECT_EQ(watched.writes.front().second, "$I") << "after the settle and a drain";
+        EXPECT_NEAR(watched.writes.front().first, 550, 5);
         if (c.failure == nullptr) {
             EXPECT_EQ(downloaded, file);
             EXPECT_TRUE(logLines.empty());
@@ -143,14 +195,29 @@ TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
     }
 }
 
-TEST_F(DeviceJobsTest, QueryVersionTellsAnEmptyVersionFromNone) {
-    device([](auto& c) { c.versionReport = ""; });
-    EXPECT_EQ(esp::runQueryVersionJob(port), std::string());
-    device([](auto& c) { c.silentConsole = true; });
-    EXPECT_EQ(esp::runQueryVersionJob(port), std::nullopt);
+TEST(PartitionTable, NeedsAReachableApplicationEntryAt0x10000) {
+    const std::pair<std::string, bool> cases[] = {
+        {"ddA" + std::string(93, '-'), true},
+        {"D", false},
+        {"a", false},
+        {"xA", false},
+        {"d-A", false},
+        {"d~", false},
+        {std::string(127, 'd') + "A", true},
+        {std::string(128, 'd') + "A", false},
+    };
+    for (const auto& [entries, valid] : cases) {
+        const auto bytes = partitionTable(entries);
+        EXPECT_EQ(esp::isPartitionTableValid(bytes.data(), bytes.size()), valid)
+            << entries.substr(0, 8) << " (" << entries.size() << " entries)";
+    }
+    EXPECT_FALSE(esp::isPartitionTableValid(nullptr, 3072));
+    const std::vector<uint8_t> short31(31, 0xAA);
+    EXPECT_FALSE(esp::isPartitionTableValid(short31.data(), short31.size()));
 }
 
-TEST_F(DeviceJobsTest, ProbeReadsTheTableThroughTheStub) {
+// The probe leaves the chip in its loader: it settles 500 ms first and never resets it.
+TEST_F(DeviceJobsTest, ProbeReadsTheTableThroughTheStubWithoutAReset) {
     const struct {
         const char* name;
         std::function<void(sim::Plotter&)> setup;
@@ -176,8 +243,10 @@ TEST_F(DeviceJobsTest, ProbeReadsTheTableThroughTheStub) {
     const auto stub = stubImage();
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
-        c.setup(device());
+        const auto& watched = device([&](auto& d) { c.setup(d.plotter); });
         EXPECT_EQ(esp::runProbePartitionTableJob(port, stub.data(), stub.size()), c.expected);
+        EXPECT_EQ(watched.firstActionMs, 500);
+        EXPECT_TRUE(watched.endsWithoutReset());
     }
 }
 

@@ -1,23 +1,24 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
-#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "esp/EspLoader.h"
 #include "serial/Clock.h"
+#include "sim/Plotter.h"
 #include "tests/support/TestImages.h"
+#include "tests/support/VirtualTime.h"
 
-/// Callback recorders and expected log lines for the job tests. The library's
-/// callbacks are plain function pointers, so what they receive is kept in globals.
+/// Callback recorders, expected log lines and a watched simulated plotter for the
+/// job tests. The library's callbacks are plain function pointers, so what they
+/// receive is kept in globals.
 namespace jobtest {
 
 using testimg::pattern;
 using testimg::stubImage;
 using Lines = std::vector<std::string>;
+using Bytes = std::vector<uint8_t>;
 
 inline Lines logLines;
 inline std::vector<int64_t> logTimesNs;  // clock reading at each line
@@ -39,10 +40,10 @@ inline void clearRecords() {
 /// A partition table described entry by entry: 'A' an application at 0x10000, 'a' one
 /// at 0x20000, 'D' data at 0x10000, 'd' data at 0x9000, 'x' an application at 0x10000
 /// without the entry magic, '-' an erased entry, '~' 31 bytes of an application entry.
-inline std::vector<uint8_t> partitionTable(const std::string& entries) {
-    std::vector<uint8_t> out;
+inline Bytes partitionTable(const std::string& entries) {
+    Bytes out;
     for (const char kind : entries) {
-        std::vector<uint8_t> entry(32, kind == '-' ? 0xFF : 0x00);
+        Bytes entry(32, kind == '-' ? 0xFF : 0x00);
         if (kind != '-') {
             const uint32_t offset = kind == 'a' ? 0x20000 : kind == 'd' ? 0x9000 : 0x10000;
             entry[0] = kind == 'x' ? 0xAB : 0xAA;
@@ -83,23 +84,92 @@ inline Lines preambleLines() {
             "SPI_ATTACH OK"};
 }
 
-/// The lines for a region written and verified without trouble.
-inline Lines regionLines(uint32_t address, const std::vector<uint8_t>& data) {
-    char head[96];
-    std::snprintf(head, sizeof head, "addr=0x%08x size=%zu", address, data.size());
-    std::string hex;
-    for (uint8_t byte : esp::EspLoader::md5(data.data(), data.size())) {
-        char two[3];
-        std::snprintf(two, sizeof two, "%02x", byte);
-        hex += two;
+/// What a host write was: a console line without its line feed, "frame" for a SLIP
+/// frame, "block N" for an XModem block, "EOT".
+inline std::string describe(const uint8_t* data, size_t len) {
+    if (len == 1 && data[0] == 0x04) {
+        return "EOT";
     }
-    const std::string blocks = std::to_string((data.size() + 16383) / 16384);
-    return {"FLASH_BEGIN " + std::string(head) + " blocks=" + blocks + " blockSize=16384",
-            "FLASH_BEGIN OK (erase complete)",
-            "VERIFY " + std::string(head),
-            "VERIFY local_md5=" + hex,
-            "VERIFY flash_md5=" + hex,
-            "VERIFY OK"};
+    if (len > 1 && data[0] == 0x02) {
+        return "block " + std::to_string(data[1]);
+    }
+    if (len > 0 && data[0] == 0xC0) {
+        return "frame";
+    }
+    std::string text(reinterpret_cast<const char*>(data), len);
+    return text.ends_with('\n') ? text.substr(0, len - 1) : text;
 }
+
+/// A simulated plotter behind a loopback port that notes every host write and
+/// every modem-line change, timed in virtual milliseconds from `connect`. It can
+/// leave stale console output in the port before a job and keep the console
+/// quiet where a case needs it.
+class WatchedPlotter {
+  public:
+    using Write = std::pair<int64_t, std::string>;  ///< (ms, `describe` of it)
+
+    explicit WatchedPlotter(sim::Config config = {}) : plotter(std::move(config)) {}
+
+    /// Opens `port` on this plotter with `stale` already waiting in it.
+    void connect(SerialPort& port, const Bytes& stale = {}) {
+        port.openLoopback([this](const uint8_t* d, size_t n) { return onWrite(d, n); },
+                          [this](int timeoutMs) { return onIdle(timeoutMs); },
+                          [this](SerialPort::Line line, bool level) {
+                              noteAction();
+                              lineChanges.emplace_back(line, level);
+                          });
+        // A write of nothing never reaches the plotter; it only queues the output.
+        stale_ = stale;
+        port.write(nullptr, 0);
+        startNs_ = mono::nowNs();
+    }
+
+    /// Virtual milliseconds since `connect`.
+    int64_t elapsedMs() const { return virtualMsSince(startNs_); }
+
+    /// True when no RTS pulse (a hard reset) followed the last bootloader entry.
+    bool endsWithoutReset() const {
+        return !lineChanges.empty() && lineChanges.back().first == SerialPort::Line::DTR;
+    }
+
+    sim::Plotter plotter;
+    std::vector<Write> writes;
+    std::vector<std::pair<SerialPort::Line, bool>> lineChanges;
+    int64_t firstActionMs = -1;     ///< the first write or line change
+    Bytes afterVersion;             ///< console output that follows the answer to "$I"
+    bool answerVersion = true;      ///< false: "$I" goes unanswered
+    bool quietAfterUpload = false;  ///< no "ok" or other output after the upload's EOT
+
+  private:
+    void noteAction() {
+        if (firstActionMs < 0) {
+            firstActionMs = elapsedMs();
+        }
+    }
+
+    Bytes onWrite(const uint8_t* data, size_t len) {
+        if (len == 0) {
+            return std::exchange(stale_, {});
+        }
+        noteAction();
+        writes.emplace_back(elapsedMs(), describe(data, len));
+        uploaded_ = uploaded_ || writes.back().second == "EOT";
+        Bytes reply = plotter.onHostBytes(data, len);
+        if (writes.back().second == "$I") {
+            reply = answerVersion ? reply : Bytes{};
+            reply.insert(reply.end(), afterVersion.begin(), afterVersion.end());
+        }
+        return reply;
+    }
+
+    Bytes onIdle(int timeoutMs) {
+        Bytes out = plotter.onIdle(timeoutMs);
+        return quietAfterUpload && uploaded_ ? Bytes{} : out;
+    }
+
+    Bytes stale_;
+    int64_t startNs_ = 0;
+    bool uploaded_ = false;
+};
 
 }  // namespace jobtest

@@ -24,6 +24,12 @@ inline QString writeFile(const QTemporaryDir& dir, const QString& name, const QB
     return file.fileName();
 }
 
+/// The whole file at `path`; "(unreadable)" when it cannot be read.
+inline QByteArray readFile(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
+}
+
 /// A firmware file the updater must refuse, and the reason it gives.
 struct RefusedFirmware {
     QString fileName;

@@ -1,3 +1,5 @@
+#include <QDir>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "ControllerHarness.h"
@@ -43,6 +45,7 @@ class ControllerSimTest : public QObject {
     void fullFlashOfCustomImageWhenTheConsoleIsSilent();
     void configurationsFromTheTableAndFromAFile();
     void refusedImagesAndConfigurationsReachNothing();
+    void machineConfigSavedComparedAndBackedUpBeforeUploads();
 };
 
 void ControllerSimTest::applicationOnlyWhenTheConsoleAnswers() {
@@ -208,6 +211,95 @@ void ControllerSimTest::refusedImagesAndConfigurationsReachNothing() {
     }
 
     plotter.inspect([](const sim::Plotter& p) { QCOMPARE(p.transcript().size(), size_t{0}); });
+}
+
+void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
+    QTemporaryDir dir;
+    qputenv("XDG_DATA_HOME", dir.filePath("data").toUtf8());
+    const QDir backups(dir.filePath("data/teskal-firmware-updater/backups"));
+    const QByteArray halcot =
+        ResourceBundle(TFU_DEV_RESOURCES_DIR).readConfig("Halcot.yaml").value();
+    QByteArray tuned = halcot;
+    tuned.replace("  x:\n    steps_per_mm: 80.000", "  x:\n    steps_per_mm: 78.750");
+    sim::Config config;
+    config.machineConfig = tuned.toStdString();
+    sim::PtyPlotter plotter(config);
+    const QString port = QString::fromStdString(plotter.path());
+    ControllerHarness harness;
+    auto& controller = harness.controller;
+    const ConfigChoice halcotChoice = ConfigChoice::ofProduct({"Corvane Halcot", "Halcot.yaml"});
+    QVERIFY(harness.plug(port));
+
+    const QString saved = dir.filePath("saved.yaml");
+    controller.saveMachineConfig(saved);
+    controller.compareWithMachine(halcotChoice);  // refused; the save goes on
+    QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning(), kJobTimeoutMs);
+    QCOMPARE(controller.logMessages(),
+             QStringList(
+                 {"ERROR: Another operation is already running",
+                  QString("Machine config saved to %1 (%2 bytes)").arg(saved).arg(tuned.size())}));
+    QCOMPARE(readFile(saved), tuned);
+    QCOMPARE(harness.firstBusy(), UpdateState::probing());
+    QVERIFY(harness.states.contains(UpdateState::ready()));
+    QVERIFY(harness.statuses.contains(
+        QString("Downloading config.yaml... %1 bytes").arg(tuned.size())));
+    QVERIFY(harness.statuses.contains("Machine config saved"));
+
+    std::optional<ConfigComparison> comparison;
+    QString chosen;
+    connect(&controller, &UpdateController::machineConfigCompared, &controller,
+            [&](const ConfigComparison& result, const ConfigChoice& choice) {
+                comparison = result;
+                chosen = choice.label();
+            });
+    controller.compareWithMachine(halcotChoice);
+    QTRY_VERIFY_WITH_TIMEOUT(comparison, kJobTimeoutMs);
+    QCOMPARE(comparison->keyDifferences, QStringList{"axes/x/steps_per_mm: 78.750 → 80.000"});
+    QCOMPARE(chosen, "Corvane Halcot");
+    QCOMPARE(controller.logMessages(),
+             QStringList{"Machine config differs from Corvane Halcot in 1 key"});
+
+    // The backup holds what the machine had, and the upload follows it.
+    controller.setBackupBeforeUploadEnabled(true);
+    QVERIFY(harness.plug(port));
+    controller.uploadConfig("Halcot.yaml", "Corvane Halcot");
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::configComplete()));
+    QTRY_COMPARE(controller.logMessages().last(), kUploaded);
+    const QStringList files = backups.entryList(QDir::Files);
+    QCOMPARE(files.size(), 1);
+    QVERIFY2(QRegularExpression("^config-\\d{8}-\\d{6}\\.yaml$").match(files[0]).hasMatch(),
+             qPrintable(files[0]));
+    QCOMPARE(readFile(backups.filePath(files[0])), tuned);
+    QCOMPARE(controller.logMessages().mid(0, 2),
+             QStringList({QString("Machine config saved to %1 (%2 bytes)")
+                              .arg(backups.filePath(files[0]))
+                              .arg(tuned.size()),
+                          "Preparing Corvane Halcot config v1.2.0-devset"}));
+    QCOMPARE(harness.firstBusy(), UpdateState::probing());
+    QCOMPARE(storedConfig(plotter), halcot);
+
+    // A backup that fails stops the upload before it reaches the machine.
+    const auto receives = [&plotter] {
+        qsizetype count = 0;
+        plotter.inspect([&](const sim::Plotter& p) {
+            for (const std::string& entry : p.transcript()) {
+                count += entry.starts_with("$Xmodem/Receive=") ? 1 : 0;
+            }
+        });
+        return count;
+    };
+    const qsizetype receivesBefore = receives();
+    plotter.modify([](sim::Plotter& p) { p.config().xmodemSendCanBlock = 1; });
+    QVERIFY(harness.plug(port));
+    controller.uploadConfigFromFile(writeFile(dir, "workshop.yaml", "name: workshop\n"));
+    const QString message =
+        "Could not back up the machine config; the upload did not start: Could not read "
+        "config.yaml from the machine: XModem download: cancelled by the device";
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::error(message)));
+    QTRY_COMPARE(controller.logMessages(),
+                 QStringList({"Preparing workshop.yaml", "ERROR: " + message}));
+    QCOMPARE(receives(), receivesBefore);
+    QCOMPARE(backups.entryList(QDir::Files), files);
 }
 
 QTEST_GUILESS_MAIN(ControllerSimTest)

@@ -44,7 +44,12 @@ TEST(Packet, BuildsRequestsAndParsesResponsesByStatusByteCount) {
     EXPECT_EQ(esp::buildCommandPacket(0x0A, {0x04, 0x03}, 0x12345678),
               (Bytes{0x00, 0x0A, 0x02, 0x00, 0x78, 0x56, 0x34, 0x12, 0x04, 0x03}));
     EXPECT_EQ(esp::buildCommandPacket(0x03, Bytes(300), 0)[3], 1) << "the size is 16-bit";
-    EXPECT_EQ(esp::calculateChecksum({0x01, 0x02, 0x03}), 0xEF ^ 0x01 ^ 0x02 ^ 0x03);
+    for (const auto& [block, checksum] : {std::pair<Bytes, uint8_t>{{}, 0xEF},
+                                          {{0x01, 0x02, 0x03}, 0xEF},
+                                          {{0x10}, 0xFF},
+                                          {{0xEF, 0x20, 0x01}, 0x21}}) {
+        EXPECT_EQ(esp::calculateChecksum(block), checksum) << ::testing::PrintToString(block);
+    }
 
     const Bytes rom{0x01, 0x08, 0x04, 0x00, 0x78, 0x56, 0x34, 0x12, 0x00, 0x00, 0x00, 0x00};
     const auto fromRom = esp::parseResponsePacket(rom, false);

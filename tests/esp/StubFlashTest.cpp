@@ -31,9 +31,9 @@ TEST_F(StubTest, UploadsSegmentsInRamBlocksThenSpeaksStubStatus) {
     EXPECT_EQ(lines, Lines{"Stub: text=6145 @ 0x40380000 data=8 @ 0x3fc90000 entry=0x40380004"});
     ASSERT_EQ(sent.size(), 6u);
     EXPECT_EQ(sent[0].payload, words({6145, 2, 6144, 0x40380000}));
-    const Bytes last(image.begin() + 20 + 6144, image.begin() + 20 + 6145);
-    EXPECT_EQ(sent[2].payload, (Bytes{1, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, last[0]}));
-    EXPECT_EQ(sent[2].checksum, esp::calculateChecksum(last));
+    ASSERT_EQ(image[20 + 6144], 0x66);
+    EXPECT_EQ(sent[2].payload, (Bytes{1, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0x66}));
+    EXPECT_EQ(sent[2].checksum, 0x89u);
     EXPECT_EQ(sent[3].payload, words({8, 1, 6144, 0x3FC90000}));
     EXPECT_EQ(sent[5].op, esp::MEM_END);
     EXPECT_EQ(sent[5].payload, words({0, 0x40380004}));
@@ -96,22 +96,36 @@ class FlashTest : public StubTest {
     size_t failAt = 0;
 };
 
-TEST_F(FlashTest, PadsTheLastBlockAndReportsProgress) {
-    const Bytes image = pattern(3 * 16384 + 1);
-    ASSERT_TRUE(loader.flashImage(0x10000, image.data(), image.size(), recordProgress, 0.2f, 0.5f));
-    EXPECT_EQ(lines, (Lines{"FLASH_BEGIN addr=0x00010000 size=49153 blocks=4 blockSize=16384",
+// Every FLASH_DATA carries a whole block: its length word says 16384 and its
+// checksum covers the 0xFF padding (16383 bytes of it, an odd count, in the last).
+TEST_F(FlashTest, PadsTheLastBlockAndReportsProgressInSinglePrecision) {
+    Bytes image(4 * 16384 + 1, 0x00);
+    image[16384 + 7] = 0x42;
+    image.back() = 0x24;
+    ASSERT_TRUE(
+        loader.flashImage(0x10000, image.data(), image.size(), recordProgress, 0.12f, 0.73f));
+    EXPECT_EQ(lines, (Lines{"FLASH_BEGIN addr=0x00010000 size=65537 blocks=5 blockSize=16384",
                             "FLASH_BEGIN OK (erase complete)"}));
-    ASSERT_EQ(sent.size(), 5u);
-    EXPECT_EQ(sent[0].payload, words({49153, 4, 16384, 0x10000, 0}));
-    const Bytes full(image.begin() + 16384, image.begin() + 32768);
-    EXPECT_EQ(sent[2].payload, esp::EspLoader::buildDataPacket(full.data(), 16384, 1));
-    EXPECT_EQ(sent[2].checksum, esp::calculateChecksum(full));
-    Bytes padded(16384, 0xFF);
-    padded[0] = image.back();
-    EXPECT_EQ(sent[4].payload, esp::EspLoader::buildDataPacket(padded.data(), 16384, 3));
-    EXPECT_EQ(sent[4].checksum, esp::calculateChecksum(padded));
-    const std::vector<std::pair<float, std::string>> expected = {
-        {0.325f, "Flashing"}, {0.45f, "Flashing"}, {0.575f, "Flashing"}, {0.7f, "Flashing"}};
+    ASSERT_EQ(sent.size(), 6u);
+    EXPECT_EQ(sent[0].payload, words({65537, 5, 16384, 0x10000, 0}));
+    const auto block = [](uint32_t sequence, uint8_t first, uint8_t rest) {
+        Bytes payload = words({16384, sequence, 0, 0});
+        payload.push_back(first);
+        payload.resize(16 + 16384, rest);
+        return payload;
+    };
+    EXPECT_EQ(sent[1].payload, block(0, 0x00, 0x00));
+    EXPECT_EQ(sent[1].checksum, 0xEFu);
+    EXPECT_EQ(sent[2].payload[16 + 7], 0x42);
+    EXPECT_EQ(sent[2].checksum, 0xADu);
+    EXPECT_EQ(sent[5].payload, block(4, 0x24, 0xFF));
+    EXPECT_EQ(sent[5].checksum, 0x34u);
+    // In double precision blocks 2 and 4 would report 0.412 and 0.703999996.
+    const std::vector<std::pair<float, std::string>> expected = {{0.266000003f, "Flashing"},
+                                                                 {0.41200003f, "Flashing"},
+                                                                 {0.558000028f, "Flashing"},
+                                                                 {0.704000056f, "Flashing"},
+                                                                 {0.850000024f, "Flashing"}};
     EXPECT_EQ(progressCalls, expected);
 }
 
@@ -152,7 +166,8 @@ TEST_F(FlashTest, CommandLogLines) {
 
 TEST_F(FlashTest, VerifyComparesTheFirstSixteenDigestBytes) {
     const Bytes abc = {'a', 'b', 'c'};
-    const Bytes local = esp::EspLoader::md5(abc.data(), abc.size());
+    const Bytes local = {0x90, 0x01, 0x50, 0x98, 0x3c, 0xd2, 0x4f, 0xb0,
+                         0xd6, 0x96, 0x3f, 0x7d, 0x28, 0xe1, 0x7f, 0x72};
     Bytes wrong = local;
     wrong[15] ^= 1;
     Bytes longer = local;
@@ -199,6 +214,7 @@ TEST_F(FlashTest, ReadFlashGathersFramesAndWaitsForTheTrailer) {
         {{}, 0, {}, 1000},
     };
     for (const auto& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(c.frames));
         reply = [&](const Request& r) {
             for (size_t at = 0; const size_t size : c.frames) {
                 pieces.push_back(

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <numeric>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -10,6 +9,7 @@
 #include "fluidnc/XModem.h"
 #include "serial/Clock.h"
 #include "tests/support/TestImages.h"
+#include "tests/support/VirtualTime.h"
 
 namespace {
 
@@ -25,17 +25,20 @@ void recordProgress(float fraction, const char* stage) {
     progressCalls.emplace_back(fraction, stage);
 }
 
-// An XModem receiver behind the console: it asks for the transfer one second after
-// the command and answers each block as scripted (ACK by default).
+// An XModem receiver behind the console: it asks for the transfer `firstMs` after
+// the command and again every second, and answers each block as scripted (ACK by
+// default). Block times are virtual milliseconds after the command.
 struct FakeReceiver {
     uint8_t handshake = 'C';
-    std::string chatter;  // console text that arrives just before the handshake
+    int firstMs = 1000;
+    std::string chatter;  // console text that arrives just before the first handshake
     std::map<size_t, std::vector<uint8_t>> blockReplies;  // by transmission index
     int eotRefusals = 0;
 
-    bool commandSeen = false;
-    int64_t handshakeAtNs = 0;
+    int64_t commandNs = -1;
+    int64_t nextHandshakeNs = 0;
     std::vector<std::vector<uint8_t>> blocks;
+    std::vector<int64_t> blockMs;
     int eots = 0;
 
     void attach(SerialPort& port) {
@@ -45,8 +48,8 @@ struct FakeReceiver {
 
     std::vector<uint8_t> onWrite(const uint8_t* data, size_t len) {
         if (std::string(reinterpret_cast<const char*>(data), len) == kCommand) {
-            commandSeen = true;
-            handshakeAtNs = mono::nowNs() + 1'000'000'000;
+            commandNs = mono::nowNs();
+            nextHandshakeNs = commandNs + int64_t{firstMs} * 1'000'000;
             const std::string text = "[MSG:INFO: Receiving config.yaml]\r\n";
             return {text.begin(), text.end()};
         }
@@ -54,20 +57,23 @@ struct FakeReceiver {
             return {++eots > eotRefusals ? ACK : NAK};
         }
         blocks.emplace_back(data, data + len);
+        blockMs.push_back(virtualMsSince(commandNs));
         const auto scripted = blockReplies.find(blocks.size() - 1);
         return scripted == blockReplies.end() ? std::vector<uint8_t>{ACK} : scripted->second;
     }
 
     std::vector<uint8_t> onIdle(int timeoutMs) {
-        const int64_t waitNs = handshakeAtNs - mono::nowNs();
-        if (!commandSeen || handshake == 0 || waitNs > int64_t{timeoutMs} * 1'000'000) {
+        const int64_t waitNs = nextHandshakeNs - mono::nowNs();
+        if (commandNs < 0 || handshake == 0 || !blocks.empty() ||
+            waitNs > int64_t{timeoutMs} * 1'000'000) {
             mono::sleepMs(timeoutMs);
             return {};
         }
-        mono::sleepMs(static_cast<int>(waitNs / 1'000'000));
-        commandSeen = false;
+        mono::sleepMs(static_cast<int>((waitNs + 999'999) / 1'000'000));
         std::vector<uint8_t> out(chatter.begin(), chatter.end());
+        chatter.clear();
         out.push_back(handshake);
+        nextHandshakeNs += 1'000'000'000;
         return out;
     }
 };
@@ -101,9 +107,14 @@ TEST(Crc16, MatchesTheXModemCheckValue) {
 }
 
 struct ModeCase {
+    const char* name;
     uint8_t handshake;
-    size_t blockSize;
+    std::vector<uint8_t> trailers[2];  // of the two blocks; together they use every CRC table entry
 };
+
+void PrintTo(const ModeCase& c, std::ostream* os) {
+    *os << c.name;
+}
 
 class XModemModeTest : public XModemTest, public ::testing::WithParamInterface<ModeCase> {};
 
@@ -116,49 +127,46 @@ TEST_P(XModemModeTest, SendsPaddedBlocksWithTheCheckTheReceiverAskedFor) {
     std::vector<uint8_t> received;
     for (size_t i = 0; i < 2; ++i) {
         const auto& block = receiver.blocks[i];
-        ASSERT_EQ(block.size(), GetParam().blockSize);
+        const auto& trailer = GetParam().trailers[i];
+        ASSERT_EQ(block.size(), 1027 + trailer.size());
         EXPECT_EQ(block[0], 0x02);
         EXPECT_EQ(block[1], i + 1);
         EXPECT_EQ(block[2], 255 - (i + 1));
-        const uint8_t* body = block.data() + 3;
-        if (GetParam().handshake == 'C') {
-            const uint16_t crc = fluidnc::crc16(body, 1024);
-            EXPECT_EQ(block[1027], crc >> 8);
-            EXPECT_EQ(block[1028], crc & 0xFF);
-        } else {
-            EXPECT_EQ(block[1027], std::accumulate(body, body + 1024, 0) & 0xFF);
-        }
-        received.insert(received.end(), body, body + 1024);
+        EXPECT_EQ(std::vector<uint8_t>(block.begin() + 1027, block.end()), trailer);
+        received.insert(received.end(), block.begin() + 3, block.begin() + 1027);
     }
     auto expected = file;
     expected.resize(2048, 0x1A);
     EXPECT_EQ(received, expected);
     EXPECT_EQ(receiver.eots, 1);
-    const decltype(progressCalls) fractions = {{1024.0f / 1025.0f, "Uploading config file..."},
+    const decltype(progressCalls) fractions = {{0.999024391f, "Uploading config file..."},
                                                {1.0f, "Uploading config file..."}};
     EXPECT_EQ(progressCalls, fractions);
 }
 
 INSTANTIATE_TEST_SUITE_P(Modes, XModemModeTest,
-                         ::testing::Values(ModeCase{'C', 1029}, ModeCase{NAK, 1028}));
+                         ::testing::Values(ModeCase{"Crc", 'C', {{0x86, 0x19}, {0x50, 0x96}}},
+                                           ModeCase{"Checksum", NAK, {{0x09}, {0xE8}}}),
+                         [](const auto& info) { return std::string(info.param.name); });
 
-TEST_F(XModemTest, WholeBlocksGetNoPaddingBlockAndAnEmptyFileOnlyEnds) {
-    for (const size_t size : {1024, 0}) {
-        receiver = FakeReceiver{};
-        progressCalls.clear();
-        ASSERT_TRUE(upload(pattern(size)));
-        EXPECT_EQ(receiver.blocks.size(), size / 1024);
-        EXPECT_EQ(progressCalls.size(), size / 1024);
-        EXPECT_EQ(receiver.eots, 1);
-    }
-}
-
-TEST_F(XModemTest, BlockNumbersWrapAfter255) {
-    ASSERT_TRUE(upload(pattern(257 * 1024 + 1)));
+// Past 16 MiB a length has no exact float: single precision reports 1024 / 2^24
+// for the first block where double precision would give 1024 / (2^24 + 1).
+TEST_F(XModemTest, LargeFileWrapsBlockNumbersAndReportsProgressInSinglePrecision) {
+    ASSERT_TRUE(upload(std::vector<uint8_t>(16 * 1024 * 1024 + 1, 'y')));
+    ASSERT_EQ(progressCalls.size(), 16385u);
+    EXPECT_EQ(progressCalls[0].first, 0x1p-14f);
+    EXPECT_EQ(progressCalls[1].first, 0x1p-13f);
+    EXPECT_EQ(progressCalls.back().first, 1.0f);
     const auto numbers = blockNumbers();
-    EXPECT_EQ(std::vector<int>(numbers.begin() + 254, numbers.end()),
+    EXPECT_EQ(std::vector<int>(numbers.begin() + 254, numbers.begin() + 258),
               (std::vector<int>{255, 0, 1, 2}));
     EXPECT_EQ(receiver.blocks[255][2], 255);
+}
+
+TEST_F(XModemTest, AWholeBlockGetsNoPaddingBlock) {
+    ASSERT_TRUE(upload(pattern(1024)));
+    EXPECT_EQ(receiver.blocks.size(), 1u);
+    EXPECT_EQ(progressCalls.size(), 1u);
 }
 
 TEST_F(XModemTest, RefusedOrUnansweredBlockIsSentAgainButCancelEndsAtOnce) {
@@ -166,6 +174,8 @@ TEST_F(XModemTest, RefusedOrUnansweredBlockIsSentAgainButCancelEndsAtOnce) {
     ASSERT_TRUE(upload(pattern(3000)));
     EXPECT_EQ(blockNumbers(), (std::vector<int>{1, 2, 2, 2, 2, 3}));
     EXPECT_EQ(receiver.blocks[1], receiver.blocks[3]);
+    // The handshake at 1000 ms; an unanswered block goes out again after 5 s.
+    EXPECT_EQ(receiver.blockMs, (std::vector<int64_t>{1000, 1000, 1000, 6000, 6000, 6000}));
     EXPECT_EQ(progressCalls.size(), 3u);
 
     receiver = FakeReceiver{};
@@ -199,11 +209,18 @@ TEST_F(XModemTest, ConsoleTextBeforeTheHandshakeUsesUpTries) {
     EXPECT_TRUE(receiver.blocks.empty());
 }
 
-TEST_F(XModemTest, ReportsAMissingHandshake) {
+// The console's reply is drained for 500 ms: a handshake sent within that time is
+// swallowed with it, and the transfer starts at the receiver's next one.
+TEST_F(XModemTest, DrainsHalfASecondAfterTheCommand) {
+    receiver.firstMs = 200;
+    ASSERT_TRUE(upload(pattern(10)));
+    EXPECT_EQ(receiver.blockMs, std::vector<int64_t>{1200});
+}
+
+TEST_F(XModemTest, ReportsAMissingHandshakeAfterThirtySeconds) {
     receiver.handshake = 0;
-    const int64_t start = mono::nowNs();
     EXPECT_FALSE(upload(pattern(10)));
-    EXPECT_GE(mono::nowNs() - start, 30'000'000'000);
+    EXPECT_EQ(virtualMsSince(receiver.commandNs), 500 + 30 * 1000);
     EXPECT_TRUE(receiver.blocks.empty());
     const decltype(progressCalls) report = {{0.0f, "XModem: no handshake received (30s timeout)"}};
     EXPECT_EQ(progressCalls, report);

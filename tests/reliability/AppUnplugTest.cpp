@@ -3,9 +3,9 @@
 #include <cstring>
 #include <memory>
 
-#include "Descriptors.h"
 #include "app/UpdateController.h"
 #include "sim/PtyPlotter.h"
+#include "tests/support/Descriptors.h"
 
 // The user pulls the cable while the application writes firmware: the job fails
 // with the write-failure message, the port is released, and the next poll, which
@@ -41,7 +41,7 @@ void AppUnplugTest::unplugDuringAnUpdateEndsInErrorThenIdle() {
     // probe and settle about 3 s, then one block time-out of 10 s
     QTRY_VERIFY_WITH_TIMEOUT(states.contains(UpdateState::error(message)), 20000);
     QTRY_COMPARE(controller.logMessages().last(), "ERROR: " + message);
-    QCOMPARE(reliability::descriptorsOn(path), size_t{0});
+    QCOMPARE(fdcheck::descriptorsOn(path), size_t{0});
 
     QTRY_COMPARE_WITH_TIMEOUT(controller.state(), UpdateState::idle(), 1000);
     QCOMPARE(controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));

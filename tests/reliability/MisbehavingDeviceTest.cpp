@@ -17,9 +17,9 @@
 #include <thread>
 #include <vector>
 
-#include "Descriptors.h"
 #include "api/esp_flasher.h"
 #include "sim/PtyPlotter.h"
+#include "tests/support/Descriptors.h"
 #include "tests/support/TestImages.h"
 
 // Plotters that do what no healthy one does, and other programs on the plotter's
@@ -27,7 +27,7 @@
 namespace {
 
 using namespace std::chrono_literals;
-using namespace reliability;
+using namespace fdcheck;
 using Clock = std::chrono::steady_clock;
 using Lines = std::vector<std::string>;
 
@@ -48,14 +48,15 @@ double secondsSince(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-esp_error_t flash(const std::string& path, const uint8_t* image, size_t imageLen,
-                  const uint8_t* stubImage, const char* expectedVersion,
-                  esp_log_cb log = recordLog) {
+esp_error_t flash(const std::string& path, const uint8_t* image = firmware.data(),
+                  size_t imageLen = firmware.size(), const uint8_t* stubImage = stub.data(),
+                  const char* expectedVersion = nullptr, esp_log_cb log = recordLog) {
     return esp_flash_firmware(path.c_str(), image, imageLen, nullptr, 0, nullptr, 0, nullptr, 0,
                               stubImage, stub.size(), 0, 0, expectedVersion, nullptr, log);
 }
 
-esp_error_t upload(const std::string& path, const uint8_t* data, esp_log_cb log = recordLog) {
+esp_error_t upload(const std::string& path, const uint8_t* data = firmware.data(),
+                   esp_log_cb log = recordLog) {
     return esp_upload_config(path.c_str(), data, firmware.size(), nullptr, log);
 }
 
@@ -69,28 +70,24 @@ std::string queryVersion(const std::string& path) {
 // A firmware stuck printing status lines never leaves the gap that ends "read until
 // nothing arrives"; each call ends by the drain bound and its own time-outs.
 TEST(MisbehavingDevice, FloodingConsoleEndsEveryCallWithinItsBound) {
-    struct Case {
+    const struct {
         const char* call;
         std::function<std::string(const std::string&)> run;
         std::string outcome;
         double boundS;  // settle, 2 s per bounded drain, time-outs, and 1.5 s to spare
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"version query", queryVersion, "null", 0.5 + 2 + 2 + 1.5},
-        {"configuration upload",
-         [](const std::string& path) {
-             return "code " + std::to_string(upload(path, firmware.data()));
-         },
+        {"configuration upload", [](auto& path) { return "code " + std::to_string(upload(path)); },
          "code 8", 0.5 + (2 + 2) + 2 + 1.5},
         {"version confirmation",
-         [](const std::string& path) {
+         [](auto& path) {
              const auto code = flash(path, firmware.data(), firmware.size(), stub.data(), "2.10.6");
              return "code " + std::to_string(code) + ", " + logLines.back();
          },
          "code 0, Could not confirm firmware version after update.",
          2 + 2 + 3 * (2 + 2) + 2 * 1 + 1.5},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.call);
         sim::Config config;
         config.floodConsole = true;
@@ -110,7 +107,7 @@ TEST(MisbehavingDevice, DeviceThatStopsReadingEndsTheJobAfterTheWriteStall) {
     const std::vector<uint8_t> image(2 * 16384, 0xC0);
     logLines.clear();
     const auto start = Clock::now();
-    EXPECT_EQ(flash(plotter.path(), image.data(), image.size(), stub.data(), nullptr), 6u);
+    EXPECT_EQ(flash(plotter.path(), image.data(), image.size()), 6u);
     EXPECT_LT(secondsSince(start), 1.5 + 10 + 3);
     EXPECT_EQ(logLines.back(), "SEND FAIL: FLASH_DATA");
     EXPECT_EQ(descriptorsOn(plotter.path()), 1u) << "only the simulator's own side may stay open";
@@ -122,31 +119,22 @@ TEST(MisbehavingDevice, NullBufferWithALengthIsRefusedBeforeThePortOpens) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     sim::PtyPlotter plotter;
     const std::string path = plotter.path();
-    struct Case {
+    const struct {
         const char* buffer;
         std::function<int()> call;
         int result;
         std::string logged;
-    };
-    const Case cases[] = {
-        {"firmware",
-         [&] {
-             return static_cast<int>(
-                 flash(path, nullptr, 20000, stub.data(), nullptr, logToStderr));
-         },
+    } cases[] = {
+        {"firmware", [&] { return int(flash(path, nullptr, 20000, stub.data(), {}, logToStderr)); },
          6, "Invalid argument: firmware is null with length 20000\n"},
-        {"stub",
-         [&] {
-             return static_cast<int>(
-                 flash(path, firmware.data(), firmware.size(), nullptr, nullptr, logToStderr));
-         },
-         5, "Invalid argument: stub is null with length 140\n"},
-        {"configuration", [&] { return static_cast<int>(upload(path, nullptr, logToStderr)); }, 8,
+        {"stub", [&] { return int(flash(path, firmware.data(), 1, nullptr, {}, logToStderr)); }, 5,
+         "Invalid argument: stub is null with length 140\n"},
+        {"configuration", [&] { return int(upload(path, nullptr, logToStderr)); }, 8,
          "Invalid argument: data is null with length 40000\n"},
         {"probe stub", [&] { return esp_probe_partition_table(path.c_str(), nullptr, 140); }, -1,
          ""},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.buffer);
         auto untouched = [&] {
             bool empty = false;
@@ -172,10 +160,10 @@ TEST(SharedPort, PortThatAnotherProcessHoldsIsNotOpened) {
 
     const std::string inUse = "Port is in use by sleep (pid " + std::to_string(holder) + ")";
     logLines.clear();
-    EXPECT_EQ(flash(plotter.path(), firmware.data(), firmware.size(), stub.data(), nullptr), 2u);
+    EXPECT_EQ(flash(plotter.path()), 2u);
     EXPECT_EQ(logLines, (Lines{"Opening port: " + plotter.path(), inUse, "Failed to open port"}));
     logLines.clear();
-    EXPECT_EQ(upload(plotter.path(), firmware.data()), 2u);
+    EXPECT_EQ(upload(plotter.path()), 2u);
     EXPECT_EQ(logLines, (Lines{inUse, "Failed to open port"}));
     EXPECT_EQ(queryVersion(plotter.path()), "null");
     EXPECT_EQ(esp_probe_partition_table(plotter.path().c_str(), stub.data(), stub.size()), -1);

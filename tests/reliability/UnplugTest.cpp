@@ -1,14 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <cstdlib>
 #include <functional>
 #include <string>
 #include <vector>
 
-#include "Descriptors.h"
 #include "api/esp_flasher.h"
 #include "sim/PtyPlotter.h"
+#include "tests/support/Descriptors.h"
 #include "tests/support/TestImages.h"
 
 // The plotter's cable is pulled in the middle of a job, over a real pseudo-terminal
@@ -17,7 +16,7 @@
 // bound is the time-outs of the step that was waiting.
 namespace {
 
-using namespace reliability;
+using namespace fdcheck;
 
 const std::vector<uint8_t> firmware = testimg::pattern(5 * 16384 + 123, 1);
 const std::vector<uint8_t> configFile = testimg::pattern(6000, 9);
@@ -57,22 +56,6 @@ TEST(Unplug, MidJobTheJobFailsWithinItsStepTimeOutAndReleasesThePort) {
                   c.boundS);
         EXPECT_EQ(descriptorsOn(plotter.path()), 0u) << "the job left its port open";
     }
-}
-
-TEST(Unplug, AfterTheLineIsGoneNothingOpensItAndNoDescriptorIsLeft) {
-    const size_t before = openDescriptorCount();
-    {
-        sim::PtyPlotter plotter;
-        char* version = esp_query_version(plotter.path().c_str());
-        ASSERT_NE(version, nullptr);
-        std::free(version);
-        plotter.unplug();
-        EXPECT_EQ(esp_query_version(plotter.path().c_str()), nullptr);
-        EXPECT_EQ(upload(plotter.path()), 2u);
-        EXPECT_EQ(flash(plotter.path()), 2u);
-        EXPECT_EQ(descriptorsOn(plotter.path()), 0u);
-    }
-    EXPECT_EQ(openDescriptorCount(), before);
 }
 
 }  // namespace

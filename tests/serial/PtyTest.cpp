@@ -1,32 +1,62 @@
 #include <poll.h>
+#include <pthread.h>
 #include <pty.h>
 #include <termios.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <string>
 #include <thread>
 #include <utility>
 
-#include "serial/SerialPort.h"
+#include "serial/PosixImpl.h"
+
+// Link seam (--wrap=read and --wrap=write, set in CMakeLists.txt). In raw mode with
+// VMIN = VTIME = 0 a terminal never sleeps inside read(), and the port writes
+// without blocking, so no real signal makes those two calls fail with EINTR; a
+// flag set here makes the next one fail so, once, to reach the port's retry.
+std::atomic<bool> interruptNextRead{false};
+std::atomic<bool> interruptNextWrite{false};
+
+extern "C" ssize_t __real_read(int fd, void* buf, size_t n);
+extern "C" ssize_t __real_write(int fd, const void* buf, size_t n);
+
+extern "C" ssize_t __wrap_read(int fd, void* buf, size_t n) {
+    if (interruptNextRead.exchange(false)) {
+        errno = EINTR;
+        return -1;
+    }
+    return __real_read(fd, buf, n);
+}
+
+extern "C" ssize_t __wrap_write(int fd, const void* buf, size_t n) {
+    if (interruptNextWrite.exchange(false)) {
+        errno = EINTR;
+        return -1;
+    }
+    return __real_write(fd, buf, n);
+}
 
 namespace {
 
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
+using Bytes = std::vector<uint8_t>;
 
-// The slave side stands in for the device node; the test plays the device on the master.
+// The slave side stands in for the device node, left in the line discipline a new
+// terminal starts with (canonical, echo, signals, CR/NL translation): only the port
+// may make it raw. The test plays the device on the master.
 struct Pty {
     Pty() {
         char name[128];
         EXPECT_EQ(openpty(&master, &slave, name, nullptr, nullptr), 0);
         path = name;
-        termios tio{};
-        tcgetattr(slave, &tio);
-        cfmakeraw(&tio);
-        tcsetattr(slave, TCSANOW, &tio);
     }
     ~Pty() {
         ::close(master);
@@ -40,6 +70,16 @@ struct Pty {
         pollfd p{master, POLLIN, 0};
         return ::poll(&p, 1, timeoutMs) > 0 ? p.revents : 0;
     }
+    // What the port wrote, gathered until `size` bytes came or the line stayed quiet.
+    std::string received(size_t size) const {
+        std::string got;
+        char chunk[4096];
+        while (got.size() < size && (poll(1000) & POLLIN)) {
+            got.append(chunk,
+                       static_cast<size_t>(std::max<ssize_t>(::read(master, chunk, 4096), 0)));
+        }
+        return got;
+    }
 
     int master = -1;
     int slave = -1;
@@ -50,6 +90,16 @@ double msSince(Clock::time_point start) {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
+// What the device sent, gathered over a few reads.
+std::string readUpTo(SerialPort& port, size_t size) {
+    std::string got;
+    char chunk[256];
+    for (int i = 0; i < 5 && got.size() < size; ++i) {
+        got.append(chunk, port.read(reinterpret_cast<uint8_t*>(chunk), sizeof chunk, 200));
+    }
+    return got;
+}
+
 class PosixPort : public ::testing::Test {
   protected:
     void SetUp() override { ASSERT_TRUE(port.open(pty.path)); }
@@ -58,42 +108,122 @@ class PosixPort : public ::testing::Test {
     uint8_t buf[256] = {};
 };
 
-TEST_F(PosixPort, ReadsOneReadsWorthAndNothingWithoutTime) {
+TEST(PosixPortOpen, MakesATerminalInItsDefaultDisciplineRaw) {
+    Pty pty;
+    SerialPort port;
+    termios tio{};
+    tcgetattr(pty.slave, &tio);
+    tio.c_cflag |= CRTSCTS;
+    cfsetspeed(&tio, B9600);
+    tio.c_cc[VMIN] = 1;
+    tio.c_cc[VTIME] = 5;
+    tcsetattr(pty.slave, TCSANOW, &tio);
+    ASSERT_TRUE(port.open(pty.path));
+
+    ASSERT_EQ(tcgetattr(pty.slave, &tio), 0);
+    EXPECT_EQ(tio.c_lflag & (ICANON | ECHO | ECHONL | ISIG | IEXTEN), 0u);
+    EXPECT_EQ(tio.c_iflag & (ICRNL | INLCR | IGNCR | IXON | ISTRIP | BRKINT | PARMRK), 0u);
+    EXPECT_EQ(tio.c_oflag & OPOST, 0u);
+    EXPECT_EQ(tio.c_cflag & (CSIZE | PARENB | CLOCAL | CREAD | CRTSCTS), CS8 | CLOCAL | CREAD);
+    EXPECT_EQ(cfgetispeed(&tio), B115200);
+    EXPECT_EQ(cfgetospeed(&tio), B115200);
+    EXPECT_EQ(tio.c_cc[VMIN], 0);
+    EXPECT_EQ(tio.c_cc[VTIME], 0);
+
+    // Return, interrupt, erase, end of file: data like any other byte, none echoed.
+    const std::string control = "\r\x03\x7f\x04\n";
+    pty.send(control);
+    EXPECT_EQ(readUpTo(port, control.size()), control);
+    EXPECT_TRUE(port.write(Bytes{'o', 'k', '\n'}));
+    EXPECT_EQ(pty.received(3), "ok\n");
+}
+
+TEST(ModemLines, SettingOneLineKeepsEveryOtherBit) {
+    const struct {
+        int before;
+        int line;
+        bool level;
+        int after;
+    } rows[] = {
+        {0x000, TIOCM_DTR, true, 0x002},  {0x004, TIOCM_DTR, true, 0x006},
+        {0x006, TIOCM_DTR, false, 0x004}, {0x002, TIOCM_RTS, true, 0x006},
+        {0x006, TIOCM_RTS, false, 0x002}, {0x166, TIOCM_RTS, false, 0x162},
+        {0x164, TIOCM_DTR, true, 0x166},  {0x002, TIOCM_DTR, true, 0x002},
+    };
+    for (const auto& r : rows) {
+        EXPECT_EQ(withModemLine(r.before, r.line, r.level), r.after)
+            << std::hex << "0x" << r.before << (r.line == TIOCM_DTR ? " DTR " : " RTS ") << r.level;
+    }
+}
+
+TEST_F(PosixPort, ReadsOneReadsWorthWritesAllAndRefusesModemLines) {
     pty.send("abc");
     EXPECT_EQ(port.read(buf, sizeof buf, 0), 0u);
     EXPECT_EQ(port.read(buf, sizeof buf, -1), 0u);
-    const auto start = Clock::now();
+    auto start = Clock::now();
     ASSERT_EQ(port.read(buf, sizeof buf, 1000), 3u);
     EXPECT_LT(msSince(start), 500);
     EXPECT_EQ(std::string(buf, buf + 3), "abc");
-
     pty.send("stale");
     port.flush();
-    EXPECT_EQ(port.read(buf, sizeof buf, 1), 0u);
-}
-
-TEST_F(PosixPort, SilentDeviceTimesOut) {
-    const auto start = Clock::now();
+    start = Clock::now();
     EXPECT_EQ(port.read(buf, sizeof buf, 150), 0u);
     EXPECT_GE(msSince(start), 140);
     EXPECT_LT(msSince(start), 1000);
-}
 
-TEST_F(PosixPort, WritesReachTheDeviceAndModemLinesAreRefused) {
     EXPECT_TRUE(port.write(nullptr, 0));
     EXPECT_EQ(pty.poll(0), 0);
-    EXPECT_TRUE(port.write(std::vector<uint8_t>(100, 'Z')));
-    ASSERT_TRUE(pty.poll(200) & POLLIN);
-    char got[200];
-    EXPECT_EQ(::read(pty.master, got, sizeof got), 100);
+    EXPECT_TRUE(port.write(Bytes(100, 'Z')));
+    EXPECT_EQ(pty.received(100), std::string(100, 'Z'));
     // A pseudo-terminal has no modem-control lines: the driver refuses TIOCMGET.
     EXPECT_FALSE(port.setDTR(true));
     EXPECT_FALSE(port.setRTS(false));
 }
 
+TEST_F(PosixPort, InterruptedReadAndWriteAreRetried) {
+    pty.send("abc");
+    interruptNextRead = true;
+    ASSERT_EQ(port.read(buf, sizeof buf, 1000), 3u);
+    EXPECT_EQ(std::string(buf, buf + 3), "abc");
+    EXPECT_FALSE(interruptNextRead) << "the read never reached read()";
+    interruptNextWrite = true;
+    EXPECT_TRUE(port.write(Bytes{'x', 'y', 'z'}));
+    EXPECT_FALSE(interruptNextWrite) << "the write never reached write()";
+    EXPECT_EQ(pty.received(3), "xyz");
+}
+
+std::atomic<int> signalsCaught{0};
+
+void countSignal(int) {
+    ++signalsCaught;
+}
+
+// Without SA_RESTART the signal ends the wait for room with EINTR; the device
+// starts reading only after the signals, so the write must have outlived them.
+TEST_F(PosixPort, SignalsDuringAStalledWriteDoNotEndIt) {
+    struct sigaction action {};
+    action.sa_handler = countSignal;
+    sigemptyset(&action.sa_mask);
+    struct sigaction previous {};
+    ASSERT_EQ(sigaction(SIGUSR1, &action, &previous), 0);
+    const Bytes block(256 * 1024, 'w');  // far more than a pseudo-terminal holds
+    bool written = false;
+    std::thread writer([&] { written = port.write(block); });
+    std::this_thread::sleep_for(200ms);
+    for (int i = 0; i < 5; ++i) {
+        pthread_kill(writer.native_handle(), SIGUSR1);
+        std::this_thread::sleep_for(20ms);
+    }
+    const std::string got = pty.received(block.size());
+    writer.join();
+    sigaction(SIGUSR1, &previous, nullptr);
+    EXPECT_EQ(signalsCaught, 5);
+    EXPECT_TRUE(written);
+    EXPECT_EQ(got.size(), block.size());
+}
+
 TEST_F(PosixPort, ReopenClosesTheFirstDeviceAndAFailedOpenLeavesItClosed) {
-    ::close(pty.slave);
-    pty.slave = -1;
+    ::close(std::exchange(pty.slave, -1));
     EXPECT_FALSE(pty.poll(0) & POLLHUP);
     Pty second;
     ASSERT_TRUE(port.open(second.path));

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "api/Jobs.h"
-#include "esp/Packet.h"
 
 /// Images shared by the core test areas. Header-only, stateless.
 namespace testimg {
@@ -24,7 +23,8 @@ inline std::vector<uint8_t> pattern(size_t size, uint8_t seed = 0) {
 inline std::vector<uint8_t> words(std::initializer_list<uint32_t> values) {
     std::vector<uint8_t> out;
     for (uint32_t v : values) {
-        esp::packLE32(out, v);
+        out.insert(out.end(), {static_cast<uint8_t>(v), static_cast<uint8_t>(v >> 8),
+                               static_cast<uint8_t>(v >> 16), static_cast<uint8_t>(v >> 24)});
     }
     return out;
 }
@@ -32,10 +32,7 @@ inline std::vector<uint8_t> words(std::initializer_list<uint32_t> values) {
 /// A stub image: the five header words (text at 0x40380000, data at 0x3FC90000,
 /// entry 0x40380004), then `textSize + dataSize` bytes of body.
 inline std::vector<uint8_t> stubImage(uint32_t textSize = 100, uint32_t dataSize = 20) {
-    std::vector<uint8_t> image;
-    for (uint32_t word : {0x40380000u, textSize, 0x3FC90000u, dataSize, 0x40380004u}) {
-        esp::packLE32(image, word);
-    }
+    std::vector<uint8_t> image = words({0x40380000u, textSize, 0x3FC90000u, dataSize, 0x40380004u});
     const auto body = pattern(textSize + dataSize, 0x5A);
     image.insert(image.end(), body.begin(), body.end());
     return image;

@@ -1,11 +1,13 @@
 #include <QAction>
 #include <QFile>
+#include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 
@@ -114,12 +116,21 @@ void AppDelegateTest::menuBarMatchesTheTable() {
         "  ---",
         "  Write Boot Partitions||checkable",
         "  Erase All Flash||checkable",
+        "  ---",
+        "  Back Up Machine Config Before Upload||checkable",
         "Config||",
         "  Update Config||",
         "    Alpha||tag=0",
         "    Beta||tag=1",
         "  ---",
         "  Select from Disk...||",
+        "  ---",
+        "  Save Machine Config\u2026||",
+        "  Compare With Machine\u2026||",
+        "    Alpha||tag=0",
+        "    Beta||tag=1",
+        "    ---",
+        "    Choose File\u2026||",
     };
     QCOMPARE(menus(), expected);
     QCOMPARE(action("About Teskal Firmware Updater")->menuRole(), QAction::AboutRole);
@@ -128,14 +139,16 @@ void AppDelegateTest::menuBarMatchesTheTable() {
     launch({});
     QCOMPARE(menus().mid(menus().indexOf("Config||")),
              QStringList({"Config||", "  No products configured||disabled", "  ---",
-                          "  Select from Disk...||"}));
+                          "  Select from Disk...||", "  ---", "  Save Machine Config\u2026||",
+                          "  Compare With Machine\u2026||", "    Choose File\u2026||"}));
 }
 
 void AppDelegateTest::togglesFlipTheFlagAndTheCheckMark() {
     for (const auto& [title, flag] :
          {std::pair{"Detailed Logging", "detailedLogging"},
           std::pair{"Write Boot Partitions", "writeBootPartitionsEnabled"},
-          std::pair{"Erase All Flash", "eraseAllFlashEnabled"}}) {
+          std::pair{"Erase All Flash", "eraseAllFlashEnabled"},
+          std::pair{"Back Up Machine Config Before Upload", "backupBeforeUploadEnabled"}}) {
         for (const bool on : {true, false}) {
             action(title)->trigger();
             QVERIFY2(m_delegate->updateController().property(flag).toBool() == on, title);
@@ -271,9 +284,15 @@ void AppDelegateTest::fileDialogsTakeOnlyTheirExtensions() {
     };
     for (const auto& [request, typed, refusal, taken] : rows) {
         ExtensionFileDialog dialog(m_delegate->window(), request);
+        auto* files = dialog.findChild<QFileSystemModel*>();
+        QVERIFY(files != nullptr);
+        QSignalSpy loaded(files, &QFileSystemModel::directoryLoaded);
         dialog.setDirectory(dir.path());
         dialog.open();
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        // The folder is read on a thread of its own; once it arrives the dialog
+        // re-selects, which must not overtake the typing.
+        QTRY_VERIFY(loaded.count() > 0);
         auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
         QVERIFY(name != nullptr);
         name->setFocus();  // as a user typing there; it then replaces the file list's selection
@@ -286,7 +305,12 @@ void AppDelegateTest::fileDialogsTakeOnlyTheirExtensions() {
         QCOMPARE(asked.first().section('|', 0, 0), refusal);
         QVERIFY(dialog.isVisible());
 
-        name->selectAll();  // typed over
+        // Typed over, back in the name field: a keystroke that lands while the
+        // file list has the focus adds to the list's selection instead.
+        QApplication::setActiveWindow(&dialog);
+        name->setFocus();
+        QTRY_VERIFY(name->hasFocus());
+        name->selectAll();
         QTest::keyClicks(name, taken);
         dialog.accept();
         QCOMPARE(dialog.result(), int(QDialog::Accepted));

@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 
@@ -11,6 +12,7 @@
 #include "app/UpdateController.h"
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
+#include "ui/CompareWindow.h"
 #include "ui/Fonts.h"
 #include "ui/LogPanel.h"
 #include "ui/LogView.h"
@@ -28,6 +30,7 @@ class ScreensTest : public QObject {
     void mainWindowStates();
     void refusedFirmwareAndQuitQuestion();
     void aboutWindow();
+    void compareWindow();
 
   private:
     void save(QWidget* window, const QString& name);
@@ -126,6 +129,23 @@ void ScreensTest::aboutWindow() {
     QVERIFY(QTest::qWaitForWindowExposed(&about));
     save(&about, QStringLiteral("about"));
     QCOMPARE(about.information()->verticalScrollBar()->maximum(), 0);
+}
+
+void ScreensTest::compareWindow() {
+    const QByteArray machine =
+        "# Tuned on the machine\nname: \"Corvane Halcot\"\naxes:\n  x:\n    steps_per_mm: 78.750\n"
+        "    max_travel_mm: 330.000\n  z:\n    max_travel_mm: 10.000\n";
+    const QByteArray halcot =
+        "name: \"Corvane Halcot\"\naxes:\n  x:\n    steps_per_mm: 80.000\n"
+        "    max_travel_mm: 330.000\n    soft_limits: true\n";
+    CompareWindow compare(compareConfigs({QStringLiteral("machine"), machine},
+                                         {QStringLiteral("Corvane Halcot"), halcot}),
+                          QStringLiteral("Corvane Halcot"));
+    compare.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&compare));
+    save(&compare, QStringLiteral("compare-by-key"));
+    compare.tabs()->setCurrentIndex(1);
+    save(&compare, QStringLiteral("compare-by-line"));
 }
 
 QTEST_MAIN(ScreensTest)

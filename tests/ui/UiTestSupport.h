@@ -22,12 +22,18 @@ inline char* noDevice(uint16_t, uint16_t) {
 /// Answers the next modal message box with the button titled `answer`, or with
 /// the Escape key when `answer` is "Escape". Appends to `asked` the box's text,
 /// its buttons and its default button ("text|Keep|Quit|default Keep"), or "none"
-/// when no message box was up.
-inline void answerNextMessageBox(const QString& answer, QStringList* asked) {
-    QTimer::singleShot(0, [answer, asked] {
+/// when no message box came up within 5 s.
+inline void answerNextMessageBox(const QString& answer, QStringList* asked, int triesLeft = 500) {
+    // The box may not be up yet when the event loop first runs: it is shown by its
+    // own exec(), so keep looking for it a while instead of leaving it open.
+    QTimer::singleShot(triesLeft == 500 ? 0 : 10, [answer, asked, triesLeft] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box == nullptr) {
-            asked->append(QStringLiteral("none"));
+        if (box == nullptr || !box->isVisible()) {
+            if (triesLeft > 0) {
+                answerNextMessageBox(answer, asked, triesLeft - 1);
+            } else {
+                asked->append(QStringLiteral("none"));
+            }
             return;
         }
         QStringList seen{box->text()};
