@@ -130,21 +130,11 @@ void UpdateController::compareWithMachine(const ConfigChoice& choice) {
 }
 
 std::optional<ConfigText> UpdateController::readChoice(const ConfigChoice& choice) {
-    if (choice.product) {
-        const auto bytes = m_resources.readConfig(choice.product->configFile);
-        if (!bytes) {
-            log(QStringLiteral("ERROR: Config file not found in bundle: ") +
-                choice.product->configFile);
-            return std::nullopt;
-        }
-        return ConfigText{choice.label(), *bytes};
+    ChosenConfig chosen = readChosenConfig(m_resources, choice);
+    if (!chosen.text) {
+        log(QStringLiteral("ERROR: ") + chosen.refusal);
     }
-    const ConfigFile file = readConfigFile(choice.path);
-    if (!file.bytes) {
-        log(QStringLiteral("ERROR: ") + file.refusal);
-        return std::nullopt;
-    }
-    return ConfigText{choice.label(), *file.bytes};
+    return std::move(chosen.text);
 }
 
 void UpdateController::chooseCustomFirmware(const std::optional<QString>& path) {

@@ -72,15 +72,16 @@ CommandLine::CommandLine()
       commands_(makeCommands()) {
     app_.formatter(std::make_shared<HelpFormatter>());
     app_.require_subcommand(1);
-    app_.footer(
-        "Try it without hardware: teskal-flash flash --sim\n"
-        "Run 'teskal-flash COMMAND --help' for a command's options and exit statuses.");
     for (const auto& command : commands_) {
         CLI::App* subcommand = command->define(app_);
         addCommonOptions(*subcommand, *command);
         subcommand->footer(subcommand->get_footer() + exitStatusFooter(*command));
         subcommands_.emplace_back(subcommand, command.get());
     }
+    // Set last: a subcommand takes its parent's footer when it is added.
+    app_.footer(
+        "Try it without hardware: teskal-flash flash --sim\n"
+        "Run 'teskal-flash COMMAND --help' for a command's options and exit statuses.");
 }
 
 void CommandLine::addCommonOptions(CLI::App& subcommand, const Command& command) {
@@ -88,6 +89,7 @@ void CommandLine::addCommonOptions(CLI::App& subcommand, const Command& command)
         subcommand.add_option("--port", options_.ports, "Serial port (default: the first plotter)")
             ->type_name("P")
             ->expected(1)
+            ->allow_extra_args(false)
             ->multi_option_policy(CLI::MultiOptionPolicy::Throw);
     }
     if (command.ports() == Command::Ports::several) {
@@ -96,7 +98,9 @@ void CommandLine::addCommonOptions(CLI::App& subcommand, const Command& command)
                 .add_option("--port", options_.ports,
                             "Serial port (default: the first plotter); repeat it for several "
                             "plotters at once, one process each")
-                ->type_name("P");
+                ->type_name("P")
+                // One port per --port, so that a FILE after it stays the command's.
+                ->allow_extra_args(false);
         subcommand.add_flag("--all", options_.all, "Every connected plotter at once")
             ->excludes(port);
     }

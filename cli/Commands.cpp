@@ -8,5 +8,7 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
     commands.push_back(makeUploadConfigCommand());
     commands.push_back(makeProbeCommand());
     commands.push_back(makeInspectCommand());
+    commands.push_back(makeSaveConfigCommand());
+    commands.push_back(makeDiffConfigCommand());
     return commands;
 }

@@ -11,6 +11,8 @@ std::unique_ptr<Command> makeFlashCommand();
 std::unique_ptr<Command> makeUploadConfigCommand();
 std::unique_ptr<Command> makeProbeCommand();
 std::unique_ptr<Command> makeInspectCommand();
+std::unique_ptr<Command> makeSaveConfigCommand();
+std::unique_ptr<Command> makeDiffConfigCommand();
 
 /// Every subcommand, in the order --help lists them.
 std::vector<std::unique_ptr<Command>> makeCommands();

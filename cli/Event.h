@@ -20,7 +20,7 @@ struct Error {
 struct Progress {
     float fraction = 0.0f;  ///< as the library reports it, 0..1
     QString stage;          ///< the library's stage text; empty when it gave none
-    qint64 bytes = 0;       ///< bytes written to the machine so far
+    qint64 bytes = 0;       ///< bytes written to the machine so far; -1 when not told
 };
 
 /// The last event of every command.

@@ -8,6 +8,8 @@ namespace ExitCode {
 inline constexpr int success = 0;
 inline constexpr int noDevice = 1;
 inline constexpr int portNotOpened = 2;
+/// The machine's configuration could not be read (save-config, diff-config).
+inline constexpr int downloadFailed = 8;
 inline constexpr int noAnswer = 9;
 /// An image or configuration was refused before anything was sent.
 inline constexpr int refused = 11;

@@ -16,7 +16,9 @@ JobSink Feed::jobSink(WrittenShare share) const {
         post(event::Progress{0.0f, QString(), 0});
     };
     sink.progress = [post = post_, total, share](float fraction, const QString& stage) {
-        const auto bytes = static_cast<qint64>(std::llround(share(fraction) * total->load()));
+        const auto bytes = share != nullptr
+                               ? static_cast<qint64>(std::llround(share(fraction) * total->load()))
+                               : qint64{-1};
         post(event::Progress{fraction, stage, bytes});
     };
     return sink;

@@ -24,8 +24,9 @@ class Feed {
 
     /// A sink for one of the application's jobs: its log lines, the library's
     /// lines when verbose, a first progress event (fraction 0) when it starts,
-    /// then its progress with the bytes written, `share` of its size.
-    JobSink jobSink(WrittenShare share) const;
+    /// then its progress with the bytes written, `share` of its size; without a
+    /// `share` (a download, whose size XModem does not tell) the bytes are not told.
+    JobSink jobSink(WrittenShare share = nullptr) const;
 
   private:
     Post post_;

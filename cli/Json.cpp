@@ -17,10 +17,13 @@ QJsonObject objectFor(const Event& event) {
             } else if constexpr (std::is_same_v<T, event::Error>) {
                 return {{"type", "log"}, {"line", kErrorPrefix + e.message}};
             } else if constexpr (std::is_same_v<T, event::Progress>) {
-                return {{"type", "progress"},
-                        {"fraction", static_cast<double>(e.fraction)},
-                        {"stage", e.stage},
-                        {"bytes", e.bytes}};
+                QJsonObject progress{{"type", "progress"},
+                                     {"fraction", static_cast<double>(e.fraction)},
+                                     {"stage", e.stage}};
+                if (e.bytes >= 0) {
+                    progress.insert(QStringLiteral("bytes"), e.bytes);
+                }
+                return progress;
             } else {
                 return {{"type", "result"}, {"code", e.code}, {"message", e.message}};
             }
@@ -52,7 +55,7 @@ std::optional<Event> eventFromJsonLine(const QByteArray& line) {
         return event::Progress{
             static_cast<float>(object.value(QStringLiteral("fraction")).toDouble()),
             object.value(QStringLiteral("stage")).toString(),
-            object.value(QStringLiteral("bytes")).toInteger()};
+            object.value(QStringLiteral("bytes")).toInteger(-1)};
     }
     if (type == QLatin1String("result")) {
         const int code = object.value(QStringLiteral("code")).toInt();

@@ -42,10 +42,13 @@ QString ProgressMeter::stage() const {
 }
 
 QString ProgressMeter::figures() const {
-    QString text = QStringLiteral("%1%  %2 bytes")
-                       .arg(percent())
-                       .arg(QString::fromStdString(image::withThousands(
-                           static_cast<uint64_t>(std::max<qint64>(bytes_, 0)))));
+    if (bytes_ < 0) {
+        return QString();
+    }
+    QString text =
+        QStringLiteral("%1%  %2 bytes")
+            .arg(percent())
+            .arg(QString::fromStdString(image::withThousands(static_cast<uint64_t>(bytes_))));
     if (bytesPerSecond_) {
         const double kib = *bytesPerSecond_ / 1024.0;
         text += kib < 1024.0 ? QStringLiteral("  %1 KiB/s").arg(kib, 0, 'f', 0)

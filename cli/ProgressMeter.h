@@ -21,7 +21,8 @@ class ProgressMeter {
     /// The last stage text, or what stands in for it before the first one and
     /// after the end.
     QString stage() const;
-    /// "40%  612,352 bytes  180 KiB/s"; the rate once it can be told.
+    /// "40%  612,352 bytes  180 KiB/s"; the rate once it can be told. Empty while
+    /// the job does not tell its bytes.
     QString figures() const;
     /// "[########------------]", `width` cells between the brackets.
     QString bar(int width) const;
@@ -31,7 +32,7 @@ class ProgressMeter {
     std::optional<bool> succeeded_;
     float fraction_ = 0.0f;
     QString stage_;
-    qint64 bytes_ = 0;
+    qint64 bytes_ = 0;                                     // -1: not told
     std::optional<std::pair<qint64, qint64>> firstBytes_;  // (elapsed ms, bytes)
     std::optional<double> bytesPerSecond_;
 };

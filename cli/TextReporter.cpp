@@ -85,8 +85,10 @@ void TextReporter::onProgress(Row& row, const event::Progress& progress) {
     }
     row.printedStage = row.meter.stage();
     row.printedTenth = tenth;
-    printLine(stdout,
-              prefixed(row.port, row.meter.stage() + QStringLiteral(" ") + row.meter.figures()));
+    const QString figures = row.meter.figures();
+    printLine(stdout, prefixed(row.port, figures.isEmpty()
+                                             ? row.meter.stage()
+                                             : row.meter.stage() + QLatin1Char(' ') + figures));
 }
 
 void TextReporter::onResult(Row& row, const event::Result& result) {

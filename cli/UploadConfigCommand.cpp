@@ -1,8 +1,6 @@
-#include <algorithm>
-
-#include "app/BuildConfig.h"
 #include "app/ConfigUploadJob.h"
 #include "cli/Commands.h"
+#include "cli/ConfigSource.h"
 
 namespace {
 
@@ -10,31 +8,6 @@ const QString kUploaded = QStringLiteral("Upload successful; restarting machine.
 
 double uploadedShare(float fraction) {
     return static_cast<double>(fraction);
-}
-
-std::vector<std::string> productNames() {
-    std::vector<std::string> names;
-    for (const ProductConfig& product : BuildConfig::products()) {
-        names.push_back(product.name.toStdString());
-        names.push_back(product.configFile.toStdString());
-    }
-    return names;
-}
-
-std::string productList() {
-    QString list = QStringLiteral("Products:\n");
-    for (const ProductConfig& product : BuildConfig::products()) {
-        list += QStringLiteral("  %1 (%2)\n").arg(product.name, product.configFile);
-    }
-    return (list + QLatin1Char('\n')).toStdString();
-}
-
-ProductConfig productNamed(const std::string& name) {
-    const QString wanted = QString::fromStdString(name);
-    const auto& products = BuildConfig::products();
-    return *std::find_if(products.begin(), products.end(), [&](const ProductConfig& product) {
-        return product.name == wanted || product.configFile == wanted;
-    });
 }
 
 class UploadConfigCommand : public Command {
@@ -46,16 +19,7 @@ class UploadConfigCommand : public Command {
             "takes a product's configuration from the resources, or a file from disk, which is "
             "checked first (UTF-8, YAML, a mapping of settings, at most 1 MiB); the machine "
             "then restarts.");
-        CLI::Option_group* source = command->add_option_group("source", "What to upload");
-        source
-            ->add_option("--product", product_,
-                         "Product, by name (\"Corvane Halcot\") or configuration file "
-                         "(\"Halcot.yaml\")")
-            ->check(CLI::IsMember(productNames()).description(""))
-            ->type_name("NAME");
-        source->add_option("FILE", file_, "Configuration file (.yaml or .yml)")->type_name("");
-        source->require_option(1);
-        command->footer(productList());
+        source_.define(command, "What to upload");
         return command;
     }
 
@@ -72,7 +36,8 @@ class UploadConfigCommand : public Command {
 
     event::Result run(const CommandContext& context, const Feed& feed) const override {
         const JobSink sink = feed.jobSink(&uploadedShare);
-        if (!product_.empty()) {
+        const ConfigChoice choice = source_.choice();
+        if (choice.product) {
             // The development set's configurations describe no real machine.
             if (context.developmentSet && !context.simulated) {
                 return {ExitCode::refused,
@@ -80,10 +45,10 @@ class UploadConfigCommand : public Command {
                                        "simulated plotters"),
                         true};
             }
-            const ConfigUploadJob job(context.portPath, context.resources, productNamed(product_));
+            const ConfigUploadJob job(context.portPath, context.resources, *choice.product);
             return resultOf(job.run(sink), kUploaded);
         }
-        const ConfigFile config = readConfigFile(QString::fromStdString(file_));
+        const ConfigFile config = readConfigFile(choice.path);
         if (!config.bytes) {
             return {ExitCode::refused, config.refusal, true};
         }
@@ -93,8 +58,7 @@ class UploadConfigCommand : public Command {
     }
 
   private:
-    std::string product_;
-    std::string file_;
+    ConfigSource source_;
 };
 
 }  // namespace

@@ -170,6 +170,25 @@ void CliTest::subcommands_data() {
                        "Halcot.yaml",   "--port",      kNoPort}
         << 2 << QStringList{"Preparing Corvane Halcot config v1.2.0-devset"} << QStringList{}
         << "ERROR: Could not open serial port. Is another app using it?\n";
+    QTest::newRow("save-config") << QStringList{"save-config", "--sim", file("saved.yaml")} << 0
+                                 << QStringList{"Machine config saved to " + file("saved.yaml") +
+                                                " (512 bytes)"}
+                                 << QStringList{} << "";
+    QTest::newRow("save-config, port cannot be opened")
+        << QStringList{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 8 << QStringList{}
+        << QStringList{}
+        << "ERROR: Could not read config.yaml from the machine: Failed to open port\n";
+    QTest::newRow("diff-config, different")
+        << QStringList{"diff-config", "--sim", "--product", "Corvane Halcot"} << 1
+        << QStringList{"axes/x/max_travel_mm: 300.000 \u2192 330.000",
+                       "+ axes/z/motor0/rc_servo/pwm_hz: 50",
+                       "name: Simulated plotter \u2192 Corvane Halcot"}
+        << QStringList{} << "";
+    QTest::newRow("diff-config, invalid file")
+        << QStringList{"diff-config", "--sim", file("bad.yaml")} << 11 << QStringList{}
+        << QStringList{"Downloading"}
+        << "ERROR: bad.yaml is not a valid machine configuration: line 3, column 1: end of "
+           "sequence flow not found\n";
     QTest::newRow("inspect, simulated")
         << QStringList{"inspect", "--sim", kDev + "/firmware.bin", kDev + "/configs/Halcot.yaml"}
         << 0
