@@ -1,20 +1,10 @@
 #include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
 
+#include "ControllerHarness.h"
 #include "app/BuildConfig.h"
+#include "app/LogExport.h"
 #include "app/MachineConfigCheck.h"
-#include "app/ResourceBundle.h"
-#include "app/UpdateController.h"
-
-namespace {
-
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
-}  // namespace
+#include "app/SaveMachineConfigJob.h"
 
 class AppCoreTest : public QObject {
     Q_OBJECT
@@ -22,10 +12,9 @@ class AppCoreTest : public QObject {
   private slots:
     void developmentSetIsNeverTheShippedFirmware();
     void resourcesAreFoundBesideOrInstalled();
-    void errorMessagesAndVersionCleanUp();
+    void errorMessagesVersionCleanUpAndFileNames();
     void metaVersion_data();
     void metaVersion();
-    void statesCompareByCaseAndPayload();
 };
 
 void AppCoreTest::developmentSetIsNeverTheShippedFirmware() {
@@ -49,8 +38,8 @@ void AppCoreTest::resourcesAreFoundBesideOrInstalled() {
     const QDir root(prefix.path());
     const QString bin = root.filePath("bin");
     QVERIFY(root.mkpath("bin") && root.mkpath("share/teskal-firmware-updater/resources/configs"));
-    writeFile(root.filePath("share/teskal-firmware-updater/resources/firmware.bin"), "installed");
-    writeFile(root.filePath("share/teskal-firmware-updater/resources/configs/Halcot"), "bare");
+    writeFile(prefix, "share/teskal-firmware-updater/resources/firmware.bin", "installed");
+    writeFile(prefix, "share/teskal-firmware-updater/resources/configs/Halcot", "bare");
     const ResourceBundle installed = ResourceBundle::forExecutableDir(bin);
     QCOMPARE(installed.read("firmware", "bin"), QByteArray("installed"));
     QVERIFY(!installed.read("firmware", "").has_value());
@@ -59,11 +48,11 @@ void AppCoreTest::resourcesAreFoundBesideOrInstalled() {
     QVERIFY(!installed.readConfig("Halcot.yaml").has_value());
 
     QVERIFY(root.mkpath("bin/resources"));
-    writeFile(root.filePath("bin/resources/firmware.bin"), "beside");
+    writeFile(prefix, "bin/resources/firmware.bin", "beside");
     QCOMPARE(ResourceBundle::forExecutableDir(bin).read("firmware", "bin"), QByteArray("beside"));
 }
 
-void AppCoreTest::errorMessagesAndVersionCleanUp() {
+void AppCoreTest::errorMessagesVersionCleanUpAndFileNames() {
     QCOMPARE(UpdateController::errorMessage(7),
              QStringLiteral("Verification failed. Flash may be corrupted \u2014 try again."));
     QCOMPARE(UpdateController::errorMessage(0), QStringLiteral("Unknown error (code 0)"));
@@ -78,6 +67,9 @@ void AppCoreTest::errorMessagesAndVersionCleanUp() {
          }) {
         QCOMPARE(UpdateController::cleanFirmwareVersion(reply), QString(version));
     }
+    const QDateTime when(QDate(2025, 3, 7), QTime(9, 5, 4));
+    QCOMPARE(SaveMachineConfigJob::defaultFileName(when), "machine-config-20250307-0905.yaml");
+    QCOMPARE(LogExport::defaultFileName(when), "teskal-updater-log-20250307-090504.txt");
 }
 
 void AppCoreTest::metaVersion_data() {
@@ -99,13 +91,6 @@ void AppCoreTest::metaVersion() {
     const auto found = UpdateController::extractMetaVersion(file);
     QCOMPARE(found.value_or(QString()), version);
     QCOMPARE(found.has_value(), !version.isEmpty());
-}
-
-void AppCoreTest::statesCompareByCaseAndPayload() {
-    QVERIFY(UpdateState() == UpdateState::idle());
-    QVERIFY(!(UpdateState::flashing(0.5f) == UpdateState::flashing(0.25f)));
-    QVERIFY(!(UpdateState::flashing(0.5f) == UpdateState::uploadingConfig(0.5f)));
-    QVERIFY(!(UpdateState::error("a") == UpdateState::error("b")));
 }
 
 QTEST_GUILESS_MAIN(AppCoreTest)

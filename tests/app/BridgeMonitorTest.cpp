@@ -60,13 +60,13 @@ void BridgeMonitorTest::bridgeConvertsNullAndInvalidTexts() {
         [&](const QString& line) {
             lines << line;
             if (lines.size() == 1) {
-                FlasherBridge::detail::progressTrampoline(0.5f, nullptr);
-                FlasherBridge::detail::progressTrampoline(0.75f, "Flashing \xff");
+                FlasherBridge::detail::progressTrampoline(0.1f, nullptr);
+                FlasherBridge::detail::progressTrampoline(0.333333343f, "Flashing \xff");
                 FlasherBridge::detail::logTrampoline(nullptr);
             }
         });
     QCOMPARE(progress, (QList<std::pair<float, QString>>{
-                           {0.5f, QString()}, {0.75f, QStringLiteral("Flashing \ufffd")}}));
+                           {0.1f, QString()}, {0.333333343f, QStringLiteral("Flashing \ufffd")}}));
     QCOMPARE(lines.size(), 3);
     QCOMPARE(lines[1], QString());
 }

@@ -80,8 +80,8 @@ inline QByteArray unmarkedApplication() {
 }
 
 /// An UpdateController whose device detection answers the path a test plugs in,
-/// with a record of the states and status lines it published. It accepts the
-/// development images unless told otherwise.
+/// with a record of what it published. It accepts the development images unless
+/// told otherwise.
 class ControllerHarness : public QObject {
     // Declared first: the controller's detector shares it.
     std::shared_ptr<QByteArray> m_port = std::make_shared<QByteArray>();
@@ -96,10 +96,12 @@ class ControllerHarness : public QObject {
                   return port->isEmpty() ? nullptr : strdup(port->constData());
               },
               developmentImages) {
-        connect(&controller, &UpdateController::stateChanged, this,
-                [this](const UpdateState& state) { states.append(state); });
+        connect(&controller, &UpdateController::stateChanged, this, [this](const UpdateState& s) {
+            states.append(s);
+            published.append(s.toString());
+        });
         connect(&controller, &UpdateController::statusMessageChanged, this,
-                [this](const QString& status) { statuses.append(status); });
+                [this](const QString& status) { published.append("status: " + status); });
     }
 
     /// Plugs in `path` (empty: unplugs), waits until a poll has made the controller
@@ -110,7 +112,7 @@ class ControllerHarness : public QObject {
         const UpdateState wanted = path.isEmpty() ? UpdateState::idle() : UpdateState::ready();
         const bool followed = QTest::qWaitFor([&] { return states.contains(wanted); }, 2000);
         states.clear();
-        statuses.clear();
+        published.clear();
         return followed;
     }
 
@@ -128,14 +130,25 @@ class ControllerHarness : public QObject {
         return *outcome();
     }
 
-    /// The first busy state recorded; ready when there was none.
-    UpdateState firstBusy() const {
-        const auto busy = std::find_if(states.begin(), states.end(),
-                                       [](const UpdateState& s) { return s.isBusy(); });
-        return busy == states.end() ? UpdateState::ready() : *busy;
+    /// The states from the first busy one to the first that is not, which only the
+    /// job's own end may bring; empty when there was no busy state.
+    QList<UpdateState> busySpan() const {
+        const auto busy = [](const UpdateState& s) { return s.isBusy(); };
+        const auto first = std::find_if(states.begin(), states.end(), busy);
+        const auto end = std::find_if_not(first, states.end(), busy);
+        return QList<UpdateState>(first, end == states.end() ? end : end + 1);
+    }
+
+    /// What was published since the plug, without the polls' "ready" before the job.
+    QStringList publishedByJob() const {
+        const auto own = std::find_if(published.begin(), published.end(), [](const QString& p) {
+            return p != "ready" && p != "status: Device connected";
+        });
+        return QStringList(own, published.end());
     }
 
     UpdateController controller;
     QList<UpdateState> states;
-    QStringList statuses;
+    /// States as `toString()` and status lines as "status: TEXT", in publication order.
+    QStringList published;
 };

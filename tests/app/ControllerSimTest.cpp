@@ -40,40 +40,12 @@ class ControllerSimTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void applicationOnlyWhenTheConsoleAnswers();
     void fullFlashWithEraseAllEndsWithTheNote();
     void fullFlashOfCustomImageWhenTheConsoleIsSilent();
     void configurationsFromTheTableAndFromAFile();
     void refusedImagesAndConfigurationsReachNothing();
     void machineConfigSavedComparedAndBackedUpBeforeUploads();
 };
-
-void ControllerSimTest::applicationOnlyWhenTheConsoleAnswers() {
-    sim::PtyPlotter plotter;
-    ControllerHarness harness;
-    harness.controller.setDetailedLogging(true);
-    QVERIFY(harness.plug(QString::fromStdString(plotter.path())));
-
-    harness.controller.updateFirmware();
-    QTRY_VERIFY_WITH_TIMEOUT(harness.firstBusy().isBusy(), 10000);
-    harness.controller.updateFirmware();  // refused; the running job goes on
-
-    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::flashComplete()));
-    QTRY_COMPARE(harness.controller.logMessages().last(), kComplete);
-    const QStringList log = harness.controller.logMessages();
-    QCOMPARE(log.mid(0, 3),
-             QStringList({"Updating firmware v2.10.6\u2026", "Checking device status\u2026",
-                          "Device running firmware v3.7.8 \u2014 updating firmware only."}));
-    QCOMPARE(log.count("ERROR: Another operation is already running"), 1);
-    QVERIFY(log.contains("Flash plan: 2 entries (app only)"));
-    QVERIFY(log.contains("Verifying firmware version..."));  // the shipped version is expected
-    QCOMPARE(harness.firstBusy(), UpdateState::flashing(0));
-    QVERIFY(harness.statuses.contains("Flashing"));
-
-    const QByteArray firmware = devImage("firmware");
-    QVERIFY(flashAt(plotter, 0x10000, firmware.size()) == firmware);
-    QCOMPARE(flashAt(plotter, 0x0, 16), QByteArray(16, char(0xFF)));
-}
 
 void ControllerSimTest::fullFlashWithEraseAllEndsWithTheNote() {
     sim::PtyPlotter plotter;
@@ -88,6 +60,10 @@ void ControllerSimTest::fullFlashWithEraseAllEndsWithTheNote() {
         "your machine.");
     QTRY_COMPARE(harness.controller.logMessages(),
                  QStringList({"Updating firmware v2.10.6\u2026", kComplete, "", note}));
+    // The erase is reported at 0.08 in single precision, and published as reported.
+    QCOMPARE(harness.busySpan().mid(0, 2),
+             QList<UpdateState>({UpdateState::flashing(0), UpdateState::flashing(0.08f)}));
+    QVERIFY(harness.published.contains("status: Erasing flash..."));
 
     for (const auto& [address, name] :
          {std::pair(0x0u, "bootloader"), std::pair(0x8000u, "partitions"),
@@ -132,23 +108,33 @@ void ControllerSimTest::configurationsFromTheTableAndFromAFile() {
     for (qsizetype i = 1; i < log.size(); ++i) {
         QVERIFY2(log[i] != log[i - 1], qPrintable(log[i]));  // a repeated stage is logged once
     }
-    QCOMPARE(harness.firstBusy(), UpdateState::uploadingConfig(0));
+    QCOMPARE(harness.busySpan().first(), UpdateState::uploadingConfig(0));
+    QCOMPARE(harness.busySpan().last(), UpdateState::configComplete());
     QCOMPARE(storedConfig(plotter),
              ResourceBundle(TFU_DEV_RESOURCES_DIR).readConfig("Halcot.yaml"));
 
+    // Three XModem blocks: the library reports 1/3, 2/3 and 1 in single precision,
+    // which the controller must publish exactly as reported.
     QTemporaryDir dir;
-    QFile file(dir.filePath("workshop.yml"));
     QByteArray config("name: \"Workshop plotter\"\nmeta: '9.9'\n");
-    config += QByteArray(40 * 1024, '#');  // several XModem blocks
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(config) == config.size());
-    file.close();
+    config.append(3 * 1024 - config.size(), '#');
+    const QString file = writeFile(dir, "workshop.yml", config);
     QVERIFY(harness.plug(QString::fromStdString(plotter.path())));
+    QList<float> progress;
+    connect(&harness.controller, &UpdateController::progressChanged, this,
+            [&](float fraction) { progress << fraction; });
 
-    harness.controller.uploadConfigFromFile(file.fileName());
+    harness.controller.uploadConfigFromFile(file);
     QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::configComplete()));
     QTRY_COMPARE(harness.controller.logMessages().last(), kUploaded);
     QCOMPARE(harness.controller.logMessages().mid(0, 2),
              QStringList({"Preparing workshop.yml v9.9", "Uploading config file..."}));
+    QCOMPARE(harness.busySpan(),
+             QList<UpdateState>({UpdateState::uploadingConfig(0),
+                                 UpdateState::uploadingConfig(0.333333343f),
+                                 UpdateState::uploadingConfig(0.666666687f),
+                                 UpdateState::uploadingConfig(1), UpdateState::configComplete()}));
+    QVERIFY(progress == QList<float>({0.333333343f, 0.666666687f, 1.0f}));
     QVERIFY(storedConfig(plotter) == config);
 }
 
@@ -167,7 +153,7 @@ void ControllerSimTest::refusedImagesAndConfigurationsReachNothing() {
         controller.updateFirmware();
         const QString message = "Firmware image refused: " + file.reason;
         QCOMPARE(harness.waitForOutcome(5000), std::optional(UpdateState::error(message)));
-        QCOMPARE(harness.statuses.last(), message);
+        QCOMPARE(harness.published.last(), "status: " + message);
         QTRY_COMPARE(controller.logMessages(),
                      QStringList({"Updating firmware (custom: " + file.fileName + ")\u2026",
                                   "ERROR: " + message}));
@@ -223,27 +209,39 @@ void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
     tuned.replace("  x:\n    steps_per_mm: 80.000", "  x:\n    steps_per_mm: 78.750");
     sim::Config config;
     config.machineConfig = tuned.toStdString();
+    config.xmodemSendCanBlock = 1;
     sim::PtyPlotter plotter(config);
     const QString port = QString::fromStdString(plotter.path());
     ControllerHarness harness;
     auto& controller = harness.controller;
     const ConfigChoice halcotChoice = ConfigChoice::ofProduct({"Corvane Halcot", "Halcot.yaml"});
-    QVERIFY(harness.plug(port));
+    const QString cancelled = QStringLiteral(
+        "Could not read config.yaml from the machine: XModem download: cancelled by the device");
 
-    const QString saved = dir.filePath("saved.yaml");
+    // A failed download leaves an earlier file as it was.
+    const QString saved = writeFile(dir, "saved.yaml", "earlier copy\n");
+    QVERIFY(harness.plug(port));
+    controller.saveMachineConfig(saved);
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::error(cancelled)));
+    QCOMPARE(readFile(saved), QByteArray("earlier copy\n"));
+
+    plotter.modify([](sim::Plotter& p) { p.config().xmodemSendCanBlock.reset(); });
+    QVERIFY(harness.plug(port));
     controller.saveMachineConfig(saved);
     controller.compareWithMachine(halcotChoice);  // refused; the save goes on
     QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning(), kJobTimeoutMs);
-    QCOMPARE(controller.logMessages(),
-             QStringList(
-                 {"ERROR: Another operation is already running",
-                  QString("Machine config saved to %1 (%2 bytes)").arg(saved).arg(tuned.size())}));
+    const QString savedLine = QString("Machine config saved to %1 (%2 bytes)").arg(saved);
+    QCOMPARE(controller.logMessages(), QStringList({"ERROR: Another operation is already running",
+                                                    savedLine.arg(tuned.size())}));
     QCOMPARE(readFile(saved), tuned);
-    QCOMPARE(harness.firstBusy(), UpdateState::probing());
-    QVERIFY(harness.states.contains(UpdateState::ready()));
-    QVERIFY(harness.statuses.contains(
-        QString("Downloading config.yaml... %1 bytes").arg(tuned.size())));
-    QVERIFY(harness.statuses.contains("Machine config saved"));
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{"saved.yaml"});
+    // The download holds "probing" through every poll; only its end brings "ready".
+    const QStringList published = harness.publishedByJob();
+    QCOMPARE(published.first(), "probing");
+    QCOMPARE(published.mid(published.indexOf("ready"), 2),
+             QStringList({"ready", "status: Machine config saved"}));
+    QVERIFY(published.contains(
+        QString("status: Downloading config.yaml... %1 bytes").arg(tuned.size())));
 
     std::optional<ConfigComparison> comparison;
     QString chosen;
@@ -255,6 +253,8 @@ void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
     controller.compareWithMachine(halcotChoice);
     QTRY_VERIFY_WITH_TIMEOUT(comparison, kJobTimeoutMs);
     QCOMPARE(comparison->keyDifferences, QStringList{"axes/x/steps_per_mm: 78.750 → 80.000"});
+    QVERIFY(
+        comparison->lineDiff.contains("-    steps_per_mm: 78.750\n+    steps_per_mm: 80.000\n"));
     QCOMPARE(chosen, "Corvane Halcot");
     QCOMPARE(controller.logMessages(),
              QStringList{"Machine config differs from Corvane Halcot in 1 key"});
@@ -275,7 +275,8 @@ void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
                               .arg(backups.filePath(files[0]))
                               .arg(tuned.size()),
                           "Preparing Corvane Halcot config v1.2.0-devset"}));
-    QCOMPARE(harness.firstBusy(), UpdateState::probing());
+    QCOMPARE(harness.busySpan().first(), UpdateState::probing());
+    QCOMPARE(harness.busySpan().last(), UpdateState::configComplete());
     QCOMPARE(storedConfig(plotter), halcot);
 
     // A backup that fails stops the upload before it reaches the machine.
@@ -293,8 +294,7 @@ void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
     QVERIFY(harness.plug(port));
     controller.uploadConfigFromFile(writeFile(dir, "workshop.yaml", "name: workshop\n"));
     const QString message =
-        "Could not back up the machine config; the upload did not start: Could not read "
-        "config.yaml from the machine: XModem download: cancelled by the device";
+        "Could not back up the machine config; the upload did not start: " + cancelled;
     QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::error(message)));
     QTRY_COMPARE(controller.logMessages(),
                  QStringList({"Preparing workshop.yaml", "ERROR: " + message}));

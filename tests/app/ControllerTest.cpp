@@ -72,37 +72,47 @@ void ControllerTest::failures_data() {
     // "update" or "config"; an update may ask the console first ("probe"), log in
     // detail ("detailed") or use an unreadable custom image ("custom").
     QTest::addColumn<QString>("job");
+    QTest::addColumn<QString>("busy");  // the state the job set before it failed, if any
     QTest::addColumn<QString>("message");
     QTest::addColumn<QStringList>("logBeforeError");
 
     QTest::newRow("shipped image missing") << QStringList{"firmware.bin"} << "update"
+                                           << ""
                                            << "Bundled firmware not found" << QStringList{};
     QTest::newRow("custom image unreadable")
         << QStringList{} << "update custom"
+        << ""
         << "Failed to load custom firmware: No such file or directory" << QStringList{};
     QTest::newRow("stub missing") << QStringList{"esp32s3_stub.bin"} << "update"
+                                  << ""
                                   << "Flash stub not found in bundle" << QStringList{kShipped};
     QTest::newRow("no answer, partition table missing")
         << QStringList{"partitions.bin"} << "update probe"
+        << ""
         << "Missing bootloader resources for full flash"
         << QStringList{kShipped, "Checking device status\u2026",
                        "Device not responding \u2014 writing boot partitions + firmware."};
     QTest::newRow("library fails, plain log")
-        << QStringList{} << "update" << kOpenFailed << QStringList{kShipped};
+        << QStringList{} << "update"
+        << "flashing(0)" << kOpenFailed << QStringList{kShipped};
     QTest::newRow("library fails, detailed log")
-        << QStringList{} << "update detailed" << kOpenFailed
+        << QStringList{} << "update detailed"
+        << "flashing(0)" << kOpenFailed
         << QStringList{kShipped, "Opening port: " + kMissingPort, "Failed to open port"};
     QTest::newRow("configuration missing")
         << QStringList{"configs/Halcot.yaml"} << "config"
+        << "uploadingConfig(0)"
         << "Config file not found in bundle: Halcot.yaml" << QStringList{};
     QTest::newRow("configuration, library fails")
-        << QStringList{} << "config" << kOpenFailed
+        << QStringList{} << "config"
+        << "uploadingConfig(0)" << kOpenFailed
         << QStringList{"Preparing Corvane Halcot config v1.2.0-devset"};
 }
 
 void ControllerTest::failures() {
     QFETCH(QStringList, missing);
     QFETCH(QString, job);
+    QFETCH(QString, busy);
     QFETCH(QString, message);
     QFETCH(QStringList, logBeforeError);
 
@@ -124,7 +134,11 @@ void ControllerTest::failures() {
     }
     QCOMPARE(harness.waitForOutcome(5000), std::optional(UpdateState::error(message)));
     QCOMPARE(controller.logMessages(), logBeforeError + QStringList{"ERROR: " + message});
-    QVERIFY(harness.statuses.contains(message));
+    QStringList published{"error(" + message + ")", "status: " + message};
+    if (!busy.isEmpty()) {
+        published.prepend(busy);
+    }
+    QCOMPARE(harness.publishedByJob().mid(0, published.size()), published);
 
     // The next poll brings the controller back to ready; the log keeps the outcome.
     QTRY_COMPARE_WITH_TIMEOUT(controller.state(), UpdateState::ready(), 2000);

@@ -55,8 +55,8 @@ class AppDelegateTest : public QObject {
 
   private:
     void launch(QList<ProductConfig> products);
-    QAction* action(const QString& text) const;
     QStringList menus() const;
+    QAction* action(const QString& title) const { return menuItem(m_delegate->window(), title); }
 
     QTemporaryDir m_resources;
     std::unique_ptr<AppDelegate> m_delegate;
@@ -83,15 +83,6 @@ void AppDelegateTest::launch(QList<ProductConfig> products) {
         std::move(options));
     m_delegate->applicationDidFinishLaunching();
     QVERIFY(QTest::qWaitForWindowExposed(m_delegate->window()));
-}
-
-QAction* AppDelegateTest::action(const QString& text) const {
-    for (QAction* item : m_delegate->window()->menuBar()->findChildren<QAction*>()) {
-        if (item->text() == text) {
-            return item;
-        }
-    }
-    return nullptr;
 }
 
 QStringList AppDelegateTest::menus() const {

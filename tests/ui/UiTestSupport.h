@@ -1,6 +1,10 @@
 #pragma once
 
+#include <QAction>
 #include <QApplication>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -17,6 +21,19 @@ inline char* toString(const UpdateState& state) {
 /// A device detection that never finds the plotter.
 inline char* noDevice(uint16_t, uint16_t) {
     return nullptr;
+}
+
+/// The item titled `title` in `window`'s menu bar; in the menu titled `menu` when
+/// one is named, since a product's name stands in two submenus.
+inline QAction* menuItem(const QMainWindow* window, const QString& title,
+                         const QString& menu = {}) {
+    for (QAction* item : window->menuBar()->findChildren<QAction*>()) {
+        const auto* owner = qobject_cast<const QMenu*>(item->parent());
+        if (item->text() == title && (menu.isEmpty() || (owner && owner->title() == menu))) {
+            return item;
+        }
+    }
+    qFatal("no menu item %s", qPrintable(title));
 }
 
 /// Answers the next modal message box with the button titled `answer`, or with
