@@ -39,90 +39,120 @@ class ControllerTest : public QObject {
 
 void ControllerTest::followsTheConnectionAndRefusesStartsWithoutIt() {
     ControllerHarness harness;
-    QCOMPARE(harness.controller.state(), UpdateState::idle());
-    QCOMPARE(harness.controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
+    auto& controller = harness.controller;
+    QCOMPARE(controller.state(), UpdateState::idle());
+    QCOMPARE(controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
 
     QVERIFY(harness.plug(kMissingPort));
-    QCOMPARE(harness.controller.statusMessage(), QStringLiteral("Device connected"));
-    QCOMPARE(harness.controller.deviceMonitor()->portPath(), kMissingPort);
+    QCOMPARE(controller.statusMessage(), QStringLiteral("Device connected"));
+    QCOMPARE(controller.deviceMonitor()->portPath(), kMissingPort);
 
     QVERIFY(harness.plug({}));
-    QCOMPARE(harness.controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
-
-    auto& controller = harness.controller;
+    QCOMPARE(controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
     controller.log("earlier line");
     controller.updateFirmware();
     controller.uploadConfig("Halcot.yaml", "Corvane Halcot");
     controller.uploadConfigFromFile(TFU_DEV_RESOURCES_DIR "/configs/mrv.yaml");
-    const QString refused = QStringLiteral("ERROR: No device connected");
-    QTRY_COMPARE(controller.logMessages(),
-                 QStringList({"earlier line", refused, refused, refused}));
+    QStringList log{"earlier line"};
+    log << QStringList(3, "ERROR: No device connected");
+    QTRY_COMPARE(controller.logMessages(), log);
 
-    // With a device, an unreadable file is refused before any job starts.
+    // With a device, a file that is no machine configuration is refused before any
+    // job starts, and nothing else changes.
     QVERIFY(harness.plug(kMissingPort));
     controller.uploadConfigFromFile("/nonexistent/folder/machine.yaml");
-    QTRY_COMPARE(controller.logMessages().last(),
-                 QStringLiteral("ERROR: Could not read file: machine.yaml"));
+    log << "ERROR: Could not read file: machine.yaml";
+    const std::pair<QString, QByteArray> configs[] = {
+        {"line 2, column 1: not valid UTF-8", "name: a\n\xff\xfe: b\n"},
+        {"line 2, column 9: not valid UTF-8", "axes:\n  x: caf\xe9\n"},  // Latin-1
+        {"line 3, column 1: end of sequence flow not found", "axes:\n  x: [1, 2\n"},
+        {"line 1, column 1: unexpected ','", ",a: 1\n"},  // the parser would start over and over
+        {"larger than 1 MiB", QByteArray(1024 * 1024 + 1, '#')},
+        {"the top level is not a mapping of settings", "- just\n- a list\n"},
+    };
+    QTemporaryDir dir;
+    for (const auto& [problem, bytes] : configs) {
+        controller.uploadConfigFromFile(writeFile(dir, "machine.yaml", bytes));
+        log << "ERROR: machine.yaml is not a valid machine configuration: " + problem;
+    }
+    QTRY_COMPARE(controller.logMessages(), log);
     QTest::qWait(300);
-    QVERIFY(harness.states.count(UpdateState::ready()) == harness.states.size());
+    QVERIFY(!controller.jobRunning());
+    QCOMPARE(harness.states.count(UpdateState::ready()), harness.states.size());
 }
 
 void ControllerTest::failures_data() {
     QTest::addColumn<QStringList>("missing");
     // "update" or "config"; an update may ask the console first ("probe"), log in
-    // detail ("detailed") or use an unreadable custom image ("custom").
+    // detail ("detailed"), use a chosen image ("custom=NAME"; "gone.bin" does not
+    // exist) or run as the real program, which refuses development images ("real").
     QTest::addColumn<QString>("job");
-    QTest::addColumn<QString>("busy");  // the state the job set before it failed, if any
+    QTest::addColumn<QStringList>("busy");  // the state the job set before it failed, if any
     QTest::addColumn<QString>("message");
     QTest::addColumn<QStringList>("logBeforeError");
 
-    QTest::newRow("shipped image missing") << QStringList{"firmware.bin"} << "update"
-                                           << ""
-                                           << "Bundled firmware not found" << QStringList{};
+    const QString refused = QStringLiteral("Firmware image refused: ");
+    const QString development = QStringLiteral("a development image, not firmware");
+    QTest::newRow("shipped image missing")
+        << QStringList{"firmware.bin"} << "update" << QStringList{} << "Bundled firmware not found"
+        << QStringList{};
     QTest::newRow("custom image unreadable")
-        << QStringList{} << "update custom"
-        << ""
+        << QStringList{} << "update custom=gone.bin" << QStringList{}
         << "Failed to load custom firmware: No such file or directory" << QStringList{};
-    QTest::newRow("stub missing") << QStringList{"esp32s3_stub.bin"} << "update"
-                                  << ""
+    // Chosen files are checked again by the job, before the probe: they may have
+    // changed since they were chosen.
+    QTest::newRow("custom image refused")
+        << QStringList{} << "update probe custom=notes.bin" << QStringList{}
+        << refused + "not a firmware image (first byte 0x7B, expected 0xE9)"
+        << QStringList{"Updating firmware (custom: notes.bin)\u2026"};
+    QTest::newRow("real program, shipped development image")
+        << QStringList{} << "update probe real" << QStringList{} << refused + development
+        << QStringList{kShipped};
+    QTest::newRow("real program, development boot images")
+        << QStringList{} << "update probe real custom=unmarked.bin" << QStringList{}
+        << "Bundled bootloader.bin refused: " + development
+        << QStringList{"Updating firmware (custom: unmarked.bin)\u2026"};
+    QTest::newRow("stub missing") << QStringList{"esp32s3_stub.bin"} << "update" << QStringList{}
                                   << "Flash stub not found in bundle" << QStringList{kShipped};
     QTest::newRow("no answer, partition table missing")
-        << QStringList{"partitions.bin"} << "update probe"
-        << ""
+        << QStringList{"partitions.bin"} << "update probe" << QStringList{}
         << "Missing bootloader resources for full flash"
         << QStringList{kShipped, "Checking device status\u2026",
                        "Device not responding \u2014 writing boot partitions + firmware."};
     QTest::newRow("library fails, plain log")
-        << QStringList{} << "update"
-        << "flashing(0)" << kOpenFailed << QStringList{kShipped};
+        << QStringList{} << "update" << QStringList{"flashing(0)"} << kOpenFailed
+        << QStringList{kShipped};
     QTest::newRow("library fails, detailed log")
-        << QStringList{} << "update detailed"
-        << "flashing(0)" << kOpenFailed
+        << QStringList{} << "update detailed" << QStringList{"flashing(0)"} << kOpenFailed
         << QStringList{kShipped, "Opening port: " + kMissingPort, "Failed to open port"};
     QTest::newRow("configuration missing")
-        << QStringList{"configs/Halcot.yaml"} << "config"
-        << "uploadingConfig(0)"
+        << QStringList{"configs/Halcot.yaml"} << "config" << QStringList{"uploadingConfig(0)"}
         << "Config file not found in bundle: Halcot.yaml" << QStringList{};
     QTest::newRow("configuration, library fails")
-        << QStringList{} << "config"
-        << "uploadingConfig(0)" << kOpenFailed
+        << QStringList{} << "config" << QStringList{"uploadingConfig(0)"} << kOpenFailed
         << QStringList{"Preparing Corvane Halcot config v1.2.0-devset"};
 }
 
 void ControllerTest::failures() {
     QFETCH(QStringList, missing);
     QFETCH(QString, job);
-    QFETCH(QString, busy);
+    QFETCH(QStringList, busy);
     QFETCH(QString, message);
     QFETCH(QStringList, logBeforeError);
 
     const ResourcesWithout resources(missing);
-    ControllerHarness harness(resources.dir.path());
+    ControllerHarness harness(resources.dir.path(),
+                              job.contains("real") ? UpdateController::DevelopmentImages::refuse
+                                                   : UpdateController::DevelopmentImages::accept);
     auto& controller = harness.controller;
     controller.setWriteBootPartitionsEnabled(!job.contains("probe"));
     controller.setDetailedLogging(job.contains("detailed"));
-    if (job.contains("custom")) {
-        controller.setCustomFirmwareURL(QUrl::fromLocalFile("/nonexistent/custom.bin"));
+    if (const QString custom = job.section("custom=", 1).section(' ', 0, 0); !custom.isEmpty()) {
+        const QByteArray bytes =
+            custom == "notes.bin" ? refusedFirmwares().first().bytes : unmarkedApplication();
+        controller.setCustomFirmwareURL(
+            QUrl::fromLocalFile(custom == "gone.bin" ? resources.dir.filePath(custom)
+                                                     : writeFile(resources.dir, custom, bytes)));
     }
     controller.log("line of an earlier job");
     QVERIFY(harness.plug(kMissingPort));
@@ -134,10 +164,8 @@ void ControllerTest::failures() {
     }
     QCOMPARE(harness.waitForOutcome(5000), std::optional(UpdateState::error(message)));
     QCOMPARE(controller.logMessages(), logBeforeError + QStringList{"ERROR: " + message});
-    QStringList published{"error(" + message + ")", "status: " + message};
-    if (!busy.isEmpty()) {
-        published.prepend(busy);
-    }
+    const QStringList published =
+        busy + QStringList{"error(" + message + ")", "status: " + message};
     QCOMPARE(harness.publishedByJob().mid(0, published.size()), published);
 
     // The next poll brings the controller back to ready; the log keeps the outcome.
