@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QCryptographicHash>
 #include <QTemporaryDir>
 #include <QTest>
 #include <algorithm>
@@ -28,55 +27,6 @@ inline QString writeFile(const QTemporaryDir& dir, const QString& name, const QB
 inline QByteArray readFile(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
-}
-
-/// A firmware file the updater must refuse, and the reason it gives.
-struct RefusedFirmware {
-    QString fileName;
-    QByteArray bytes;
-    QString reason;
-};
-
-/// One file of each kind that must never be written as firmware, most of them
-/// made from the development application (whose partition holds 1,966,080 bytes).
-inline QList<RefusedFirmware> refusedFirmwares() {
-    const QByteArray application =
-        ResourceBundle(TFU_DEV_RESOURCES_DIR).read("firmware", "bin").value_or("");
-    QByteArray esp32 = application;
-    esp32[12] = 0;  // chip id
-    QByteArray damaged = application;
-    damaged[damaged.size() - 1] = char(damaged.back() ^ 1);  // inside the appended SHA-256
-    QByteArray padded = application;
-    padded.append(4 * 1024 * 1024 - application.size(), char(0xFF));
-    return {
-        {"notes.bin", "{\"name\": \"plotter\", \"pens\": 12}\n",
-         "not a firmware image (first byte 0x7B, expected 0xE9)"},
-        {"empty.bin", "", "an empty file (0 bytes)"},
-        {"padded.bin", padded,
-         "too large for the application partition (4,194,304 bytes; the partition holds "
-         "1,966,080)"},
-        {"esp32.bin", esp32,
-         "built for another chip (chip id 0, ESP32; this machine is an ESP32-S3)"},
-        {"damaged.bin", damaged, "damaged: its SHA-256 does not match"},
-    };
-}
-
-/// The development application made into one the real program takes: each marker
-/// text overwritten with another of its length, the checksum byte (right before
-/// the appended SHA-256) and the SHA-256 made to match again.
-inline QByteArray unmarkedApplication() {
-    QByteArray image = ResourceBundle(TFU_DEV_RESOURCES_DIR).read("firmware", "bin").value_or("");
-    const QByteArray marker("TESKAL DEVELOPMENT IMAGE - NOT FIRMWARE");
-    const QByteArray other("TESKAL TEST APPLICATION - NOT FIRMWARE!");
-    const qsizetype checksumAt = image.size() - 33;
-    for (qsizetype at = image.indexOf(marker); at >= 0; at = image.indexOf(marker, at)) {
-        for (qsizetype i = 0; i < marker.size(); ++i) {
-            image[checksumAt] = char(image[checksumAt] ^ marker[i] ^ other[i]);
-        }
-        image.replace(at, marker.size(), other);
-    }
-    const QByteArray hashed = image.left(image.size() - 32);
-    return hashed + QCryptographicHash::hash(hashed, QCryptographicHash::Sha256);
 }
 
 /// An UpdateController whose device detection answers the path a test plugs in,

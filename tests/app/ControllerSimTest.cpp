@@ -11,18 +11,6 @@ const QString kComplete = QStringLiteral("Firmware update complete.");
 const QString kUploaded = QStringLiteral("Upload successful; restarting machine.");
 constexpr int kJobTimeoutMs = 60000;
 
-QByteArray devImage(const QString& name) {
-    return ResourceBundle(TFU_DEV_RESOURCES_DIR).read(name, "bin").value_or("");
-}
-
-QByteArray flashAt(const sim::PtyPlotter& plotter, uint32_t address, qsizetype size) {
-    QByteArray bytes;
-    plotter.inspect([&](const sim::Plotter& p) {
-        bytes = QByteArray(reinterpret_cast<const char*>(p.flash().data()) + address, size);
-    });
-    return bytes;
-}
-
 QByteArray storedConfig(const sim::PtyPlotter& plotter) {
     QByteArray bytes;
     plotter.inspect([&](const sim::Plotter& p) {
@@ -40,57 +28,60 @@ class ControllerSimTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void fullFlashWithEraseAllEndsWithTheNote();
-    void fullFlashOfCustomImageWhenTheConsoleIsSilent();
+    void fullFlashesOfAChosenImageAndAfterEraseAll();
     void configurationsFromTheTableAndFromAFile();
     void machineConfigSavedComparedAndBackedUpBeforeUploads();
 };
 
-void ControllerSimTest::fullFlashWithEraseAllEndsWithTheNote() {
-    sim::PtyPlotter plotter;
-    ControllerHarness harness;
-    harness.controller.setEraseAllFlashEnabled(true);
-    QVERIFY(harness.plug(QString::fromStdString(plotter.path())));
-
-    harness.controller.updateFirmware();
-    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::flashComplete()));
-    const QString note = QStringLiteral(
-        "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for "
-        "your machine.");
-    QTRY_COMPARE(harness.controller.logMessages(),
-                 QStringList({"Updating firmware v2.10.6\u2026", kComplete, "", note}));
-    // The erase is reported at 0.08 in single precision, and published as reported.
-    QCOMPARE(harness.busySpan().mid(0, 2),
-             QList<UpdateState>({UpdateState::flashing(0), UpdateState::flashing(0.08f)}));
-    QVERIFY(harness.published.contains("status: Erasing flash..."));
-
-    for (const auto& [address, name] :
-         {std::pair(0x0u, "bootloader"), std::pair(0x8000u, "partitions"),
-          std::pair(0xE000u, "boot_app0"), std::pair(0x10000u, "firmware")}) {
-        const QByteArray image = devImage(name);
-        QVERIFY2(flashAt(plotter, address, image.size()) == image, name);
-    }
-}
-
-void ControllerSimTest::fullFlashOfCustomImageWhenTheConsoleIsSilent() {
+void ControllerSimTest::fullFlashesOfAChosenImageAndAfterEraseAll() {
     sim::Config config;
     config.silentConsole = true;
     sim::PtyPlotter plotter(config);
+    const QString port = QString::fromStdString(plotter.path());
     ControllerHarness harness;
-    harness.controller.setDetailedLogging(true);
-    harness.controller.chooseCustomFirmware(TFU_DEV_RESOURCES_DIR "/firmware.bin");
-    QVERIFY(harness.plug(QString::fromStdString(plotter.path())));
+    auto& controller = harness.controller;
+    controller.setDetailedLogging(true);
+    controller.chooseCustomFirmware(TFU_DEV_RESOURCES_DIR "/firmware.bin");
+    QVERIFY(harness.plug(port));
 
-    harness.controller.updateFirmware();
+    controller.updateFirmware();
     QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::flashComplete()));
-    QTRY_COMPARE(harness.controller.logMessages().last(), kComplete);
-    const QStringList log = harness.controller.logMessages();
+    QTRY_COMPARE(controller.logMessages().last(), kComplete);
+    const QStringList log = controller.logMessages();
     QCOMPARE(log.mid(0, 3),
              QStringList({"Updating firmware (custom: firmware.bin)\u2026",
                           "Checking device status\u2026",
                           "Device not responding \u2014 writing boot partitions + firmware."}));
     QVERIFY(log.contains("Flash plan: 4 entries (FULL)"));
     QVERIFY(!log.contains("Verifying firmware version..."));  // no version expected
+
+    // Erase All Flash: the shipped image, no probe, and the NOTE after success.
+    plotter.modify([](sim::Plotter& p) { p.config().silentConsole = false; });
+    controller.setDetailedLogging(false);
+    controller.setCustomFirmwareURL({});
+    controller.setEraseAllFlashEnabled(true);
+    QVERIFY(harness.plug(port));
+    controller.updateFirmware();
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::flashComplete()));
+    const QString note = QStringLiteral(
+        "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for "
+        "your machine.");
+    QTRY_COMPARE(controller.logMessages(),
+                 QStringList({"Updating firmware v2.10.6\u2026", kComplete, "", note}));
+    // The erase is reported at 0.08 in single precision, and published as reported.
+    QCOMPARE(harness.busySpan().mid(0, 2),
+             QList<UpdateState>({UpdateState::flashing(0), UpdateState::flashing(0.08f)}));
+    QVERIFY(harness.published.contains("status: Erasing flash..."));
+    plotter.inspect([](const sim::Plotter& p) {
+        const auto* flash = reinterpret_cast<const char*>(p.flash().data());
+        for (const auto& [address, name] :
+             {std::pair(0x0u, "bootloader"), std::pair(0x8000u, "partitions"),
+              std::pair(0xE000u, "boot_app0"), std::pair(0x10000u, "firmware")}) {
+            const QByteArray image =
+                ResourceBundle(TFU_DEV_RESOURCES_DIR).read(name, "bin").value();
+            QVERIFY2(QByteArray(flash + address, image.size()) == image, name);
+        }
+    });
 }
 
 void ControllerSimTest::configurationsFromTheTableAndFromAFile() {

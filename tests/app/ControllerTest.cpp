@@ -1,5 +1,5 @@
+#include <QCryptographicHash>
 #include <QDirIterator>
-#include <QTemporaryDir>
 
 #include "ControllerHarness.h"
 
@@ -8,6 +8,7 @@ namespace {
 const QString kMissingPort = QStringLiteral("/dev/tfu-no-such-port");
 const QString kShipped = QStringLiteral("Updating firmware v2.10.6\u2026");
 const QString kOpenFailed = QStringLiteral("Could not open serial port. Is another app using it?");
+const QByteArray kNotes = "{\"name\": \"plotter\", \"pens\": 12}\n";
 
 /// A copy of the development resources without the named files.
 struct ResourcesWithout {
@@ -24,6 +25,24 @@ struct ResourcesWithout {
     }
     QTemporaryDir dir;
 };
+
+/// The development application made into one the real program takes: each marker
+/// text overwritten with another of its length, the checksum byte (right before
+/// the appended SHA-256) and the SHA-256 made to match again.
+inline QByteArray unmarkedApplication() {
+    QByteArray image = ResourceBundle(TFU_DEV_RESOURCES_DIR).read("firmware", "bin").value_or("");
+    const QByteArray marker("TESKAL DEVELOPMENT IMAGE - NOT FIRMWARE");
+    const QByteArray other("TESKAL TEST APPLICATION - NOT FIRMWARE!");
+    const qsizetype checksumAt = image.size() - 33;
+    for (qsizetype at = image.indexOf(marker); at >= 0; at = image.indexOf(marker, at)) {
+        for (qsizetype i = 0; i < marker.size(); ++i) {
+            image[checksumAt] = char(image[checksumAt] ^ marker[i] ^ other[i]);
+        }
+        image.replace(at, marker.size(), other);
+    }
+    const QByteArray hashed = image.left(image.size() - 32);
+    return hashed + QCryptographicHash::hash(hashed, QCryptographicHash::Sha256);
+}
 
 }  // namespace
 
@@ -148,8 +167,7 @@ void ControllerTest::failures() {
     controller.setWriteBootPartitionsEnabled(!job.contains("probe"));
     controller.setDetailedLogging(job.contains("detailed"));
     if (const QString custom = job.section("custom=", 1).section(' ', 0, 0); !custom.isEmpty()) {
-        const QByteArray bytes =
-            custom == "notes.bin" ? refusedFirmwares().first().bytes : unmarkedApplication();
+        const QByteArray bytes = custom == "notes.bin" ? kNotes : unmarkedApplication();
         controller.setCustomFirmwareURL(
             QUrl::fromLocalFile(custom == "gone.bin" ? resources.dir.filePath(custom)
                                                      : writeFile(resources.dir, custom, bytes)));
@@ -185,14 +203,18 @@ void ControllerTest::customFirmwareChoice() {
                     "Firmware image: version 0.0.0-devset, project teskal-devset, built Jan  1 "
                     "2000 00:00:00"};
 
-    // Refused files leave the accepted choice in place.
+    // Refused files leave the accepted choice in place. The reasons are the image
+    // check's; the size limit is the bundled partition table's.
     QTemporaryDir dir;
-    for (const RefusedFirmware& file : refusedFirmwares()) {
-        controller.chooseCustomFirmware(writeFile(dir, file.fileName, file.bytes));
-        log << "ERROR: " + file.fileName + " cannot be used: " + file.reason;
-    }
+    QByteArray padded = readFile(application);
+    padded.append(4 * 1024 * 1024 - padded.size(), char(0xFF));
+    controller.chooseCustomFirmware(writeFile(dir, "notes.bin", kNotes));
+    controller.chooseCustomFirmware(writeFile(dir, "padded.bin", padded));
     controller.chooseCustomFirmware(dir.filePath("gone.bin"));
-    log << "ERROR: gone.bin cannot be used: it could not be read (No such file or directory)";
+    log << "ERROR: notes.bin cannot be used: not a firmware image (first byte 0x7B, expected 0xE9)"
+        << "ERROR: padded.bin cannot be used: too large for the application partition (4,194,304 "
+           "bytes; the partition holds 1,966,080)"
+        << "ERROR: gone.bin cannot be used: it could not be read (No such file or directory)";
     QTRY_COMPARE(controller.logMessages(), log);
     QCOMPARE(controller.customFirmwareURL(), QUrl::fromLocalFile(application));
     QCOMPARE(controller.firmwareLabel(), QStringLiteral("firmware.bin"));

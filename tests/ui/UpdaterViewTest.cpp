@@ -1,16 +1,12 @@
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QTemporaryDir>
 #include <QToolButton>
 
 #include "UiTestSupport.h"
-#include "app/UpdateController.h"
 #include "ui/Colors.h"
 #include "ui/LogPanel.h"
 #include "ui/LogView.h"
@@ -33,7 +29,6 @@ class UpdaterViewTest : public QObject {
 
     void buttonProgressAndStatusRowFollowStateAndConnection_data();
     void buttonProgressAndStatusRowFollowStateAndConnection();
-    void statusLineStaysOneLineEllipsisAndTooltipWhenTooLong_data();
     void statusLineStaysOneLineEllipsisAndTooltipWhenTooLong();
     void errorLinesAreBold();
     void copyButtonShownWithLinesCopiesThem();
@@ -87,11 +82,13 @@ void UpdaterViewTest::buttonProgressAndStatusRowFollowStateAndConnection() {
     QFETCH(Bar, bar);
 
     // Arrive from the opposite connection and a busy state, so nothing is left over.
+    const auto path = connected ? std::optional(QStringLiteral("/dev/ttyACM0")) : std::nullopt;
     m_view->showConnection(!connected, std::nullopt);
     m_view->showState(UpdateState::syncing());
-    m_view->showConnection(
-        connected, connected ? std::optional(QStringLiteral("/dev/ttyACM0")) : std::nullopt);
+    m_view->showConnection(connected, path);
     m_view->showState(state);
+    QCOMPARE(m_view->updateButton()->isEnabled(), enabled);
+    m_view->showConnection(connected, path);  // the monitor publishes on every poll
 
     QCOMPARE(m_view->portLabel()->isVisibleTo(m_view.get()), connected);
     QVERIFY(!connected || m_view->portLabel()->text() == QStringLiteral("(/dev/ttyACM0)"));
@@ -110,31 +107,23 @@ void UpdaterViewTest::buttonProgressAndStatusRowFollowStateAndConnection() {
     }
 }
 
-void UpdaterViewTest::statusLineStaysOneLineEllipsisAndTooltipWhenTooLong_data() {
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<bool>("elided");
-    QTest::newRow("fits") << QStringLiteral("Device connected") << false;
-    QTest::newRow("too long") << QStringLiteral(
-                                     "Failed to sync with device. Try unplugging and reconnecting.")
-                              << true;
-}
-
 void UpdaterViewTest::statusLineStaysOneLineEllipsisAndTooltipWhenTooLong() {
-    QFETCH(QString, message);
-    QFETCH(bool, elided);
     m_view->showConnection(true, QStringLiteral("/dev/ttyACM0"));
-    m_view->showStatusMessage(QStringLiteral("Waiting for device…"));
     m_view->layout()->activate();
     const QRect firmwareBefore = m_view->firmwareLabel()->geometry();
-
-    m_view->showStatusMessage(message);
-    m_view->layout()->activate();
     const ElidedLabel* status = m_view->statusLabel();
-    QCOMPARE(status->text() == message, !elided);
-    QCOMPARE(status->text().endsWith(QStringLiteral("…")), elided);
-    QCOMPARE(status->toolTip(), elided ? message : QString());
-    QVERIFY(status->geometry().right() < m_view->portLabel()->geometry().left());
-    QCOMPARE(m_view->firmwareLabel()->geometry(), firmwareBefore);
+    for (const auto& [message, elided] :
+         {std::pair{QStringLiteral("Device connected"), false},
+          std::pair{QStringLiteral("Failed to sync with device. Try unplugging and reconnecting."),
+                    true}}) {
+        m_view->showStatusMessage(message);
+        m_view->layout()->activate();
+        QCOMPARE(status->text() == message, !elided);
+        QCOMPARE(status->text().endsWith(QStringLiteral("…")), elided);
+        QCOMPARE(status->toolTip(), elided ? message : QString());
+        QVERIFY(status->geometry().right() < m_view->portLabel()->geometry().left());
+        QCOMPARE(m_view->firmwareLabel()->geometry(), firmwareBefore);
+    }
 }
 
 void UpdaterViewTest::errorLinesAreBold() {
