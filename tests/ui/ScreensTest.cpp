@@ -23,7 +23,6 @@ class ScreensTest : public QObject {
   private slots:
     void initTestCase();
     void mainWindowStates();
-    void refusedFirmwareAndQuitQuestion();
     void aboutWindow();
     void compareWindow();
 
@@ -74,6 +73,11 @@ void ScreensTest::mainWindowStates() {
          log + QStringList{"ERROR: " + failure}},
         {"main-complete", UpdateState::flashComplete(), "Firmware update complete.",
          log + QStringList{"Firmware update complete."}},
+        {"main-refused-firmware",
+         UpdateState::ready(),
+         "Device connected",
+         {"ERROR: notes.bin cannot be used: not a firmware image (first byte 0x7B, expected "
+          "0xE9)"}},
     };
     for (const auto& [name, state, status, lines] : screens) {
         view->showState(state);
@@ -89,20 +93,6 @@ void ScreensTest::mainWindowStates() {
         view->showLog(log << QStringLiteral("FLASH_DATA block %1 of 500").arg(i + 1));
     }
     save(window, QStringLiteral("main-long-log"));
-}
-
-void ScreensTest::refusedFirmwareAndQuitQuestion() {
-    QTemporaryDir files;
-    const QString notes = writeFile(files, "notes.bin", "{\"name\": \"plotter\"}\n");
-    AppDelegate delegate(std::make_unique<UpdateController>(ResourceBundle(files.path()), noDevice),
-                         AppDelegate::Options());
-    delegate.applicationDidFinishLaunching();
-    QMainWindow* window = delegate.window();
-    QVERIFY(QTest::qWaitForWindowExposed(window));
-    delegate.updateController().chooseCustomFirmware(notes);
-    const auto* view = qobject_cast<UpdaterView*>(window->centralWidget());
-    QTRY_COMPARE(view->logPanel()->view()->lines().size(), 1);
-    save(window, QStringLiteral("main-refused-firmware"));
 
     const auto question = quitDuringJobQuestion(window);
     question->show();
