@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QRegularExpression>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include "ControllerHarness.h"
@@ -131,6 +132,9 @@ void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
     const ConfigChoice halcotChoice = ConfigChoice::ofProduct({"Corvane Halcot", "Halcot.yaml"});
     const QString cancelled = QStringLiteral(
         "Could not read config.yaml from the machine: XModem download: cancelled by the device");
+    const auto savedTo = [&](const QString& path) {
+        return QString("Machine config saved to %1 (%2 bytes)").arg(path).arg(tuned.size());
+    };
 
     // A failed download leaves an earlier file as it was.
     const QString saved = writeFile(dir, "saved.yaml", "earlier copy\n");
@@ -144,9 +148,8 @@ void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
     controller.saveMachineConfig(saved);
     controller.compareWithMachine(halcotChoice);  // refused; the save goes on
     QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning(), kJobTimeoutMs);
-    const QString savedLine = QString("Machine config saved to %1 (%2 bytes)").arg(saved);
-    QCOMPARE(controller.logMessages(), QStringList({"ERROR: Another operation is already running",
-                                                    savedLine.arg(tuned.size())}));
+    QCOMPARE(controller.logMessages(),
+             QStringList({"ERROR: Another operation is already running", savedTo(saved)}));
     QCOMPARE(readFile(saved), tuned);
     QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{"saved.yaml"});
     // The download holds "probing" through every poll; only its end brings "ready".
@@ -157,19 +160,13 @@ void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
     QVERIFY(published.contains(
         QString("status: Downloading config.yaml... %1 bytes").arg(tuned.size())));
 
-    std::optional<ConfigComparison> comparison;
-    QString chosen;
-    connect(&controller, &UpdateController::machineConfigCompared, &controller,
-            [&](const ConfigComparison& result, const ConfigChoice& choice) {
-                comparison = result;
-                chosen = choice.label();
-            });
+    QSignalSpy compared(&controller, &UpdateController::machineConfigCompared);
     controller.compareWithMachine(halcotChoice);
-    QTRY_VERIFY_WITH_TIMEOUT(comparison, kJobTimeoutMs);
-    QCOMPARE(comparison->keyDifferences, QStringList{"axes/x/steps_per_mm: 78.750 → 80.000"});
-    QVERIFY(
-        comparison->lineDiff.contains("-    steps_per_mm: 78.750\n+    steps_per_mm: 80.000\n"));
-    QCOMPARE(chosen, "Corvane Halcot");
+    QTRY_COMPARE_WITH_TIMEOUT(compared.size(), 1, kJobTimeoutMs);
+    const auto comparison = compared[0][0].value<ConfigComparison>();
+    QCOMPARE(comparison.keyDifferences, QStringList{"axes/x/steps_per_mm: 78.750 → 80.000"});
+    QVERIFY(comparison.lineDiff.contains("-    steps_per_mm: 78.750\n+    steps_per_mm: 80.000\n"));
+    QCOMPARE(compared[0][1].value<ConfigChoice>().label(), "Corvane Halcot");
     QCOMPARE(controller.logMessages(),
              QStringList{"Machine config differs from Corvane Halcot in 1 key"});
 
@@ -185,9 +182,7 @@ void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
              qPrintable(files[0]));
     QCOMPARE(readFile(backups.filePath(files[0])), tuned);
     QCOMPARE(controller.logMessages().mid(0, 2),
-             QStringList({QString("Machine config saved to %1 (%2 bytes)")
-                              .arg(backups.filePath(files[0]))
-                              .arg(tuned.size()),
+             QStringList({savedTo(backups.filePath(files[0])),
                           "Preparing Corvane Halcot config v1.2.0-devset"}));
     QCOMPARE(harness.busySpan().first(), UpdateState::probing());
     QCOMPARE(harness.busySpan().last(), UpdateState::configComplete());

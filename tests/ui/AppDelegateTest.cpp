@@ -42,8 +42,7 @@ class AppDelegateTest : public QObject {
     void menuBarMatchesTheTable();
     void togglesFlipTheFlagAndTheCheckMark();
     void productItemsUploadByTagWithinRange();
-    void aboutWindowIsReusedAndEscapeClosesItWhileActive();
-    void windowsOfferOnlyTheirButtons();
+    void aboutWindowIsReusedEscapeClosesItAndWindowsHaveOnlyTheirButtons();
     void saveLogWritesHeaderAndLinesOrLogsWhyNot();
     void fileDialogsTakeOnlyTheirExtensions();
     void aSecondCopyOfAProgramFindsItLocked();
@@ -162,7 +161,7 @@ void AppDelegateTest::productItemsUploadByTagWithinRange() {
                  QStringList{"ERROR: No device connected"});
 }
 
-void AppDelegateTest::aboutWindowIsReusedAndEscapeClosesItWhileActive() {
+void AppDelegateTest::aboutWindowIsReusedEscapeClosesItAndWindowsHaveOnlyTheirButtons() {
     QVERIFY(m_delegate->aboutWindow() == nullptr);
     action("About Teskal Firmware Updater")->trigger();
     AboutWindow* about = m_delegate->aboutWindow();
@@ -190,20 +189,16 @@ void AppDelegateTest::aboutWindowIsReusedAndEscapeClosesItWhileActive() {
     QTest::keyClick(about, Qt::Key_Escape);
     QVERIFY(!about->isVisible());
     QVERIFY(window->isVisible());
-}
 
-void AppDelegateTest::windowsOfferOnlyTheirButtons() {
-    m_delegate->showAbout();
-    for (const auto& [window, minimise] :
-         {std::pair<QWidget*, bool>{m_delegate->window(), true},
-          std::pair<QWidget*, bool>{m_delegate->aboutWindow(), false}}) {
-        const Qt::WindowFlags flags = window->windowFlags();
+    for (const auto& [shown, minimise] :
+         {std::pair<QWidget*, bool>{window, true}, std::pair<QWidget*, bool>{about, false}}) {
+        const Qt::WindowFlags flags = shown->windowFlags();
         QVERIFY2(flags.testFlags(Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                  Qt::WindowCloseButtonHint),
-                 qPrintable(window->windowTitle()));
+                 qPrintable(shown->windowTitle()));
         QCOMPARE(flags.testFlag(Qt::WindowMinimizeButtonHint), minimise);
         QVERIFY(!flags.testFlag(Qt::WindowMaximizeButtonHint));
-        QCOMPARE(window->minimumSize(), window->maximumSize());
+        QCOMPARE(shown->minimumSize(), shown->maximumSize());
     }
 }
 

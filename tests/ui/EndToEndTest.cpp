@@ -92,12 +92,6 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     QVERIFY(log.contains("Verifying firmware version..."));  // the shipped version is expected
     QCOMPARE(log.filter(QStringLiteral("ERROR:")), QStringList());
     QVERIFY(buttonHeldDisabled);
-    const QByteArray firmware = resources.read("firmware", "bin").value();
-    plotter.inspect([&](const sim::Plotter& p) {
-        const auto* flash = reinterpret_cast<const char*>(p.flash().data());
-        QVERIFY(QByteArray(flash + 0x10000, firmware.size()) == firmware);
-        QCOMPARE(QByteArray(flash, 16), QByteArray(16, char(0xFF)));  // no bootloader written
-    });
     QTRY_VERIFY(view->updateButton()->isEnabled());
     QTRY_COMPARE(view->statusLabel()->text(), QStringLiteral("Device connected"));
     QCOMPARE(view->portLabel()->text(), "(" + QString::fromStdString(plotter.path()) + ")");
