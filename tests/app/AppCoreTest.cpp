@@ -66,7 +66,6 @@ void AppCoreTest::resourcesAreFoundBesideOrInstalled() {
     const ResourceBundle installed = ResourceBundle::forExecutableDir(bin);
     QCOMPARE(installed.read("firmware", "bin"), QByteArray("installed"));
     QVERIFY(!installed.read("firmware", "").has_value());
-    QVERIFY(!installed.read("bootloader", "bin").has_value());
     QCOMPARE(installed.readConfig("Halcot"), QByteArray("bare"));  // no dot: empty extension
     QVERIFY(!installed.readConfig("Halcot.yaml").has_value());
 
@@ -134,14 +133,9 @@ void AppCoreTest::configDiffByKeyPath_data() {
     QTest::newRow("sequence item by index")
         << kMachine << QByteArray(kMachine).replace("gpio.2]", "gpio.3, gpio.4]")
         << QStringList{"pins/1: gpio.2 → gpio.3", "+ pins/2: gpio.4"} << "";
-    const QByteArray reordered = R"(pins: [gpio.1, gpio.2]
-axes:
-  y: {steps_per_mm: 80.000}
-  x:
-    homing: {cycle: 2}
-    steps_per_mm: 80.000
-name: Plotter
-)";
+    const QByteArray reordered =
+        "pins: [gpio.1, gpio.2]\naxes: {y: {steps_per_mm: 80.000}, "
+        "x: {homing: {cycle: 2}, steps_per_mm: 80.000}}\nname: Plotter\n";
     QTest::newRow("reordered") << kMachine << reordered << QStringList{} << "";
     QTest::newRow("invalid machine") << QByteArray("axes: [x\nname: a\n") << kMachine
                                      << QStringList{} << "machine: not valid YAML (line 2, column ";

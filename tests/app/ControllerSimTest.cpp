@@ -29,15 +29,13 @@ class ControllerSimTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void fullFlashesOfAChosenImageAndAfterEraseAll();
+    void updatesOfAChosenImageAndAfterEraseAll();
     void configurationFromAFile();
     void machineConfigSavedComparedAndBackedUpBeforeUploads();
 };
 
-void ControllerSimTest::fullFlashesOfAChosenImageAndAfterEraseAll() {
-    sim::Config config;
-    config.silentConsole = true;
-    sim::PtyPlotter plotter(config);
+void ControllerSimTest::updatesOfAChosenImageAndAfterEraseAll() {
+    sim::PtyPlotter plotter;
     const QString port = QString::fromStdString(plotter.path());
     ControllerHarness harness;
     auto& controller = harness.controller;
@@ -52,12 +50,11 @@ void ControllerSimTest::fullFlashesOfAChosenImageAndAfterEraseAll() {
     QCOMPARE(log.mid(0, 3),
              QStringList({"Updating firmware (custom: firmware.bin)\u2026",
                           "Checking device status\u2026",
-                          "Device not responding \u2014 writing boot partitions + firmware."}));
-    QVERIFY(log.contains("Flash plan: 4 entries (FULL)"));
+                          "Device running firmware v3.7.8 \u2014 updating firmware only."}));
+    QVERIFY(log.contains("Flash plan: 2 entries (app only)"));
     QVERIFY(!log.contains("Verifying firmware version..."));  // no version expected
 
     // Erase All Flash: the shipped image, no probe, and the NOTE after success.
-    plotter.modify([](sim::Plotter& p) { p.config().silentConsole = false; });
     controller.setDetailedLogging(false);
     controller.setCustomFirmwareURL({});
     controller.setEraseAllFlashEnabled(true);

@@ -30,8 +30,7 @@ class UpdaterViewTest : public QObject {
     void buttonProgressAndStatusRowFollowStateAndConnection_data();
     void buttonProgressAndStatusRowFollowStateAndConnection();
     void statusLineStaysOneLineEllipsisAndTooltipWhenTooLong();
-    void errorLinesAreBold();
-    void copyButtonShownWithLinesCopiesThem();
+    void errorLinesAreBoldAndTheCopyButtonCopiesAll();
     void scrollsToTheLastLineWhenTheCountChanges();
 
   private:
@@ -126,16 +125,14 @@ void UpdaterViewTest::statusLineStaysOneLineEllipsisAndTooltipWhenTooLong() {
     }
 }
 
-void UpdaterViewTest::errorLinesAreBold() {
+void UpdaterViewTest::errorLinesAreBoldAndTheCopyButtonCopiesAll() {
     const LogView* log = m_view->logPanel()->view();
     for (const auto& [line, bold] :
          {std::pair{"ERROR: Flash write failed.", true}, std::pair{"error: no", false},
           std::pair{" ERROR: no", false}, std::pair{"ERROR no", false}}) {
         QVERIFY2(log->fontFor(QString::fromUtf8(line)).bold() == bold, line);
     }
-}
 
-void UpdaterViewTest::copyButtonShownWithLinesCopiesThem() {
     const QToolButton* copy = m_view->logPanel()->copyButton();
     QVERIFY(!copy->isVisibleTo(m_view.get()));
     m_view->showLog({QStringLiteral("old")});  // replaced, though the new list is longer
@@ -144,7 +141,6 @@ void UpdaterViewTest::copyButtonShownWithLinesCopiesThem() {
     QGuiApplication::clipboard()->setText(QStringLiteral("previous content"));
     QTest::mouseClick(m_view->logPanel()->copyButton(), Qt::LeftButton);
     QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("a\nb\nc"));
-
     m_view->showLog({});
     QVERIFY(!copy->isVisibleTo(m_view.get()));
 }
