@@ -1,7 +1,5 @@
-#include <QDir>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include "ControllerHarness.h"
 #include "sim/PtyPlotter.h"

@@ -137,9 +137,6 @@ void ControllerTest::failures_data() {
         << "Missing bootloader resources for full flash"
         << QStringList{kShipped, "Checking device status\u2026",
                        "Device not responding \u2014 writing boot partitions + firmware."};
-    QTest::newRow("library fails, plain log")
-        << QStringList{} << "update" << QStringList{"flashing(0)"} << kOpenFailed
-        << QStringList{kShipped};
     QTest::newRow("library fails, detailed log")
         << QStringList{} << "update detailed" << QStringList{"flashing(0)"} << kOpenFailed
         << QStringList{kShipped, "Opening port: " + kMissingPort, "Failed to open port"};

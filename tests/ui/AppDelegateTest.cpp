@@ -3,11 +3,9 @@
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTextBrowser>
 
 #include "UiTestSupport.h"
-#include "app/UpdateController.h"
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
 #include "ui/LogPanel.h"

@@ -1,12 +1,7 @@
-#include <QMainWindow>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <cstring>
 
 #include "UiTestSupport.h"
-#include "app/BuildConfig.h"
-#include "app/UpdateController.h"
 #include "sim/PtyPlotter.h"
 #include "ui/AppDelegate.h"
 #include "ui/CompareWindow.h"

@@ -1,4 +1,3 @@
-#include <QDir>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTabWidget>
