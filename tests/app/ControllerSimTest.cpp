@@ -28,8 +28,7 @@ class ControllerSimTest : public QObject {
 
   private slots:
     void updatesOfAChosenImageAndAfterEraseAll();
-    void configurationFromAFile();
-    void machineConfigSavedComparedAndBackedUpBeforeUploads();
+    void configurationsSavedComparedBackedUpAndUploaded();
 };
 
 void ControllerSimTest::updatesOfAChosenImageAndAfterEraseAll() {
@@ -80,36 +79,7 @@ void ControllerSimTest::updatesOfAChosenImageAndAfterEraseAll() {
     });
 }
 
-void ControllerSimTest::configurationFromAFile() {
-    sim::PtyPlotter plotter;
-    ControllerHarness harness;
-    QTemporaryDir dir;
-    QByteArray config("name: \"Workshop plotter\"\nmeta: '9.9'\n");
-    config.append(3 * 1024 - config.size(), '#');
-    QList<float> progress;
-    connect(&harness.controller, &UpdateController::progressChanged, this,
-            [&](float fraction) { progress << fraction; });
-    QVERIFY(harness.plug(QString::fromStdString(plotter.path())));
-
-    harness.controller.uploadConfigFromFile(writeFile(dir, "workshop.yml", config));
-    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::configComplete()));
-    // Each block reports the same stage, which is logged when it first differs
-    // from the status line.
-    QTRY_COMPARE(harness.controller.logMessages(),
-                 QStringList({"Preparing workshop.yml v9.9", "Uploading config file...",
-                              "Uploading config file...", kUploaded}));
-    // Three XModem blocks: the library reports 1/3, 2/3 and 1 in single precision,
-    // which the controller must publish exactly as reported.
-    QCOMPARE(harness.busySpan(),
-             QList<UpdateState>({UpdateState::uploadingConfig(0),
-                                 UpdateState::uploadingConfig(0.333333343f),
-                                 UpdateState::uploadingConfig(0.666666687f),
-                                 UpdateState::uploadingConfig(1), UpdateState::configComplete()}));
-    QVERIFY(progress == QList<float>({0.333333343f, 0.666666687f, 1.0f}));
-    QVERIFY(storedConfig(plotter) == config);
-}
-
-void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
+void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     QTemporaryDir dir;
     qputenv("XDG_DATA_HOME", dir.filePath("data").toUtf8());
     const QDir backups(dir.filePath("data/teskal-firmware-updater/backups"));
@@ -194,6 +164,31 @@ void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
                  QStringList({"Preparing workshop.yaml", "ERROR: " + message}));
     QCOMPARE(storedConfig(plotter), halcot);
     QCOMPARE(backups.entryList(QDir::Files), files);
+
+    // A configuration from a file, without a backup.
+    QByteArray workshop("name: \"Workshop plotter\"\nmeta: '9.9'\n");
+    workshop.append(3 * 1024 - workshop.size(), '#');
+    QList<float> progress;
+    connect(&controller, &UpdateController::progressChanged, this,
+            [&](float fraction) { progress << fraction; });
+    controller.setBackupBeforeUploadEnabled(false);
+    QVERIFY(harness.plug(port));
+    controller.uploadConfigFromFile(writeFile(dir, "workshop.yml", workshop));
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::configComplete()));
+    // Each block reports the same stage, which is logged when it first differs
+    // from the status line.
+    QTRY_COMPARE(controller.logMessages(),
+                 QStringList({"Preparing workshop.yml v9.9", "Uploading config file...",
+                              "Uploading config file...", kUploaded}));
+    // Three XModem blocks: the library reports 1/3, 2/3 and 1 in single precision,
+    // which the controller must publish exactly as reported.
+    QCOMPARE(harness.busySpan(),
+             QList<UpdateState>({UpdateState::uploadingConfig(0),
+                                 UpdateState::uploadingConfig(0.333333343f),
+                                 UpdateState::uploadingConfig(0.666666687f),
+                                 UpdateState::uploadingConfig(1), UpdateState::configComplete()}));
+    QVERIFY(progress == QList<float>({0.333333343f, 0.666666687f, 1.0f}));
+    QVERIFY(storedConfig(plotter) == workshop);
 }
 
 QTEST_GUILESS_MAIN(ControllerSimTest)

@@ -49,17 +49,16 @@ inline void answerNextMessageBox(const QString& answer, QStringList* asked, int 
             return;
         }
         QStringList seen{box->text()};
+        QAbstractButton* chosen = nullptr;
         for (QAbstractButton* button : box->buttons()) {
             seen.append(button->text());
+            chosen = button->text() == answer ? button : chosen;
         }
-        seen.append(QStringLiteral("default ") + box->defaultButton()->text());
-        asked->append(seen.join(QLatin1Char('|')));
-        for (QAbstractButton* button : box->buttons()) {
-            if (button->text() == answer) {
-                button->click();
-                return;
-            }
+        asked->append((seen << "default " + box->defaultButton()->text()).join('|'));
+        if (chosen != nullptr) {
+            chosen->click();
+        } else {
+            QTest::keyClick(box, Qt::Key_Escape);
         }
-        QTest::keyClick(box, Qt::Key_Escape);
     });
 }
