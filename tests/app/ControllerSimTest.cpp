@@ -43,13 +43,9 @@ void ControllerSimTest::updatesOfAChosenImageAndAfterEraseAll() {
     controller.updateFirmware();
     QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::flashComplete()));
     QTRY_COMPARE(controller.logMessages().last(), kComplete);
-    const QStringList log = controller.logMessages();
-    QCOMPARE(log.mid(0, 3),
-             QStringList({"Updating firmware (custom: firmware.bin)\u2026",
-                          "Checking device status\u2026",
-                          "Device running firmware v3.7.8 \u2014 updating firmware only."}));
-    QVERIFY(log.contains("Flash plan: 2 entries (app only)"));
-    QVERIFY(!log.contains("Verifying firmware version..."));  // no version expected
+    QCOMPARE(controller.logMessages().first(), "Updating firmware (custom: firmware.bin)\u2026");
+    // A chosen image carries no version the job could expect afterwards.
+    QVERIFY(!controller.logMessages().contains("Verifying firmware version..."));
 
     // Erase All Flash: the shipped image, no probe, and the NOTE after success.
     controller.setDetailedLogging(false);

@@ -82,7 +82,6 @@ void ControllerTest::followsTheConnectionAndRefusesStartsWithoutIt() {
     log << "ERROR: Could not read file: machine.yaml";
     const std::pair<QString, QByteArray> configs[] = {
         {"line 2, column 1: not valid UTF-8", "name: a\n\xff\xfe: b\n"},
-        {"line 2, column 9: not valid UTF-8", "axes:\n  x: caf\xe9\n"},  // Latin-1
         {"line 3, column 1: end of sequence flow not found", "axes:\n  x: [1, 2\n"},
         {"line 1, column 1: unexpected ','", ",a: 1\n"},  // the parser would start over and over
         {"larger than 1 MiB", QByteArray(1024 * 1024 + 1, '#')},
@@ -101,9 +100,9 @@ void ControllerTest::followsTheConnectionAndRefusesStartsWithoutIt() {
 
 void ControllerTest::failures_data() {
     QTest::addColumn<QStringList>("missing");
-    // "update" or "config"; an update may ask the console first ("probe"), log in
-    // detail ("detailed"), use a chosen image ("custom=NAME"; "gone.bin" does not
-    // exist) or run as the real program, which refuses development images ("real").
+    // "update" or "config"; an update may ask the console first ("probe"), log in detail
+    // ("detailed"), use a chosen image ("custom=NAME"; "gone.bin" does not exist) or run
+    // as the real program, which refuses development images ("real").
     QTest::addColumn<QString>("job");
     QTest::addColumn<QStringList>("busy");  // the state the job set before it failed, if any
     QTest::addColumn<QString>("message");
@@ -191,8 +190,6 @@ void ControllerTest::failures() {
 void ControllerTest::customFirmwareChoice() {
     ControllerHarness harness;
     auto& controller = harness.controller;
-    QCOMPARE(controller.firmwareLabel(), QStringLiteral("Firmware version 2.10.6"));
-
     const QString application = TFU_DEV_RESOURCES_DIR "/firmware.bin";
     controller.chooseCustomFirmware(application);
     QStringList log{"Custom firmware: firmware.bin",

@@ -35,7 +35,7 @@ class AppDelegateTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void init();
+    void init() { launch({{"Alpha", "alpha.yaml"}, {"Beta", "beta.yaml"}}); }
 
     void menuBarMatchesTheTableAndProductItemsUploadByTag();
     void togglesFlipTheFlagAndTheCheckMark();
@@ -60,11 +60,6 @@ class AppDelegateTest : public QObject {
     std::optional<QString> m_savePath;
     QString m_suggestedName;
 };
-
-void AppDelegateTest::init() {
-    launch({{QStringLiteral("Alpha"), QStringLiteral("alpha.yaml")},
-            {QStringLiteral("Beta"), QStringLiteral("beta.yaml")}});
-}
 
 void AppDelegateTest::launch(QList<ProductConfig> products) {
     m_delegate.reset();

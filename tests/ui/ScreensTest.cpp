@@ -20,27 +20,23 @@ class ScreensTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void initTestCase();
+    void initTestCase() {
+        QVERIFY(m_screens.mkpath(QStringLiteral(".")));
+        QApplication::setWindowIcon(QIcon(QStringLiteral(TFU_ICON_PNG)));
+    }
     void mainWindowStates();
     void aboutWindow();
     void compareWindow();
 
   private:
-    void save(QWidget* window, const QString& name);
+    void save(QWidget* window, const QString& name) {
+        // Layouts settle through posted events; the monitor is quiet, so nothing else runs.
+        QTest::qWait(50);
+        QVERIFY(window->grab().toImage().save(m_screens.filePath(name + QStringLiteral(".png"))));
+    }
 
     QDir m_screens{qEnvironmentVariable("TFU_SCREENS_DIR")};
 };
-
-void ScreensTest::initTestCase() {
-    QVERIFY(m_screens.mkpath(QStringLiteral(".")));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(TFU_ICON_PNG)));
-}
-
-void ScreensTest::save(QWidget* window, const QString& name) {
-    // Layouts settle through posted events; the monitor is quiet, so nothing else runs.
-    QTest::qWait(50);
-    QVERIFY(window->grab().toImage().save(m_screens.filePath(name + QStringLiteral(".png"))));
-}
 
 void ScreensTest::mainWindowStates() {
     QTemporaryDir resources;
@@ -60,23 +56,19 @@ void ScreensTest::mainWindowStates() {
     const QString failure =
         QStringLiteral("Failed to sync with device. Try unplugging and reconnecting.");
     QStringList log{"Updating firmware v2.10.6…", "Checking device status…", sample};
+    const QString refused = QStringLiteral(
+        "ERROR: notes.bin cannot be used: not a firmware image (first byte 0x7B, expected 0xE9)");
     // Each screen: its name, state, status line and log.
     const std::tuple<QString, UpdateState, QString, QStringList> screens[] = {
-        {"main-ready", UpdateState::ready(), "Device connected", {}},
+        {"main-ready", UpdateState::ready(), "Device connected", QStringList()},
         {"main-flashing-50", UpdateState::flashing(0.5f), "Writing firmware…", log},
-        {"main-uploading",
-         UpdateState::uploadingConfig(0.3f),
-         "Sending configuration…",
-         {"Preparing Corvane Halcot config v1.4.0-devset"}},
+        {"main-uploading", UpdateState::uploadingConfig(0.3f), "Sending configuration…",
+         QStringList("Preparing Corvane Halcot config v1.4.0-devset")},
         {"main-error", UpdateState::error(failure), failure,
-         log + QStringList{"ERROR: " + failure}},
+         QStringList(log) << "ERROR: " + failure},
         {"main-complete", UpdateState::flashComplete(), "Firmware update complete.",
-         log + QStringList{"Firmware update complete."}},
-        {"main-refused-firmware",
-         UpdateState::ready(),
-         "Device connected",
-         {"ERROR: notes.bin cannot be used: not a firmware image (first byte 0x7B, expected "
-          "0xE9)"}},
+         QStringList(log) << "Firmware update complete."},
+        {"main-refused-firmware", UpdateState::ready(), "Device connected", QStringList(refused)},
     };
     for (const auto& [name, state, status, lines] : screens) {
         view->showState(state);
