@@ -20,7 +20,8 @@ QString UpdateState::toString() const {
     switch (m_kind) {
         case Kind::flashing:
         case Kind::uploadingConfig:
-            return name + QStringLiteral("(%1)").arg(m_progress);
+            // Nine digits tell every two floats apart, so a failing test shows the difference.
+            return name + QStringLiteral("(%1)").arg(double(m_progress), 0, 'g', 9);
         case Kind::error:
             return name + QStringLiteral("(") + m_message + QStringLiteral(")");
         default:

@@ -54,7 +54,8 @@ class UpdateState {
     /// `configComplete`.
     bool isBusy() const;
 
-    /// Readable form for logs and test output, e.g. "flashing(0.5)" or "error(...)".
+    /// Readable form for logs and test output, e.g. "flashing(0.5)" or "error(...)";
+    /// the progress with all the digits its float holds ("flashing(0.100000001)").
     QString toString() const;
 
     /// Equal when the cases and their payloads are equal.

@@ -1,17 +1,24 @@
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include "app/BuildConfig.h"
+#include "ControllerHarness.h"
+#include "app/LogExport.h"
 #include "app/MachineConfigCheck.h"
-#include "app/ResourceBundle.h"
-#include "app/UpdateController.h"
+#include "app/SaveMachineConfigJob.h"
 
 namespace {
 
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+const QByteArray kMachine = R"(# tuned by the owner
+name: "Plotter"
+axes:
+  x:
+    steps_per_mm: 80.000
+    homing:
+      cycle: 2
+  y:
+    steps_per_mm: 80.000
+pins: [gpio.1, gpio.2]
+)";
+
+ConfigComparison compare(const QByteArray& machine, const QByteArray& chosen) {
+    return compareConfigs({QStringLiteral("machine"), machine}, {QStringLiteral("chosen"), chosen});
 }
 
 }  // namespace
@@ -22,10 +29,11 @@ class AppCoreTest : public QObject {
   private slots:
     void developmentSetIsNeverTheShippedFirmware();
     void resourcesAreFoundBesideOrInstalled();
-    void errorMessagesAndVersionCleanUp();
-    void metaVersion_data();
+    void errorMessagesVersionCleanUpAndFileNames();
     void metaVersion();
-    void statesCompareByCaseAndPayload();
+    void configDiffByKeyPath_data();
+    void configDiffByKeyPath();
+    void lineDiffShowsWhatKeysDoNot();
 };
 
 void AppCoreTest::developmentSetIsNeverTheShippedFirmware() {
@@ -35,7 +43,6 @@ void AppCoreTest::developmentSetIsNeverTheShippedFirmware() {
         QVERIFY2(image.contains("TESKAL DEVELOPMENT IMAGE - NOT FIRMWARE"), name);
         QVERIFY2(!image.contains("2.10.6"), name);
     }
-    QCOMPARE(BuildConfig::firmwareVersion(), QStringLiteral("2.10.6"));
     for (const auto& product : BuildConfig::products()) {
         const QByteArray config = dev.readConfig(product.configFile).value_or("");
         const auto version = UpdateController::extractMetaVersion(config);
@@ -49,21 +56,20 @@ void AppCoreTest::resourcesAreFoundBesideOrInstalled() {
     const QDir root(prefix.path());
     const QString bin = root.filePath("bin");
     QVERIFY(root.mkpath("bin") && root.mkpath("share/teskal-firmware-updater/resources/configs"));
-    writeFile(root.filePath("share/teskal-firmware-updater/resources/firmware.bin"), "installed");
-    writeFile(root.filePath("share/teskal-firmware-updater/resources/configs/Halcot"), "bare");
+    writeFile(prefix, "share/teskal-firmware-updater/resources/firmware.bin", "installed");
+    writeFile(prefix, "share/teskal-firmware-updater/resources/configs/Halcot", "bare");
     const ResourceBundle installed = ResourceBundle::forExecutableDir(bin);
     QCOMPARE(installed.read("firmware", "bin"), QByteArray("installed"));
     QVERIFY(!installed.read("firmware", "").has_value());
-    QVERIFY(!installed.read("bootloader", "bin").has_value());
     QCOMPARE(installed.readConfig("Halcot"), QByteArray("bare"));  // no dot: empty extension
     QVERIFY(!installed.readConfig("Halcot.yaml").has_value());
 
     QVERIFY(root.mkpath("bin/resources"));
-    writeFile(root.filePath("bin/resources/firmware.bin"), "beside");
+    writeFile(prefix, "bin/resources/firmware.bin", "beside");
     QCOMPARE(ResourceBundle::forExecutableDir(bin).read("firmware", "bin"), QByteArray("beside"));
 }
 
-void AppCoreTest::errorMessagesAndVersionCleanUp() {
+void AppCoreTest::errorMessagesVersionCleanUpAndFileNames() {
     QCOMPARE(UpdateController::errorMessage(7),
              QStringLiteral("Verification failed. Flash may be corrupted \u2014 try again."));
     QCOMPARE(UpdateController::errorMessage(0), QStringLiteral("Unknown error (code 0)"));
@@ -78,34 +84,79 @@ void AppCoreTest::errorMessagesAndVersionCleanUp() {
          }) {
         QCOMPARE(UpdateController::cleanFirmwareVersion(reply), QString(version));
     }
-}
-
-void AppCoreTest::metaVersion_data() {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QString>("version");  // empty: none
-    QTest::newRow("double quotes") << QByteArray("name: x\nmeta: \"1.4.2\"\n") << "1.4.2";
-    QTest::newRow("apostrophes, indented, tab") << QByteArray("  meta:\t'2.0' \n") << "2.0";
-    QTest::newRow("CR line ends") << QByteArray("a: 1\rmeta: 7\r") << "7";
-    QTest::newRow("empty values skipped")
-        << QByteArray("meta:\nmeta: \"\"\nmeta: '\"'\nmeta: v5\nmeta: v6\n") << "v5";
-    QTest::newRow("key must start the line") << QByteArray("x meta: 1\n# meta: 2\n") << "";
-    QTest::newRow("invalid UTF-8") << QByteArray("meta: 1.0\n\xff\xfe\n") << "";
-    QTest::newRow("UTF-8 text") << QByteArray("meta: \"caf\xc3\xa9\"\n") << "caf\u00e9";
+    const QDateTime when(QDate(2025, 3, 7), QTime(9, 5, 4));
+    QCOMPARE(SaveMachineConfigJob::defaultFileName(when), "machine-config-20250307-0905.yaml");
+    QCOMPARE(LogExport::defaultFileName(when), "teskal-updater-log-20250307-090504.txt");
 }
 
 void AppCoreTest::metaVersion() {
-    QFETCH(QByteArray, file);
-    QFETCH(QString, version);
-    const auto found = UpdateController::extractMetaVersion(file);
-    QCOMPARE(found.value_or(QString()), version);
-    QCOMPARE(found.has_value(), !version.isEmpty());
+    const std::pair<QByteArray, std::optional<QString>> rows[] = {
+        {"name: x\nmeta: \"1.4.2\"\n", "1.4.2"},                        // double quotes
+        {"  meta:\t'2.0' \n", "2.0"},                                   // apostrophes, indented
+        {"a: 1\rmeta: 7\r", "7"},                                       // CR line ends
+        {"meta:\nmeta: \"\"\nmeta: '\"'\nmeta: v5\nmeta: v6\n", "v5"},  // empty values skipped
+        {"x meta: 1\n# meta: 2\n", std::nullopt},                       // the key starts the line
+        {"meta: 1.0\n\xff\xfe\n", std::nullopt},                        // invalid UTF-8
+        {"meta: \"caf\xc3\xa9\"\n", "caf\u00e9"},
+    };
+    for (const auto& [file, version] : rows) {
+        QVERIFY2(UpdateController::extractMetaVersion(file) == version, file.constData());
+    }
 }
 
-void AppCoreTest::statesCompareByCaseAndPayload() {
-    QVERIFY(UpdateState() == UpdateState::idle());
-    QVERIFY(!(UpdateState::flashing(0.5f) == UpdateState::flashing(0.25f)));
-    QVERIFY(!(UpdateState::flashing(0.5f) == UpdateState::uploadingConfig(0.5f)));
-    QVERIFY(!(UpdateState::error("a") == UpdateState::error("b")));
+void AppCoreTest::configDiffByKeyPath_data() {
+    QTest::addColumn<QByteArray>("machine");
+    QTest::addColumn<QByteArray>("chosen");
+    QTest::addColumn<QStringList>("differences");
+    QTest::addColumn<QString>("error");  // the start of the one expected error
+
+    QByteArray changed = kMachine;
+    changed.replace("  x:\n    steps_per_mm: 80.000", "  x:\n    steps_per_mm: 100.000");
+    QTest::newRow("changed value")
+        << kMachine << changed << QStringList{"axes/x/steps_per_mm: 80.000 → 100.000"} << "";
+    QTest::newRow("added key") << kMachine << kMachine + "speed: 3000\n"
+                               << QStringList{"+ speed: 3000"} << "";
+    QTest::newRow("removed section")
+        << kMachine << QByteArray(kMachine).replace("    homing:\n      cycle: 2\n", "")
+        << QStringList{"- axes/x/homing/cycle: 2"} << "";
+    QTest::newRow("sequence item by index")
+        << kMachine << QByteArray(kMachine).replace("gpio.2]", "gpio.3, gpio.4]")
+        << QStringList{"pins/1: gpio.2 → gpio.3", "+ pins/2: gpio.4"} << "";
+    const QByteArray reordered =
+        "pins: [gpio.1, gpio.2]\naxes: {y: {steps_per_mm: 80.000}, "
+        "x: {homing: {cycle: 2}, steps_per_mm: 80.000}}\nname: Plotter\n";
+    QTest::newRow("reordered") << kMachine << reordered << QStringList{} << "";
+    QTest::newRow("invalid machine") << QByteArray("axes: [x\nname: a\n") << kMachine
+                                     << QStringList{} << "machine: not valid YAML (line 2, column ";
+    QTest::newRow("invalid chosen") << kMachine << QByteArray("a: b: c\n") << QStringList{}
+                                    << "chosen: not valid YAML (line 1, column ";
+    QTest::newRow("alias that holds itself")
+        << kMachine << QByteArray("loop: &a [1, *a]\n") << QStringList{}
+        << "chosen: nested too deeply or too large to compare";
+}
+
+void AppCoreTest::configDiffByKeyPath() {
+    QFETCH(QByteArray, machine);
+    QFETCH(QByteArray, chosen);
+    QFETCH(QStringList, differences);
+    QFETCH(QString, error);
+
+    const ConfigComparison comparison = compare(machine, chosen);
+    QCOMPARE(comparison.keyDifferences, differences);
+    QCOMPARE(comparison.errors.size(), error.isEmpty() ? 0 : 1);
+    QCOMPARE(comparison.errors.join(QString()).left(error.size()), error);
+    QCOMPARE(comparison.equalByKey(), error.isEmpty() && differences.isEmpty());
+}
+
+void AppCoreTest::lineDiffShowsWhatKeysDoNot() {
+    const QByteArray before = "# old\na: 1\nb: 2\n";
+    const ConfigComparison comment = compare(before, "# new\na: 1\nb: 2\n");
+    QVERIFY(comment.equalByKey());
+    QCOMPARE(comment.lineDiff, QStringLiteral("--- machine\n+++ chosen\n"
+                                              "@@ -1,3 +1,3 @@\n-# old\n+# new\n a: 1\n b: 2\n"));
+
+    const ConfigComparison lineEndings = compare(before, "# old\r\na: 1\r\nb: 2\r\n");
+    QCOMPARE(lineEndings.lineDiff, QString());
 }
 
 QTEST_GUILESS_MAIN(AppCoreTest)

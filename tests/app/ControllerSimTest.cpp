@@ -1,6 +1,5 @@
-#include <QDir>
 #include <QRegularExpression>
-#include <QTemporaryDir>
+#include <QSignalSpy>
 
 #include "ControllerHarness.h"
 #include "sim/PtyPlotter.h"
@@ -10,18 +9,6 @@ namespace {
 const QString kComplete = QStringLiteral("Firmware update complete.");
 const QString kUploaded = QStringLiteral("Upload successful; restarting machine.");
 constexpr int kJobTimeoutMs = 60000;
-
-QByteArray devImage(const QString& name) {
-    return ResourceBundle(TFU_DEV_RESOURCES_DIR).read(name, "bin").value_or("");
-}
-
-QByteArray flashAt(const sim::PtyPlotter& plotter, uint32_t address, qsizetype size) {
-    QByteArray bytes;
-    plotter.inspect([&](const sim::Plotter& p) {
-        bytes = QByteArray(reinterpret_cast<const char*>(p.flash().data()) + address, size);
-    });
-    return bytes;
-}
 
 QByteArray storedConfig(const sim::PtyPlotter& plotter) {
     QByteArray bytes;
@@ -40,180 +27,55 @@ class ControllerSimTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void applicationOnlyWhenTheConsoleAnswers();
-    void fullFlashWithEraseAllEndsWithTheNote();
-    void fullFlashOfCustomImageWhenTheConsoleIsSilent();
-    void configurationsFromTheTableAndFromAFile();
-    void refusedImagesAndConfigurationsReachNothing();
-    void machineConfigSavedComparedAndBackedUpBeforeUploads();
+    void updatesOfAChosenImageAndAfterEraseAll();
+    void configurationsSavedComparedBackedUpAndUploaded();
 };
 
-void ControllerSimTest::applicationOnlyWhenTheConsoleAnswers() {
-    sim::PtyPlotter plotter;
-    ControllerHarness harness;
-    harness.controller.setDetailedLogging(true);
-    QVERIFY(harness.plug(QString::fromStdString(plotter.path())));
-
-    harness.controller.updateFirmware();
-    QTRY_VERIFY_WITH_TIMEOUT(harness.firstBusy().isBusy(), 10000);
-    harness.controller.updateFirmware();  // refused; the running job goes on
-
-    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::flashComplete()));
-    QTRY_COMPARE(harness.controller.logMessages().last(), kComplete);
-    const QStringList log = harness.controller.logMessages();
-    QCOMPARE(log.mid(0, 3),
-             QStringList({"Updating firmware v2.10.6\u2026", "Checking device status\u2026",
-                          "Device running firmware v3.7.8 \u2014 updating firmware only."}));
-    QCOMPARE(log.count("ERROR: Another operation is already running"), 1);
-    QVERIFY(log.contains("Flash plan: 2 entries (app only)"));
-    QVERIFY(log.contains("Verifying firmware version..."));  // the shipped version is expected
-    QCOMPARE(harness.firstBusy(), UpdateState::flashing(0));
-    QVERIFY(harness.statuses.contains("Flashing"));
-
-    const QByteArray firmware = devImage("firmware");
-    QVERIFY(flashAt(plotter, 0x10000, firmware.size()) == firmware);
-    QCOMPARE(flashAt(plotter, 0x0, 16), QByteArray(16, char(0xFF)));
-}
-
-void ControllerSimTest::fullFlashWithEraseAllEndsWithTheNote() {
-    sim::PtyPlotter plotter;
-    ControllerHarness harness;
-    harness.controller.setEraseAllFlashEnabled(true);
-    QVERIFY(harness.plug(QString::fromStdString(plotter.path())));
-
-    harness.controller.updateFirmware();
-    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::flashComplete()));
-    const QString note = QStringLiteral(
-        "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for "
-        "your machine.");
-    QTRY_COMPARE(harness.controller.logMessages(),
-                 QStringList({"Updating firmware v2.10.6\u2026", kComplete, "", note}));
-
-    for (const auto& [address, name] :
-         {std::pair(0x0u, "bootloader"), std::pair(0x8000u, "partitions"),
-          std::pair(0xE000u, "boot_app0"), std::pair(0x10000u, "firmware")}) {
-        const QByteArray image = devImage(name);
-        QVERIFY2(flashAt(plotter, address, image.size()) == image, name);
-    }
-}
-
-void ControllerSimTest::fullFlashOfCustomImageWhenTheConsoleIsSilent() {
-    sim::Config config;
-    config.silentConsole = true;
-    sim::PtyPlotter plotter(config);
-    ControllerHarness harness;
-    harness.controller.setDetailedLogging(true);
-    harness.controller.chooseCustomFirmware(TFU_DEV_RESOURCES_DIR "/firmware.bin");
-    QVERIFY(harness.plug(QString::fromStdString(plotter.path())));
-
-    harness.controller.updateFirmware();
-    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::flashComplete()));
-    QTRY_COMPARE(harness.controller.logMessages().last(), kComplete);
-    const QStringList log = harness.controller.logMessages();
-    QCOMPARE(log.mid(0, 3),
-             QStringList({"Updating firmware (custom: firmware.bin)\u2026",
-                          "Checking device status\u2026",
-                          "Device not responding \u2014 writing boot partitions + firmware."}));
-    QVERIFY(log.contains("Flash plan: 4 entries (FULL)"));
-    QVERIFY(!log.contains("Verifying firmware version..."));  // no version expected
-}
-
-void ControllerSimTest::configurationsFromTheTableAndFromAFile() {
-    sim::PtyPlotter plotter;
-    ControllerHarness harness;
-    QVERIFY(harness.plug(QString::fromStdString(plotter.path())));
-
-    harness.controller.uploadConfig("Halcot.yaml", "Corvane Halcot");
-    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::configComplete()));
-    QTRY_COMPARE(harness.controller.logMessages().last(), kUploaded);
-    QStringList log = harness.controller.logMessages();
-    QCOMPARE(log.first(), QStringLiteral("Preparing Corvane Halcot config v1.2.0-devset"));
-    QVERIFY(log.size() > 2);  // the upload's stages
-    for (qsizetype i = 1; i < log.size(); ++i) {
-        QVERIFY2(log[i] != log[i - 1], qPrintable(log[i]));  // a repeated stage is logged once
-    }
-    QCOMPARE(harness.firstBusy(), UpdateState::uploadingConfig(0));
-    QCOMPARE(storedConfig(plotter),
-             ResourceBundle(TFU_DEV_RESOURCES_DIR).readConfig("Halcot.yaml"));
-
-    QTemporaryDir dir;
-    QFile file(dir.filePath("workshop.yml"));
-    QByteArray config("name: \"Workshop plotter\"\nmeta: '9.9'\n");
-    config += QByteArray(40 * 1024, '#');  // several XModem blocks
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(config) == config.size());
-    file.close();
-    QVERIFY(harness.plug(QString::fromStdString(plotter.path())));
-
-    harness.controller.uploadConfigFromFile(file.fileName());
-    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::configComplete()));
-    QTRY_COMPARE(harness.controller.logMessages().last(), kUploaded);
-    QCOMPARE(harness.controller.logMessages().mid(0, 2),
-             QStringList({"Preparing workshop.yml v9.9", "Uploading config file..."}));
-    QVERIFY(storedConfig(plotter) == config);
-}
-
-void ControllerSimTest::refusedImagesAndConfigurationsReachNothing() {
+void ControllerSimTest::updatesOfAChosenImageAndAfterEraseAll() {
     sim::PtyPlotter plotter;
     const QString port = QString::fromStdString(plotter.path());
     ControllerHarness harness;
     auto& controller = harness.controller;
+    controller.setDetailedLogging(true);
+    controller.chooseCustomFirmware(TFU_DEV_RESOURCES_DIR "/firmware.bin");
     QVERIFY(harness.plug(port));
 
-    // Chosen files are checked again by the job: they may have changed since.
-    QTemporaryDir dir;
-    for (const RefusedFirmware& file : refusedFirmwares()) {
-        controller.setCustomFirmwareURL(
-            QUrl::fromLocalFile(writeFile(dir, file.fileName, file.bytes)));
-        controller.updateFirmware();
-        const QString message = "Firmware image refused: " + file.reason;
-        QCOMPARE(harness.waitForOutcome(5000), std::optional(UpdateState::error(message)));
-        QCOMPARE(harness.statuses.last(), message);
-        QTRY_COMPARE(controller.logMessages(),
-                     QStringList({"Updating firmware (custom: " + file.fileName + ")\u2026",
-                                  "ERROR: " + message}));
-        QVERIFY(harness.plug(port));
-    }
+    controller.updateFirmware();
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::flashComplete()));
+    QTRY_COMPARE(controller.logMessages().last(), kComplete);
+    QCOMPARE(controller.logMessages().first(), "Updating firmware (custom: firmware.bin)\u2026");
+    // A chosen image carries no version the job could expect afterwards.
+    QVERIFY(!controller.logMessages().contains("Verifying firmware version..."));
 
-    const std::pair<QString, QByteArray> configs[] = {
-        {"line 2, column 1: not valid UTF-8", "name: a\n\xff\xfe: b\n"},
-        {"line 2, column 9: not valid UTF-8", "axes:\n  x: caf\xe9\n"},  // Latin-1
-        {"line 3, column 1: end of sequence flow not found", "axes:\n  x: [1, 2\n"},
-        {"line 1, column 1: unexpected ','", ",a: 1\n"},  // the parser would start over and over
-        {"larger than 1 MiB", QByteArray(1024 * 1024 + 1, '#')},
-        {"the top level is not a mapping of settings", "- just\n- a list\n"},
-    };
-    QStringList log = controller.logMessages();  // a refused file empties nothing
-    for (const auto& [problem, bytes] : configs) {
-        controller.uploadConfigFromFile(writeFile(dir, "machine.yaml", bytes));
-        log << "ERROR: machine.yaml is not a valid machine configuration: " + problem;
-    }
-    QTRY_COMPARE(controller.logMessages(), log);
-    QTest::qWait(300);
-    QVERIFY(harness.states.count(UpdateState::ready()) == harness.states.size());
-
-    // The real program refuses the development set's application, and with a
-    // chosen application the development set's boot images.
-    ControllerHarness real(TFU_DEV_RESOURCES_DIR, UpdateController::DevelopmentImages::refuse);
-    for (const bool custom : {false, true}) {
-        if (custom) {
-            real.controller.setCustomFirmwareURL(
-                QUrl::fromLocalFile(writeFile(dir, "unmarked.bin", unmarkedApplication())));
+    // Erase All Flash: the shipped image, no probe, and the NOTE after success.
+    controller.setDetailedLogging(false);
+    controller.setCustomFirmwareURL({});
+    controller.setEraseAllFlashEnabled(true);
+    QVERIFY(harness.plug(port));
+    controller.updateFirmware();
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::flashComplete()));
+    const QString note = QStringLiteral(
+        "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for "
+        "your machine.");
+    QTRY_COMPARE(controller.logMessages(),
+                 QStringList({"Updating firmware v2.10.6\u2026", kComplete, "", note}));
+    // The erase is reported at 0.08 in single precision, and published as reported.
+    QCOMPARE(harness.busySpan().mid(0, 2),
+             QList<UpdateState>({UpdateState::flashing(0), UpdateState::flashing(0.08f)}));
+    QVERIFY(harness.published.contains("status: Erasing flash..."));
+    plotter.inspect([](const sim::Plotter& p) {
+        const auto* flash = reinterpret_cast<const char*>(p.flash().data());
+        for (const auto& [address, name] :
+             {std::pair(0x0u, "bootloader"), std::pair(0x8000u, "partitions"),
+              std::pair(0xE000u, "boot_app0"), std::pair(0x10000u, "firmware")}) {
+            const QByteArray image =
+                ResourceBundle(TFU_DEV_RESOURCES_DIR).read(name, "bin").value();
+            QVERIFY2(QByteArray(flash + address, image.size()) == image, name);
         }
-        QVERIFY(real.plug(port));
-        real.controller.updateFirmware();
-        const QString message =
-            custom ? QStringLiteral(
-                         "Bundled bootloader.bin refused: a development image, not firmware")
-                   : QStringLiteral("Firmware image refused: a development image, not firmware");
-        QCOMPARE(real.waitForOutcome(5000), std::optional(UpdateState::error(message)));
-        QTRY_COMPARE(real.controller.logMessages().last(), "ERROR: " + message);
-        QCOMPARE(real.controller.logMessages().size(), 2);
-    }
-
-    plotter.inspect([](const sim::Plotter& p) { QCOMPARE(p.transcript().size(), size_t{0}); });
+    });
 }
 
-void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
+void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     QTemporaryDir dir;
     qputenv("XDG_DATA_HOME", dir.filePath("data").toUtf8());
     const QDir backups(dir.filePath("data/teskal-firmware-updater/backups"));
@@ -223,39 +85,49 @@ void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
     tuned.replace("  x:\n    steps_per_mm: 80.000", "  x:\n    steps_per_mm: 78.750");
     sim::Config config;
     config.machineConfig = tuned.toStdString();
+    config.xmodemSendCanBlock = 1;
     sim::PtyPlotter plotter(config);
     const QString port = QString::fromStdString(plotter.path());
     ControllerHarness harness;
     auto& controller = harness.controller;
     const ConfigChoice halcotChoice = ConfigChoice::ofProduct({"Corvane Halcot", "Halcot.yaml"});
-    QVERIFY(harness.plug(port));
+    const QString cancelled = QStringLiteral(
+        "Could not read config.yaml from the machine: XModem download: cancelled by the device");
+    const auto savedTo = [&](const QString& path) {
+        return QString("Machine config saved to %1 (%2 bytes)").arg(path).arg(tuned.size());
+    };
 
-    const QString saved = dir.filePath("saved.yaml");
+    // A failed download leaves an earlier file as it was.
+    const QString saved = writeFile(dir, "saved.yaml", "earlier copy\n");
+    QVERIFY(harness.plug(port));
+    controller.saveMachineConfig(saved);
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::error(cancelled)));
+    QCOMPARE(readFile(saved), QByteArray("earlier copy\n"));
+
+    plotter.modify([](sim::Plotter& p) { p.config().xmodemSendCanBlock.reset(); });
+    QVERIFY(harness.plug(port));
     controller.saveMachineConfig(saved);
     controller.compareWithMachine(halcotChoice);  // refused; the save goes on
     QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning(), kJobTimeoutMs);
     QCOMPARE(controller.logMessages(),
-             QStringList(
-                 {"ERROR: Another operation is already running",
-                  QString("Machine config saved to %1 (%2 bytes)").arg(saved).arg(tuned.size())}));
+             QStringList({"ERROR: Another operation is already running", savedTo(saved)}));
     QCOMPARE(readFile(saved), tuned);
-    QCOMPARE(harness.firstBusy(), UpdateState::probing());
-    QVERIFY(harness.states.contains(UpdateState::ready()));
-    QVERIFY(harness.statuses.contains(
-        QString("Downloading config.yaml... %1 bytes").arg(tuned.size())));
-    QVERIFY(harness.statuses.contains("Machine config saved"));
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{"saved.yaml"});
+    // The download holds "probing" through every poll; only its end brings "ready".
+    const QStringList published = harness.publishedByJob();
+    QCOMPARE(published.first(), "probing");
+    QCOMPARE(published.mid(published.indexOf("ready"), 2),
+             QStringList({"ready", "status: Machine config saved"}));
+    QVERIFY(published.contains(
+        QString("status: Downloading config.yaml... %1 bytes").arg(tuned.size())));
 
-    std::optional<ConfigComparison> comparison;
-    QString chosen;
-    connect(&controller, &UpdateController::machineConfigCompared, &controller,
-            [&](const ConfigComparison& result, const ConfigChoice& choice) {
-                comparison = result;
-                chosen = choice.label();
-            });
+    QSignalSpy compared(&controller, &UpdateController::machineConfigCompared);
     controller.compareWithMachine(halcotChoice);
-    QTRY_VERIFY_WITH_TIMEOUT(comparison, kJobTimeoutMs);
-    QCOMPARE(comparison->keyDifferences, QStringList{"axes/x/steps_per_mm: 78.750 → 80.000"});
-    QCOMPARE(chosen, "Corvane Halcot");
+    QTRY_COMPARE_WITH_TIMEOUT(compared.size(), 1, kJobTimeoutMs);
+    const auto comparison = compared[0][0].value<ConfigComparison>();
+    QCOMPARE(comparison.keyDifferences, QStringList{"axes/x/steps_per_mm: 78.750 → 80.000"});
+    QVERIFY(comparison.lineDiff.contains("-    steps_per_mm: 78.750\n+    steps_per_mm: 80.000\n"));
+    QCOMPARE(compared[0][1].value<ConfigChoice>().label(), "Corvane Halcot");
     QCOMPARE(controller.logMessages(),
              QStringList{"Machine config differs from Corvane Halcot in 1 key"});
 
@@ -271,35 +143,48 @@ void ControllerSimTest::machineConfigSavedComparedAndBackedUpBeforeUploads() {
              qPrintable(files[0]));
     QCOMPARE(readFile(backups.filePath(files[0])), tuned);
     QCOMPARE(controller.logMessages().mid(0, 2),
-             QStringList({QString("Machine config saved to %1 (%2 bytes)")
-                              .arg(backups.filePath(files[0]))
-                              .arg(tuned.size()),
+             QStringList({savedTo(backups.filePath(files[0])),
                           "Preparing Corvane Halcot config v1.2.0-devset"}));
-    QCOMPARE(harness.firstBusy(), UpdateState::probing());
+    QCOMPARE(harness.busySpan().first(), UpdateState::probing());
+    QCOMPARE(harness.busySpan().last(), UpdateState::configComplete());
     QCOMPARE(storedConfig(plotter), halcot);
 
     // A backup that fails stops the upload before it reaches the machine.
-    const auto receives = [&plotter] {
-        qsizetype count = 0;
-        plotter.inspect([&](const sim::Plotter& p) {
-            for (const std::string& entry : p.transcript()) {
-                count += entry.starts_with("$Xmodem/Receive=") ? 1 : 0;
-            }
-        });
-        return count;
-    };
-    const qsizetype receivesBefore = receives();
     plotter.modify([](sim::Plotter& p) { p.config().xmodemSendCanBlock = 1; });
     QVERIFY(harness.plug(port));
     controller.uploadConfigFromFile(writeFile(dir, "workshop.yaml", "name: workshop\n"));
     const QString message =
-        "Could not back up the machine config; the upload did not start: Could not read "
-        "config.yaml from the machine: XModem download: cancelled by the device";
+        "Could not back up the machine config; the upload did not start: " + cancelled;
     QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::error(message)));
     QTRY_COMPARE(controller.logMessages(),
                  QStringList({"Preparing workshop.yaml", "ERROR: " + message}));
-    QCOMPARE(receives(), receivesBefore);
+    QCOMPARE(storedConfig(plotter), halcot);
     QCOMPARE(backups.entryList(QDir::Files), files);
+
+    // A configuration from a file, without a backup.
+    QByteArray workshop("name: \"Workshop plotter\"\nmeta: '9.9'\n");
+    workshop.append(3 * 1024 - workshop.size(), '#');
+    QList<float> progress;
+    connect(&controller, &UpdateController::progressChanged, this,
+            [&](float fraction) { progress << fraction; });
+    controller.setBackupBeforeUploadEnabled(false);
+    QVERIFY(harness.plug(port));
+    controller.uploadConfigFromFile(writeFile(dir, "workshop.yml", workshop));
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::configComplete()));
+    // Each block reports the same stage, which is logged when it first differs
+    // from the status line.
+    QTRY_COMPARE(controller.logMessages(),
+                 QStringList({"Preparing workshop.yml v9.9", "Uploading config file...",
+                              "Uploading config file...", kUploaded}));
+    // Three XModem blocks: the library reports 1/3, 2/3 and 1 in single precision,
+    // which the controller must publish exactly as reported.
+    QCOMPARE(harness.busySpan(),
+             QList<UpdateState>({UpdateState::uploadingConfig(0),
+                                 UpdateState::uploadingConfig(0.333333343f),
+                                 UpdateState::uploadingConfig(0.666666687f),
+                                 UpdateState::uploadingConfig(1), UpdateState::configComplete()}));
+    QVERIFY(progress == QList<float>({0.333333343f, 0.666666687f, 1.0f}));
+    QVERIFY(storedConfig(plotter) == workshop);
 }
 
 QTEST_GUILESS_MAIN(ControllerSimTest)

@@ -1,5 +1,5 @@
+#include <QCryptographicHash>
 #include <QDirIterator>
-#include <QTemporaryDir>
 
 #include "ControllerHarness.h"
 
@@ -8,6 +8,7 @@ namespace {
 const QString kMissingPort = QStringLiteral("/dev/tfu-no-such-port");
 const QString kShipped = QStringLiteral("Updating firmware v2.10.6\u2026");
 const QString kOpenFailed = QStringLiteral("Could not open serial port. Is another app using it?");
+const QByteArray kNotes = "{\"name\": \"plotter\", \"pens\": 12}\n";
 
 /// A copy of the development resources without the named files.
 struct ResourcesWithout {
@@ -25,6 +26,24 @@ struct ResourcesWithout {
     QTemporaryDir dir;
 };
 
+/// The development application made into one the real program takes: each marker
+/// text overwritten with another of its length, the checksum byte (right before
+/// the appended SHA-256) and the SHA-256 made to match again.
+inline QByteArray unmarkedApplication() {
+    QByteArray image = ResourceBundle(TFU_DEV_RESOURCES_DIR).read("firmware", "bin").value_or("");
+    const QByteArray marker("TESKAL DEVELOPMENT IMAGE - NOT FIRMWARE");
+    const QByteArray other("TESKAL TEST APPLICATION - NOT FIRMWARE!");
+    const qsizetype checksumAt = image.size() - 33;
+    for (qsizetype at = image.indexOf(marker); at >= 0; at = image.indexOf(marker, at)) {
+        for (qsizetype i = 0; i < marker.size(); ++i) {
+            image[checksumAt] = char(image[checksumAt] ^ marker[i] ^ other[i]);
+        }
+        image.replace(at, marker.size(), other);
+    }
+    const QByteArray hashed = image.left(image.size() - 32);
+    return hashed + QCryptographicHash::hash(hashed, QCryptographicHash::Sha256);
+}
+
 }  // namespace
 
 class ControllerTest : public QObject {
@@ -39,80 +58,114 @@ class ControllerTest : public QObject {
 
 void ControllerTest::followsTheConnectionAndRefusesStartsWithoutIt() {
     ControllerHarness harness;
-    QCOMPARE(harness.controller.state(), UpdateState::idle());
-    QCOMPARE(harness.controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
+    auto& controller = harness.controller;
+    QCOMPARE(controller.state(), UpdateState::idle());
+    QCOMPARE(controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
 
     QVERIFY(harness.plug(kMissingPort));
-    QCOMPARE(harness.controller.statusMessage(), QStringLiteral("Device connected"));
-    QCOMPARE(harness.controller.deviceMonitor()->portPath(), kMissingPort);
+    QCOMPARE(controller.statusMessage(), QStringLiteral("Device connected"));
 
     QVERIFY(harness.plug({}));
-    QCOMPARE(harness.controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
-
-    auto& controller = harness.controller;
+    QCOMPARE(controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
     controller.log("earlier line");
     controller.updateFirmware();
     controller.uploadConfig("Halcot.yaml", "Corvane Halcot");
     controller.uploadConfigFromFile(TFU_DEV_RESOURCES_DIR "/configs/mrv.yaml");
-    const QString refused = QStringLiteral("ERROR: No device connected");
-    QTRY_COMPARE(controller.logMessages(),
-                 QStringList({"earlier line", refused, refused, refused}));
+    QStringList log{"earlier line"};
+    log << QStringList(3, "ERROR: No device connected");
+    QTRY_COMPARE(controller.logMessages(), log);
 
-    // With a device, an unreadable file is refused before any job starts.
+    // With a device, a file that is no machine configuration is refused before any
+    // job starts, and nothing else changes.
     QVERIFY(harness.plug(kMissingPort));
     controller.uploadConfigFromFile("/nonexistent/folder/machine.yaml");
-    QTRY_COMPARE(controller.logMessages().last(),
-                 QStringLiteral("ERROR: Could not read file: machine.yaml"));
+    log << "ERROR: Could not read file: machine.yaml";
+    const std::pair<QString, QByteArray> configs[] = {
+        {"line 2, column 1: not valid UTF-8", "name: a\n\xff\xfe: b\n"},
+        {"line 3, column 1: end of sequence flow not found", "axes:\n  x: [1, 2\n"},
+        {"line 1, column 1: unexpected ','", ",a: 1\n"},  // the parser would start over and over
+        {"larger than 1 MiB", QByteArray(1024 * 1024 + 1, '#')},
+        {"the top level is not a mapping of settings", "- just\n- a list\n"},
+    };
+    QTemporaryDir dir;
+    for (const auto& [problem, bytes] : configs) {
+        controller.uploadConfigFromFile(writeFile(dir, "machine.yaml", bytes));
+        log << "ERROR: machine.yaml is not a valid machine configuration: " + problem;
+    }
+    QTRY_COMPARE(controller.logMessages(), log);
     QTest::qWait(300);
-    QVERIFY(harness.states.count(UpdateState::ready()) == harness.states.size());
+    QVERIFY(!controller.jobRunning());
+    QCOMPARE(harness.states.count(UpdateState::ready()), harness.states.size());
 }
 
 void ControllerTest::failures_data() {
     QTest::addColumn<QStringList>("missing");
-    // "update" or "config"; an update may ask the console first ("probe"), log in
-    // detail ("detailed") or use an unreadable custom image ("custom").
+    // "update" or "config"; an update may ask the console first ("probe"), log in detail
+    // ("detailed"), use a chosen image ("custom=NAME"; "gone.bin" does not exist) or run
+    // as the real program, which refuses development images ("real").
     QTest::addColumn<QString>("job");
+    QTest::addColumn<QStringList>("busy");  // the state the job set before it failed, if any
     QTest::addColumn<QString>("message");
     QTest::addColumn<QStringList>("logBeforeError");
 
-    QTest::newRow("shipped image missing") << QStringList{"firmware.bin"} << "update"
-                                           << "Bundled firmware not found" << QStringList{};
+    const QString refused = QStringLiteral("Firmware image refused: ");
+    const QString development = QStringLiteral("a development image, not firmware");
+    QTest::newRow("shipped image missing")
+        << QStringList{"firmware.bin"} << "update" << QStringList{} << "Bundled firmware not found"
+        << QStringList{};
     QTest::newRow("custom image unreadable")
-        << QStringList{} << "update custom"
+        << QStringList{} << "update custom=gone.bin" << QStringList{}
         << "Failed to load custom firmware: No such file or directory" << QStringList{};
-    QTest::newRow("stub missing") << QStringList{"esp32s3_stub.bin"} << "update"
+    // Chosen files are checked again by the job, before the probe: they may have
+    // changed since they were chosen.
+    QTest::newRow("custom image refused")
+        << QStringList{} << "update probe custom=notes.bin" << QStringList{}
+        << refused + "not a firmware image (first byte 0x7B, expected 0xE9)"
+        << QStringList{"Updating firmware (custom: notes.bin)\u2026"};
+    QTest::newRow("real program, shipped development image")
+        << QStringList{} << "update probe real" << QStringList{} << refused + development
+        << QStringList{kShipped};
+    QTest::newRow("real program, development boot images")
+        << QStringList{} << "update probe real custom=unmarked.bin" << QStringList{}
+        << "Bundled bootloader.bin refused: " + development
+        << QStringList{"Updating firmware (custom: unmarked.bin)\u2026"};
+    QTest::newRow("stub missing") << QStringList{"esp32s3_stub.bin"} << "update" << QStringList{}
                                   << "Flash stub not found in bundle" << QStringList{kShipped};
     QTest::newRow("no answer, partition table missing")
-        << QStringList{"partitions.bin"} << "update probe"
+        << QStringList{"partitions.bin"} << "update probe" << QStringList{}
         << "Missing bootloader resources for full flash"
         << QStringList{kShipped, "Checking device status\u2026",
                        "Device not responding \u2014 writing boot partitions + firmware."};
-    QTest::newRow("library fails, plain log")
-        << QStringList{} << "update" << kOpenFailed << QStringList{kShipped};
     QTest::newRow("library fails, detailed log")
-        << QStringList{} << "update detailed" << kOpenFailed
+        << QStringList{} << "update detailed" << QStringList{"flashing(0)"} << kOpenFailed
         << QStringList{kShipped, "Opening port: " + kMissingPort, "Failed to open port"};
     QTest::newRow("configuration missing")
-        << QStringList{"configs/Halcot.yaml"} << "config"
+        << QStringList{"configs/Halcot.yaml"} << "config" << QStringList{"uploadingConfig(0)"}
         << "Config file not found in bundle: Halcot.yaml" << QStringList{};
     QTest::newRow("configuration, library fails")
-        << QStringList{} << "config" << kOpenFailed
+        << QStringList{} << "config" << QStringList{"uploadingConfig(0)"} << kOpenFailed
         << QStringList{"Preparing Corvane Halcot config v1.2.0-devset"};
 }
 
 void ControllerTest::failures() {
     QFETCH(QStringList, missing);
     QFETCH(QString, job);
+    QFETCH(QStringList, busy);
     QFETCH(QString, message);
     QFETCH(QStringList, logBeforeError);
 
     const ResourcesWithout resources(missing);
-    ControllerHarness harness(resources.dir.path());
+    ControllerHarness harness(resources.dir.path(),
+                              job.contains("real") ? UpdateController::DevelopmentImages::refuse
+                                                   : UpdateController::DevelopmentImages::accept);
     auto& controller = harness.controller;
     controller.setWriteBootPartitionsEnabled(!job.contains("probe"));
     controller.setDetailedLogging(job.contains("detailed"));
-    if (job.contains("custom")) {
-        controller.setCustomFirmwareURL(QUrl::fromLocalFile("/nonexistent/custom.bin"));
+    if (const QString custom = job.section("custom=", 1).section(' ', 0, 0); !custom.isEmpty()) {
+        const QByteArray bytes = custom == "notes.bin" ? kNotes : unmarkedApplication();
+        controller.setCustomFirmwareURL(
+            QUrl::fromLocalFile(custom == "gone.bin" ? resources.dir.filePath(custom)
+                                                     : writeFile(resources.dir, custom, bytes)));
     }
     controller.log("line of an earlier job");
     QVERIFY(harness.plug(kMissingPort));
@@ -124,7 +177,9 @@ void ControllerTest::failures() {
     }
     QCOMPARE(harness.waitForOutcome(5000), std::optional(UpdateState::error(message)));
     QCOMPARE(controller.logMessages(), logBeforeError + QStringList{"ERROR: " + message});
-    QVERIFY(harness.statuses.contains(message));
+    const QStringList published =
+        busy + QStringList{"error(" + message + ")", "status: " + message};
+    QCOMPARE(harness.publishedByJob().mid(0, published.size()), published);
 
     // The next poll brings the controller back to ready; the log keeps the outcome.
     QTRY_COMPARE_WITH_TIMEOUT(controller.state(), UpdateState::ready(), 2000);
@@ -135,22 +190,24 @@ void ControllerTest::failures() {
 void ControllerTest::customFirmwareChoice() {
     ControllerHarness harness;
     auto& controller = harness.controller;
-    QCOMPARE(controller.firmwareLabel(), QStringLiteral("Firmware version 2.10.6"));
-
     const QString application = TFU_DEV_RESOURCES_DIR "/firmware.bin";
     controller.chooseCustomFirmware(application);
     QStringList log{"Custom firmware: firmware.bin",
                     "Firmware image: version 0.0.0-devset, project teskal-devset, built Jan  1 "
                     "2000 00:00:00"};
 
-    // Refused files leave the accepted choice in place.
+    // Refused files leave the accepted choice in place. The reasons are the image
+    // check's; the size limit is the bundled partition table's.
     QTemporaryDir dir;
-    for (const RefusedFirmware& file : refusedFirmwares()) {
-        controller.chooseCustomFirmware(writeFile(dir, file.fileName, file.bytes));
-        log << "ERROR: " + file.fileName + " cannot be used: " + file.reason;
-    }
+    QByteArray padded = readFile(application);
+    padded.append(4 * 1024 * 1024 - padded.size(), char(0xFF));
+    controller.chooseCustomFirmware(writeFile(dir, "notes.bin", kNotes));
+    controller.chooseCustomFirmware(writeFile(dir, "padded.bin", padded));
     controller.chooseCustomFirmware(dir.filePath("gone.bin"));
-    log << "ERROR: gone.bin cannot be used: it could not be read (No such file or directory)";
+    log << "ERROR: notes.bin cannot be used: not a firmware image (first byte 0x7B, expected 0xE9)"
+        << "ERROR: padded.bin cannot be used: too large for the application partition (4,194,304 "
+           "bytes; the partition holds 1,966,080)"
+        << "ERROR: gone.bin cannot be used: it could not be read (No such file or directory)";
     QTRY_COMPARE(controller.logMessages(), log);
     QCOMPARE(controller.customFirmwareURL(), QUrl::fromLocalFile(application));
     QCOMPARE(controller.firmwareLabel(), QStringLiteral("firmware.bin"));

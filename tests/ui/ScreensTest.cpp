@@ -1,15 +1,9 @@
-#include <QApplication>
-#include <QDir>
-#include <QMainWindow>
-#include <QMessageBox>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTabWidget>
-#include <QTemporaryDir>
 #include <QTextBrowser>
 
 #include "UiTestSupport.h"
-#include "app/UpdateController.h"
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
 #include "ui/CompareWindow.h"
@@ -26,28 +20,23 @@ class ScreensTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void initTestCase();
+    void initTestCase() {
+        QVERIFY(m_screens.mkpath(QStringLiteral(".")));
+        QApplication::setWindowIcon(QIcon(QStringLiteral(TFU_ICON_PNG)));
+    }
     void mainWindowStates();
-    void refusedFirmwareAndQuitQuestion();
     void aboutWindow();
     void compareWindow();
 
   private:
-    void save(QWidget* window, const QString& name);
+    void save(QWidget* window, const QString& name) {
+        // Layouts settle through posted events; the monitor is quiet, so nothing else runs.
+        QTest::qWait(50);
+        QVERIFY(window->grab().toImage().save(m_screens.filePath(name + QStringLiteral(".png"))));
+    }
 
     QDir m_screens{qEnvironmentVariable("TFU_SCREENS_DIR")};
 };
-
-void ScreensTest::initTestCase() {
-    QVERIFY(m_screens.mkpath(QStringLiteral(".")));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(TFU_ICON_PNG)));
-}
-
-void ScreensTest::save(QWidget* window, const QString& name) {
-    // Layouts settle through posted events; the monitor is quiet, so nothing else runs.
-    QTest::qWait(50);
-    QVERIFY(window->grab().toImage().save(m_screens.filePath(name + QStringLiteral(".png"))));
-}
 
 void ScreensTest::mainWindowStates() {
     QTemporaryDir resources;
@@ -62,59 +51,39 @@ void ScreensTest::mainWindowStates() {
     save(window, QStringLiteral("main-idle"));
 
     view->showConnection(true, QStringLiteral("/dev/ttyACM0"));
-    view->showState(UpdateState::ready());
-    view->showStatusMessage(QStringLiteral("Device connected"));
-    save(window, QStringLiteral("main-ready"));
-
-    QStringList log{QStringLiteral("Updating firmware v2.10.6…"),
-                    QStringLiteral("Checking device status…")};
-    view->showState(UpdateState::flashing(0.5f));
-    view->showStatusMessage(QStringLiteral("Writing firmware…"));
     const QString sample =
         QStringLiteral("Device running firmware v3.7.8 — updating firmware only.");
-    view->showLog(log << sample);
-    save(window, QStringLiteral("main-flashing-50"));
-    // About 60 characters a line: this 56-character line must not wrap.
-    QVERIFY(view->logPanel()->view()->viewport()->width() >=
-            QFontMetrics(Fonts::monospace(11)).horizontalAdvance(sample));
-
-    view->showState(UpdateState::uploadingConfig(0.3f));
-    view->showStatusMessage(QStringLiteral("Sending configuration…"));
-    view->showLog({QStringLiteral("Preparing Corvane Halcot config v1.4.0-devset")});
-    save(window, QStringLiteral("main-uploading"));
-
     const QString failure =
         QStringLiteral("Failed to sync with device. Try unplugging and reconnecting.");
-    view->showState(UpdateState::error(failure));
-    view->showStatusMessage(failure);
-    view->showLog(log << QStringLiteral("ERROR: ") + failure);
-    save(window, QStringLiteral("main-error"));
-
-    view->showState(UpdateState::flashComplete());
-    view->showStatusMessage(QStringLiteral("Firmware update complete."));
-    view->showLog(log << QStringLiteral("Firmware update complete."));
-    save(window, QStringLiteral("main-complete"));
+    QStringList log{"Updating firmware v2.10.6…", "Checking device status…", sample};
+    const QString refused = QStringLiteral(
+        "ERROR: notes.bin cannot be used: not a firmware image (first byte 0x7B, expected 0xE9)");
+    // Each screen: its name, state, status line and log.
+    const std::tuple<QString, UpdateState, QString, QStringList> screens[] = {
+        {"main-ready", UpdateState::ready(), "Device connected", QStringList()},
+        {"main-flashing-50", UpdateState::flashing(0.5f), "Writing firmware…", log},
+        {"main-uploading", UpdateState::uploadingConfig(0.3f), "Sending configuration…",
+         QStringList("Preparing Corvane Halcot config v1.4.0-devset")},
+        {"main-error", UpdateState::error(failure), failure,
+         QStringList(log) << "ERROR: " + failure},
+        {"main-complete", UpdateState::flashComplete(), "Firmware update complete.",
+         QStringList(log) << "Firmware update complete."},
+        {"main-refused-firmware", UpdateState::ready(), "Device connected", QStringList(refused)},
+    };
+    for (const auto& [name, state, status, lines] : screens) {
+        view->showState(state);
+        view->showStatusMessage(status);
+        view->showLog(lines);
+        save(window, name);
+    }
+    // About 60 characters a line: the 56-character sample line must not wrap.
+    QVERIFY(view->logPanel()->view()->viewport()->width() >=
+            QFontMetrics(Fonts::monospace(11)).horizontalAdvance(sample));
 
     for (int i = 0; i < 500; ++i) {
         view->showLog(log << QStringLiteral("FLASH_DATA block %1 of 500").arg(i + 1));
     }
     save(window, QStringLiteral("main-long-log"));
-}
-
-void ScreensTest::refusedFirmwareAndQuitQuestion() {
-    QTemporaryDir files;
-    QFile notes(files.filePath(QStringLiteral("notes.bin")));
-    QVERIFY(notes.open(QIODevice::WriteOnly) && notes.write("{\"name\": \"plotter\"}\n") > 0);
-    notes.close();
-    AppDelegate delegate(std::make_unique<UpdateController>(ResourceBundle(files.path()), noDevice),
-                         AppDelegate::Options());
-    delegate.applicationDidFinishLaunching();
-    QMainWindow* window = delegate.window();
-    QVERIFY(QTest::qWaitForWindowExposed(window));
-    delegate.updateController().chooseCustomFirmware(notes.fileName());
-    const auto* view = qobject_cast<UpdaterView*>(window->centralWidget());
-    QTRY_COMPARE(view->logPanel()->view()->lines().size(), 1);
-    save(window, QStringLiteral("main-refused-firmware"));
 
     const auto question = quitDuringJobQuestion(window);
     question->show();

@@ -1,22 +1,33 @@
 #pragma once
 
+#include <QAction>
 #include <QApplication>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTest>
 #include <QTimer>
 #include <cstdint>
 
-#include "app/UpdateState.h"
-
-/// Lets QCOMPARE print states.
-inline char* toString(const UpdateState& state) {
-    return QTest::toString(state.toString());
-}
+#include "ControllerHarness.h"
 
 /// A device detection that never finds the plotter.
 inline char* noDevice(uint16_t, uint16_t) {
     return nullptr;
+}
+
+/// The item titled `title` in `window`'s menu bar; in the menu titled `menu` when
+/// one is named, since a product's name stands in two submenus.
+inline QAction* menuItem(const QMainWindow* window, const QString& title,
+                         const QString& menu = {}) {
+    for (QAction* item : window->menuBar()->findChildren<QAction*>()) {
+        const auto* owner = qobject_cast<const QMenu*>(item->parent());
+        if (item->text() == title && (menu.isEmpty() || (owner && owner->title() == menu))) {
+            return item;
+        }
+    }
+    qFatal("no menu item %s", qPrintable(title));
 }
 
 /// Answers the next modal message box with the button titled `answer`, or with
@@ -37,17 +48,16 @@ inline void answerNextMessageBox(const QString& answer, QStringList* asked, int 
             return;
         }
         QStringList seen{box->text()};
+        QAbstractButton* chosen = nullptr;
         for (QAbstractButton* button : box->buttons()) {
             seen.append(button->text());
+            chosen = button->text() == answer ? button : chosen;
         }
-        seen.append(QStringLiteral("default ") + box->defaultButton()->text());
-        asked->append(seen.join(QLatin1Char('|')));
-        for (QAbstractButton* button : box->buttons()) {
-            if (button->text() == answer) {
-                button->click();
-                return;
-            }
+        asked->append((seen << "default " + box->defaultButton()->text()).join('|'));
+        if (chosen != nullptr) {
+            chosen->click();
+        } else {
+            QTest::keyClick(box, Qt::Key_Escape);
         }
-        QTest::keyClick(box, Qt::Key_Escape);
     });
 }
