@@ -77,63 +77,45 @@ TEST_F(FlashJobTest, AppOnlyJobWritesVerifiesResetsAndConfirmsTheVersion) {
 // Progress is single precision from region sizes: computed in double precision, in
 // the job or in the loader, the last two plans would end their regions elsewhere.
 TEST_F(FlashJobTest, WritesEachPlanWithItsProgress) {
-    const struct {
-        bool full;
-        bool bootAppPointer;
-        size_t bootAppLen;
-        std::string plan;  // the plan's lines, each ending in '|'
-        std::vector<float> progress;
-    } cases[] = {
-        {false,
-         true,
-         8192,
-         "Flash plan: 2 entries (app only)|  0x0E000: 8192 bytes|  0x10000: 40000 bytes|",
-         {0.244090304f, 0.44606021f, 0.648030102f, 0.850000024f}},
-        {false,
-         true,
-         0,
-         "Flash plan: 1 entries (app only)|  0x10000: 40000 bytes|",
-         {0.363333344f, 0.606666684f, 0.850000024f}},
-        {false,
-         false,
-         8192,
-         "Flash plan: 1 entries (app only)|  0x10000: 40000 bytes|",
-         {0.363333344f, 0.606666684f, 0.850000024f}},
-        {true,
-         false,
-         0,
-         "Flash plan: 3 entries (FULL)|  0x00000: 20001 bytes|  0x08000: 3072 bytes|  0x10000: "
-         "40000 bytes|",
-         {0.235744685f, 0.351489395f, 0.3870444f, 0.541362941f, 0.695681453f, 0.850000024f}},
-        {true,
-         true,
-         8192,
-         "Flash plan: 4 entries (FULL)|  0x00000: 20001 bytes|  0x08000: 3072 bytes|  0x0E000: "
-         "8192 bytes|  0x10000: 40000 bytes|",
-         {0.222439706f, 0.324879408f, 0.356347322f, 0.440261692f, 0.576841176f, 0.71342063f,
-          0.850000024f}},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.plan);
+    // `plan` holds the "Flash plan: " and "  0x" lines without those prefixes.
+    const auto expectPlan = [&](bool full, const uint8_t* bootAppData, size_t bootAppLen,
+                                const std::string& plan, const std::vector<float>& progress) {
+        SCOPED_TRACE(plan);
         ASSERT_EQ(run([&](auto&, auto& r) {
-                      r.fullFlash = c.full;
-                      r.bootApp = c.bootAppPointer ? bootApp.data() : nullptr;
-                      r.bootAppLen = c.bootAppLen;
+                      r.fullFlash = full;
+                      r.bootApp = bootAppData;
+                      r.bootAppLen = bootAppLen;
                   }),
                   0u);
-        std::string plan;
-        for (const auto& line : logLines) {
-            plan += line.starts_with("Flash plan") || line.starts_with("  0x") ? line + "|" : "";
-        }
-        EXPECT_EQ(plan, c.plan);
-        EXPECT_TRUE(holds(0x10000, firmware));
-        EXPECT_TRUE(!c.full || (holds(0x0, bootloader) && holds(0x8000, partitions)));
+        std::string written;
         std::vector<float> fractions;
+        for (const auto& line : logLines) {
+            written += line.starts_with("Flash plan: ") ? line.substr(12) + "|" : "";
+            written += line.starts_with("  0x") ? line.substr(4) + "|" : "";
+        }
         for (const auto& [fraction, stage] : progressCalls) {
             fractions.push_back(fraction);
         }
-        EXPECT_EQ(fractions, c.progress);
-    }
+        EXPECT_EQ(written, plan);
+        EXPECT_EQ(fractions, progress);
+        EXPECT_TRUE(holds(0x10000, firmware));
+        EXPECT_TRUE(!full || (holds(0x0, bootloader) && holds(0x8000, partitions)));
+    };
+    expectPlan(false, bootApp.data(), 8192,
+               "2 entries (app only)|0E000: 8192 bytes|10000: 40000 bytes|",
+               {0.244090304f, 0.44606021f, 0.648030102f, 0.850000024f});
+    expectPlan(false, bootApp.data(), 0, "1 entries (app only)|10000: 40000 bytes|",
+               {0.363333344f, 0.606666684f, 0.850000024f});
+    expectPlan(false, nullptr, 8192, "1 entries (app only)|10000: 40000 bytes|",
+               {0.363333344f, 0.606666684f, 0.850000024f});
+    expectPlan(true, nullptr, 0,
+               "3 entries (FULL)|00000: 20001 bytes|08000: 3072 bytes|10000: 40000 bytes|",
+               {0.235744685f, 0.351489395f, 0.3870444f, 0.541362941f, 0.695681453f, 0.850000024f});
+    expectPlan(true, bootApp.data(), 8192,
+               "4 entries (FULL)|00000: 20001 bytes|08000: 3072 bytes|0E000: 8192 bytes|"
+               "10000: 40000 bytes|",
+               {0.222439706f, 0.324879408f, 0.356347322f, 0.440261692f, 0.576841176f, 0.71342063f,
+                0.850000024f});
 }
 
 TEST_F(FlashJobTest, EraseAllErasesBeforeThePlanEvenWithoutProgress) {

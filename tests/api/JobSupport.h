@@ -7,35 +7,18 @@
 
 #include "serial/Clock.h"
 #include "sim/Plotter.h"
+#include "tests/support/Records.h"
 #include "tests/support/TestImages.h"
 #include "tests/support/VirtualTime.h"
 
-/// Callback recorders, expected log lines and a watched simulated plotter for the
-/// job tests. The library's callbacks are plain function pointers, so what they
-/// receive is kept in globals.
+/// Expected log lines, images and a watched simulated plotter for the job tests.
 namespace jobtest {
 
+using namespace records;
 using testimg::pattern;
 using testimg::stubImage;
 using Lines = std::vector<std::string>;
 using Bytes = std::vector<uint8_t>;
-
-inline Lines logLines;
-inline std::vector<int64_t> logTimesNs;  // clock reading at each line
-inline std::vector<std::pair<float, std::string>> progressCalls;
-
-inline void recordLog(const char* line) {
-    logLines.emplace_back(line);
-    logTimesNs.push_back(mono::nowNs());
-}
-inline void recordProgress(float fraction, const char* stage) {
-    progressCalls.emplace_back(fraction, stage);
-}
-inline void clearRecords() {
-    logLines.clear();
-    logTimesNs.clear();
-    progressCalls.clear();
-}
 
 /// A partition table described entry by entry: 'A' an application at 0x10000, 'a' one
 /// at 0x20000, 'D' data at 0x10000, 'd' data at 0x9000, 'x' an application at 0x10000

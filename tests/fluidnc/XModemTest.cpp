@@ -8,6 +8,7 @@
 
 #include "fluidnc/XModem.h"
 #include "serial/Clock.h"
+#include "tests/support/Records.h"
 #include "tests/support/TestImages.h"
 #include "tests/support/VirtualTime.h"
 
@@ -19,11 +20,7 @@ constexpr uint8_t NAK = 0x15;
 constexpr uint8_t CAN = 0x18;
 const std::string kCommand = "$Xmodem/Receive=config.yaml\n";
 
-std::vector<std::pair<float, std::string>> progressCalls;
-
-void recordProgress(float fraction, const char* stage) {
-    progressCalls.emplace_back(fraction, stage);
-}
+using namespace records;
 
 // An XModem receiver behind the console: it asks for the transfer `firstMs` after
 // the command and again every second, and answers each block as scripted (ACK by
@@ -82,7 +79,7 @@ using testimg::pattern;
 
 class XModemTest : public ::testing::Test {
   protected:
-    void SetUp() override { progressCalls.clear(); }
+    void SetUp() override { clearRecords(); }
 
     bool upload(const std::vector<uint8_t>& file) {
         receiver.attach(port);
@@ -101,53 +98,40 @@ class XModemTest : public ::testing::Test {
     SerialPort port;
 };
 
-TEST(Crc16, MatchesTheXModemCheckValue) {
-    const std::string digits = "123456789";
-    EXPECT_EQ(fluidnc::crc16(reinterpret_cast<const uint8_t*>(digits.data()), 9), 0x31C3);
-}
-
-struct ModeCase {
-    const char* name;
-    uint8_t handshake;
-    std::vector<uint8_t> trailers[2];  // of the two blocks; together they use every CRC table entry
-};
-
-void PrintTo(const ModeCase& c, std::ostream* os) {
-    *os << c.name;
-}
-
-class XModemModeTest : public XModemTest, public ::testing::WithParamInterface<ModeCase> {};
-
-TEST_P(XModemModeTest, SendsPaddedBlocksWithTheCheckTheReceiverAskedFor) {
-    receiver.handshake = GetParam().handshake;
+// Two blocks whose bytes together use every entry of the CRC table.
+TEST_F(XModemTest, SendsPaddedBlocksWithTheCheckTheReceiverAskedFor) {
+    const struct {
+        const char* name;
+        uint8_t handshake;
+        std::vector<uint8_t> trailers[2];
+    } modes[] = {{"CRC", 'C', {{0x86, 0x19}, {0x50, 0x96}}}, {"checksum", NAK, {{0x09}, {0xE8}}}};
     const auto file = pattern(1025);
-    ASSERT_TRUE(upload(file));
-
-    ASSERT_EQ(receiver.blocks.size(), 2u);
-    std::vector<uint8_t> received;
-    for (size_t i = 0; i < 2; ++i) {
-        const auto& block = receiver.blocks[i];
-        const auto& trailer = GetParam().trailers[i];
-        ASSERT_EQ(block.size(), 1027 + trailer.size());
-        EXPECT_EQ(block[0], 0x02);
-        EXPECT_EQ(block[1], i + 1);
-        EXPECT_EQ(block[2], 255 - (i + 1));
-        EXPECT_EQ(std::vector<uint8_t>(block.begin() + 1027, block.end()), trailer);
-        received.insert(received.end(), block.begin() + 3, block.begin() + 1027);
-    }
     auto expected = file;
     expected.resize(2048, 0x1A);
-    EXPECT_EQ(received, expected);
-    EXPECT_EQ(receiver.eots, 1);
-    const decltype(progressCalls) fractions = {{0.999024391f, "Uploading config file..."},
-                                               {1.0f, "Uploading config file..."}};
-    EXPECT_EQ(progressCalls, fractions);
+    for (const auto& mode : modes) {
+        SCOPED_TRACE(mode.name);
+        receiver = FakeReceiver{};
+        receiver.handshake = mode.handshake;
+        clearRecords();
+        ASSERT_TRUE(upload(file));
+        ASSERT_EQ(receiver.blocks.size(), 2u);
+        std::vector<uint8_t> received;
+        for (uint8_t i = 0; i < 2; ++i) {
+            const auto& block = receiver.blocks[i];
+            ASSERT_EQ(block.size(), 1027 + mode.trailers[i].size());
+            EXPECT_EQ(std::vector<uint8_t>(block.begin(), block.begin() + 3),
+                      (std::vector<uint8_t>{0x02, static_cast<uint8_t>(i + 1),
+                                            static_cast<uint8_t>(254 - i)}));
+            EXPECT_EQ(std::vector<uint8_t>(block.begin() + 1027, block.end()), mode.trailers[i]);
+            received.insert(received.end(), block.begin() + 3, block.begin() + 1027);
+        }
+        EXPECT_EQ(received, expected);
+        EXPECT_EQ(receiver.eots, 1);
+        const decltype(progressCalls) fractions = {{0.999024391f, "Uploading config file..."},
+                                                   {1.0f, "Uploading config file..."}};
+        EXPECT_EQ(progressCalls, fractions);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Modes, XModemModeTest,
-                         ::testing::Values(ModeCase{"Crc", 'C', {{0x86, 0x19}, {0x50, 0x96}}},
-                                           ModeCase{"Checksum", NAK, {{0x09}, {0xE8}}}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 // Past 16 MiB a length has no exact float: single precision reports 1024 / 2^24
 // for the first block where double precision would give 1024 / (2^24 + 1).

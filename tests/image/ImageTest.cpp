@@ -4,6 +4,7 @@
 #include <iterator>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "image/FirmwareCheck.h"
@@ -36,32 +37,27 @@ constexpr uint32_t kDevApplicationPartition = 0x1E0000;
 
 TEST(ImageInspection, ReadsTheDevelopmentSet) {
     const auto firmware = inspect(devImage("firmware.bin"));
-    EXPECT_EQ(firmware.layoutFault, "");
-    EXPECT_EQ(firmware.chipId, 9);
-    EXPECT_EQ(firmware.segments.size(), 4u);
-    EXPECT_TRUE(firmware.checksumMatches);
-    EXPECT_TRUE(firmware.sha256Appended && firmware.sha256Matches);
+    EXPECT_EQ(std::tuple(firmware.layoutFault, firmware.chipId, firmware.segments.size()),
+              std::tuple("", 9, 4u));
+    EXPECT_TRUE(firmware.checksumMatches && firmware.sha256Appended && firmware.sha256Matches &&
+                firmware.developmentMarker);
     ASSERT_TRUE(firmware.app);
-    EXPECT_EQ(firmware.app->version, "0.0.0-devset");
-    EXPECT_EQ(firmware.app->projectName, "teskal-devset");
-    EXPECT_EQ(firmware.app->date + " " + firmware.app->time, "Jan  1 2000 00:00:00");
-    EXPECT_TRUE(firmware.developmentMarker);
-
-    const Bytes tableBytes = devImage("partitions.bin");
-    const auto table = image::inspectPartitionTable(tableBytes.data(), tableBytes.size());
-    ASSERT_EQ(table.entries.size(), 5u);
-    EXPECT_EQ(table.entries[4].label, "spiffs");
-    EXPECT_EQ(table.md5, image::PartitionTableReport::Md5::matches);
-    EXPECT_EQ(table.applicationSize, kDevApplicationPartition);
+    const auto& app = *firmware.app;
+    EXPECT_EQ(app.version + "|" + app.projectName + "|" + app.date + " " + app.time,
+              "0.0.0-devset|teskal-devset|Jan  1 2000 00:00:00");
 
     // A changed label no longer matches the MD5 entry; without app0 there is no limit.
-    const Bytes renamed = changed(tableBytes, 2 * 32 + 12, 'b');
-    const auto damaged = image::inspectPartitionTable(renamed.data(), renamed.size());
-    EXPECT_EQ(damaged.md5, image::PartitionTableReport::Md5::differs);
-    EXPECT_EQ(damaged.applicationSize, kDevApplicationPartition);
-    const auto twoEntries = image::inspectPartitionTable(tableBytes.data(), 64);
-    EXPECT_EQ(twoEntries.md5, image::PartitionTableReport::Md5::absent);
-    EXPECT_FALSE(twoEntries.applicationSize);
+    using Md5 = image::PartitionTableReport::Md5;
+    const Bytes table = devImage("partitions.bin");
+    const auto inspectTable = [](const Bytes& bytes, size_t size) {
+        const auto report = image::inspectPartitionTable(bytes.data(), size);
+        return std::tuple(report.entries.size(), report.md5, report.applicationSize);
+    };
+    EXPECT_EQ(inspectTable(table, table.size()),
+              std::tuple(5u, Md5::matches, kDevApplicationPartition));
+    EXPECT_EQ(inspectTable(changed(table, 2 * 32 + 12, 'b'), table.size()),
+              std::tuple(5u, Md5::differs, kDevApplicationPartition));
+    EXPECT_EQ(inspectTable(table, 64), std::tuple(2u, Md5::absent, std::nullopt));
 }
 
 TEST(ImageInspection, RefusesWhatMustNotBeWrittenAsFirmware) {

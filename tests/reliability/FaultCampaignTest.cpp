@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <bit>
 #include <functional>
-#include <map>
 #include <optional>
 #include <random>
 #include <set>
@@ -14,7 +13,9 @@
 #include "esp/Packet.h"
 #include "serial/Clock.h"
 #include "sim/Plotter.h"
+#include "tests/support/Records.h"
 #include "tests/support/TestImages.h"
+#include "tests/support/VirtualTime.h"
 
 // Random faults against the simulated plotter, over loopback in virtual time. Every
 // run draws its faults from a seed derived from its index; a failure names the seed,
@@ -24,6 +25,7 @@ namespace {
 using Rng = std::mt19937;
 using Fault = std::function<std::string(sim::Config&, Rng&)>;
 using C = sim::Config;
+using namespace records;
 
 int pick(Rng& rng, int low, int high) {
     return std::uniform_int_distribution<int>(low, high)(rng);
@@ -41,17 +43,13 @@ std::string responseFault(C& config, Rng& rng) {
     sim::ResponseFault fault;
     fault.kind = static_cast<sim::FaultKind>(pick(rng, 0, 6));
     fault.errorCode = static_cast<uint8_t>(pick(rng, 0, 255));
-    std::string where = "any";
-    if (chance(rng, 25)) {
-        fault.occurrence = pick(rng, 0, 30);
-    } else {
+    if (!chance(rng, 25)) {
         fault.op = kOps[pick(rng, 0, std::size(kOps) - 1)];
-        fault.occurrence = pick(rng, 0, *fault.op == esp::FLASH_DATA ? 6 : 2);
-        where = esp::cmdName(*fault.op);
     }
+    fault.occurrence = pick(rng, 0, !fault.op ? 30 : fault.op == esp::FLASH_DATA ? 6 : 2);
     config.responseFaults.push_back(fault);
-    return "fault" + std::to_string(static_cast<int>(fault.kind)) + "@" + where + "#" +
-           std::to_string(fault.occurrence);
+    return "fault" + std::to_string(static_cast<int>(fault.kind)) + "@" +
+           (fault.op ? esp::cmdName(*fault.op) : "any") + "#" + std::to_string(fault.occurrence);
 }
 
 /// Sets `field` to a value drawn from [low, high].
@@ -64,25 +62,22 @@ Fault knob(T C::*field, const char* name, int low, int high) {
     };
 }
 
-Fault flag(bool C::*field, bool value, const char* name) {
-    return [=](C& c, Rng&) { return (c.*field = value, std::string(name)); };
+/// Sets `field` to one of `values`.
+template <typename T>
+Fault oneOf(T C::*field, const char* name, std::vector<T> values) {
+    return [=](C& c, Rng& r) {
+        c.*field = values[static_cast<size_t>(pick(r, 0, static_cast<int>(values.size()) - 1))];
+        return std::string(name) + "=" + ::testing::PrintToString(c.*field);
+    };
 }
 
-std::string chipIdFault(C& c, Rng& r) {
-    static constexpr uint32_t kIds[] = {0, 2, 5, 0x1234};
-    c.chipId = kIds[pick(r, 0, 3)];
-    return "chipId=" + std::to_string(c.chipId);
+Fault flag(bool C::*field, bool value, const char* name) {
+    return [=](C& c, Rng&) { return (c.*field = value, std::string(name)); };
 }
 
 std::string fuseFault(C& c, Rng& r) {
     c.securityFuses = uint32_t{1} << pick(r, 0, 31);
     return "fuseBit=" + std::to_string(std::countr_zero(c.securityFuses));
-}
-
-std::string reportFault(C& c, Rng& r) {
-    static const char* kReports[] = {"", "2.10.6", "v2.10.6:x", "[VER:nested"};
-    c.versionReport = kReports[pick(r, 0, 3)];
-    return "report=" + c.versionReport;
 }
 
 std::string junkFault(C& c, Rng& r) {
@@ -100,30 +95,31 @@ std::string nakFault(C& c, Rng& r) {
 }
 
 // Faults of the loader side and of the console the job talks to after the reset.
-const std::vector<Fault> kFlashFaults = {responseFault,
-                                         responseFault,
-                                         responseFault,
-                                         flag(&C::silent, true, "silent"),
-                                         knob(&C::syncFromAttempt, "syncFrom", 2, 32),
-                                         knob(&C::syncReplies, "syncReplies", 0, 12),
-                                         flag(&C::greeting, false, "noGreeting"),
-                                         knob(&C::wrongMd5At, "wrongMd5At", 0, 3),
-                                         knob(&C::badFlashDataAt, "badFlashDataAt", 0, 6),
-                                         chipIdFault,
-                                         fuseFault,
-                                         knob(&C::goneAfterFlashData, "goneAfterFlashData", 0, 6),
-                                         knob(&C::goneAtMd5, "goneAtMd5", 0, 3),
-                                         knob(&C::hangAfterFlashData, "hangAfterFlashData", 1, 6),
-                                         flag(&C::silentConsole, true, "silentConsole"),
-                                         flag(&C::okBeforeVersion, true, "okBeforeVersion"),
-                                         reportFault,
-                                         knob(&C::frameGapMs, "gap", 0, 80),
-                                         knob(&C::flashBeginDelayMs, "beginDelay", 0, 12000),
-                                         knob(&C::flashBlockDelayMs, "blockDelay", 0, 11000),
-                                         knob(&C::eraseDelayMs, "eraseDelay", 0, 70000),
-                                         knob(&C::md5DelayMs, "md5Delay", 0, 11000),
-                                         knob(&C::bootMs, "bootMs", 0, 6000),
-                                         knob(&C::consoleDelayMs, "consoleDelay", 0, 3000)};
+const std::vector<Fault> kFlashFaults = {
+    responseFault,
+    responseFault,
+    responseFault,
+    flag(&C::silent, true, "silent"),
+    knob(&C::syncFromAttempt, "syncFrom", 2, 32),
+    knob(&C::syncReplies, "syncReplies", 0, 12),
+    flag(&C::greeting, false, "noGreeting"),
+    knob(&C::wrongMd5At, "wrongMd5At", 0, 3),
+    knob(&C::badFlashDataAt, "badFlashDataAt", 0, 6),
+    oneOf(&C::chipId, "chipId", {0, 2, 5, 0x1234}),
+    fuseFault,
+    knob(&C::goneAfterFlashData, "goneAfterFlashData", 0, 6),
+    knob(&C::goneAtMd5, "goneAtMd5", 0, 3),
+    knob(&C::hangAfterFlashData, "hangAfterFlashData", 1, 6),
+    flag(&C::silentConsole, true, "silentConsole"),
+    flag(&C::okBeforeVersion, true, "okBeforeVersion"),
+    oneOf(&C::versionReport, "report", {"", "2.10.6", "v2.10.6:x", "[VER:nested"}),
+    knob(&C::frameGapMs, "gap", 0, 80),
+    knob(&C::flashBeginDelayMs, "beginDelay", 0, 12000),
+    knob(&C::flashBlockDelayMs, "blockDelay", 0, 11000),
+    knob(&C::eraseDelayMs, "eraseDelay", 0, 70000),
+    knob(&C::md5DelayMs, "md5Delay", 0, 11000),
+    knob(&C::bootMs, "bootMs", 0, 6000),
+    knob(&C::consoleDelayMs, "consoleDelay", 0, 3000)};
 
 // Faults of the console and its XModem receiver.
 const std::vector<Fault> kUploadFaults = {
@@ -184,31 +180,23 @@ int64_t uploadJobBoundMs(size_t length) {
 
 // The job's last line names the cause of its non-zero code.
 bool explainsFailure(const std::vector<std::string>& lines, unsigned code) {
-    const std::string last = lines.empty() ? "" : lines.back();
-    const std::map<unsigned, std::vector<std::string>> causes = {
-        {3, {"Sync failed after all retries"}},
-        {4, {"Wrong chip!", "ABORTED:"}},
-        {5, {"Stub upload failed"}},
-        {6,
-         {"Flash erase failed", "FLASH_BEGIN FAILED", "SEND FAIL: FLASH_DATA",
-          "NO RESPONSE: FLASH_DATA", "PARSE FAIL: FLASH_DATA", "CMD MISMATCH: sent FLASH_DATA",
-          "ERROR: FLASH_DATA"}},
-        {7, {"VERIFY MISMATCH", "VERIFY: MD5 command failed", "VERIFY: MD5 response too short ("}},
-    };
-    const auto found = causes.find(code);
-    return found != causes.end() &&
-           std::any_of(found->second.begin(), found->second.end(),
-                       [&](const std::string& cause) { return last.starts_with(cause); });
-}
-
-std::vector<std::string> logLines;
-std::vector<std::string> stages;
-
-void recordLog(const char* line) {
-    logLines.emplace_back(line);
-}
-void recordProgress(float, const char* stage) {
-    stages.emplace_back(stage);
+    const std::pair<unsigned, std::string> causes[] = {{3, "Sync failed after all retries"},
+                                                       {4, "Wrong chip!"},
+                                                       {4, "ABORTED:"},
+                                                       {5, "Stub upload failed"},
+                                                       {6, "Flash erase failed"},
+                                                       {6, "FLASH_BEGIN FAILED"},
+                                                       {6, "SEND FAIL: FLASH_DATA"},
+                                                       {6, "NO RESPONSE: FLASH_DATA"},
+                                                       {6, "PARSE FAIL: FLASH_DATA"},
+                                                       {6, "CMD MISMATCH: sent FLASH_DATA"},
+                                                       {6, "ERROR: FLASH_DATA"},
+                                                       {7, "VERIFY MISMATCH"},
+                                                       {7, "VERIFY: MD5 command failed"},
+                                                       {7, "VERIFY: MD5 response too short ("}};
+    return !lines.empty() && std::any_of(std::begin(causes), std::end(causes), [&](const auto& c) {
+        return c.first == code && lines.back().starts_with(c.second);
+    });
 }
 
 /// Runs `runs` seeds from `seedBase` through `run`, which checks one run and returns
@@ -228,11 +216,6 @@ void campaign(int runs, uint32_t seedBase, const std::set<unsigned>& codes,
         failedRuns += failures() > before ? 1 : 0;
     }
     EXPECT_EQ(outcomes, codes) << "results the runs ended with";
-}
-
-// Virtual milliseconds since `startNs`.
-int64_t msSince(int64_t startNs) {
-    return (mono::nowNs() - startNs) / 1'000'000;
 }
 
 TEST(FaultCampaign, FlashingJobKeepsItsPromisesUnderRandomFaults) {
@@ -258,12 +241,12 @@ TEST(FaultCampaign, FlashingJobKeepsItsPromisesUnderRandomFaults) {
         sim::Plotter plotter(config);
         SerialPort port;
         plotter.connectLoopback(port);
-        logLines.clear();
+        clearRecords();
         const int64_t startNs = mono::nowNs();
         const esp_error_t code = esp::runFlashJob(port, request, recordProgress, recordLog);
 
         EXPECT_TRUE(code == 0 || (code >= 3 && code <= 7)) << "result " << code;
-        EXPECT_LE(msSince(startNs), flashJobBoundMs(request)) << "virtual ms";
+        EXPECT_LE(virtualMsSince(startNs), flashJobBoundMs(request)) << "virtual ms";
         const auto holds = [&](uint32_t address, const std::vector<uint8_t>& bytes) {
             return std::equal(bytes.begin(), bytes.end(), plotter.flash().begin() + address);
         };
@@ -297,14 +280,14 @@ TEST(FaultCampaign, ConfigurationUploadKeepsItsPromisesUnderRandomFaults) {
         sim::Plotter plotter(config);
         SerialPort port;
         plotter.connectLoopback(port);
-        stages.clear();
+        clearRecords();
         const int64_t startNs = mono::nowNs();
         const esp_error_t code =
             esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress);
 
         EXPECT_TRUE(code == 0 || code == 8) << "result " << code;
-        EXPECT_LE(msSince(startNs), uploadJobBoundMs(file.size())) << "virtual ms";
-        for (const auto& stage : stages) {
+        EXPECT_LE(virtualMsSince(startNs), uploadJobBoundMs(file.size())) << "virtual ms";
+        for (const auto& [fraction, stage] : progressCalls) {
             EXPECT_TRUE(stage == "Uploading config file..." ||
                         stage == "XModem: no handshake received (30s timeout)")
                 << "undefined stage: \"" << stage << "\"";

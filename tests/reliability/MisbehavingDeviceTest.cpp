@@ -20,6 +20,7 @@
 #include "api/esp_flasher.h"
 #include "sim/PtyPlotter.h"
 #include "tests/support/Descriptors.h"
+#include "tests/support/Records.h"
 #include "tests/support/TestImages.h"
 
 // Plotters that do what no healthy one does, and other programs on the plotter's
@@ -28,17 +29,12 @@ namespace {
 
 using namespace std::chrono_literals;
 using namespace fdcheck;
+using namespace records;
 using Clock = std::chrono::steady_clock;
 using Lines = std::vector<std::string>;
 
 const std::vector<uint8_t> firmware = testimg::pattern(40000, 3);
 const std::vector<uint8_t> stub = testimg::stubImage();
-
-Lines logLines;
-
-void recordLog(const char* line) {
-    logLines.emplace_back(line);
-}
 
 void logToStderr(const char* line) {
     std::fprintf(stderr, "%s\n", line);

@@ -90,16 +90,6 @@ double msSince(Clock::time_point start) {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-// What the device sent, gathered over a few reads.
-std::string readUpTo(SerialPort& port, size_t size) {
-    std::string got;
-    char chunk[256];
-    for (int i = 0; i < 5 && got.size() < size; ++i) {
-        got.append(chunk, port.read(reinterpret_cast<uint8_t*>(chunk), sizeof chunk, 200));
-    }
-    return got;
-}
-
 class PosixPort : public ::testing::Test {
   protected:
     void SetUp() override { ASSERT_TRUE(port.open(pty.path)); }
@@ -133,7 +123,8 @@ TEST(PosixPortOpen, MakesATerminalInItsDefaultDisciplineRaw) {
     // Return, interrupt, erase, end of file: data like any other byte, none echoed.
     const std::string control = "\r\x03\x7f\x04\n";
     pty.send(control);
-    EXPECT_EQ(readUpTo(port, control.size()), control);
+    uint8_t got[16];
+    EXPECT_EQ(std::string(got, got + port.read(got, sizeof got, 1000)), control);
     EXPECT_TRUE(port.write(Bytes{'o', 'k', '\n'}));
     EXPECT_EQ(pty.received(3), "ok\n");
 }
