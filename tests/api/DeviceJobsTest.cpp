@@ -33,17 +33,14 @@ class DeviceJobsTest : public ::testing::Test {
 };
 
 TEST_F(DeviceJobsTest, UploadFailuresReturn8WithoutRestart) {
-    const auto& unanswered = device([](auto& d) { d.plotter.config().xmodemHandshake = false; });
     const auto file = pattern(5000, 5);
-    EXPECT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress), 8u);
-    const decltype(progressCalls) report = {{0.0f, "XModem: no handshake received (30s timeout)"}};
-    EXPECT_EQ(progressCalls, report);
-
-    const auto& cancelling = device([](auto& d) { d.plotter.config().xmodemCanBlock = 2; });
-    EXPECT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), nullptr), 8u);
-    for (const auto* watched : {&unanswered, &cancelling}) {
-        EXPECT_FALSE(watched->plotter.storedConfig().has_value());
-        EXPECT_NE(watched->plotter.transcript().back(), "$Bye");
+    const Prepare unanswered = [](auto& d) { d.plotter.config().xmodemHandshake = false; };
+    const Prepare cancelling = [](auto& d) { d.plotter.config().xmodemCanBlock = 2; };
+    for (const Prepare& fault : {unanswered, cancelling}) {
+        const auto& watched = device(fault);
+        EXPECT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), nullptr), 8u);
+        EXPECT_FALSE(watched.plotter.storedConfig().has_value());
+        EXPECT_NE(watched.plotter.transcript().back(), "$Bye");
     }
 }
 
@@ -51,41 +48,34 @@ TEST_F(DeviceJobsTest, UploadFailuresReturn8WithoutRestart) {
 // settle 500 ms, drain 50 ms, "$I" (2 s to answer), "$Xmodem...", a drain of 500 ms
 // that swallows the receiver's first request (200 ms after the command), its next
 // one a second later, the blocks, 5 s for an "ok" that never comes, "$Bye", 500 ms.
+// Stale "ok" lines, more than two of the console's bounded drains (64 KiB each)
+// can swallow, must not end the query or the wait for "ok".
 TEST_F(DeviceJobsTest, UploadKeepsItsWaitsAndDropsStaleConsoleOutput) {
     const std::string command = "$Xmodem/Receive=config.yaml";
     using Writes = std::vector<WatchedPlotter::Write>;
     const Writes answered = {
         {550, "$I"}, {550, command}, {1750, "block 1"}, {1750, "EOT"}, {6750, "$Bye"}};
-    // More than two of the console's bounded drains (64 KiB each) can swallow.
-    Bytes chatter;
+    const Writes unanswered = {
+        {550, "$I"}, {2550, command}, {3750, "block 1"}, {3750, "EOT"}, {8750, "$Bye"}};
+    const Writes empty = {{550, "$I"}, {550, command}, {1750, "EOT"}, {6750, "$Bye"}};
+    Bytes oks;
     for (int i = 0; i < 64 * 1024; ++i) {
-        chatter.insert(chatter.end(), {'o', 'k', '\r', '\n'});
+        oks.insert(oks.end(), {'o', 'k', '\r', '\n'});
     }
     const auto file = pattern(700, 5);
     const struct {
         const char* name;
-        Prepare setup;
+        bool answerVersion;
+        Bytes afterVersion;
         Bytes stale;
         Bytes file;
         Writes writes;
     } cases[] = {
-        {"version answered", [](auto&) {}, {}, file, answered},
-        {"version unanswered",
-         [](auto& d) { d.answerVersion = false; },
-         {},
-         file,
-         {{550, "$I"}, {2550, command}, {3750, "block 1"}, {3750, "EOT"}, {8750, "$Bye"}}},
-        {"stale output before the query", [](auto&) {}, chatter, file, answered},
-        {"stale output after the answer",
-         [&](auto& d) { d.afterVersion = chatter; },
-         {},
-         file,
-         answered},
-        {"empty file",
-         [](auto&) {},
-         {},
-         {},
-         {{550, "$I"}, {550, command}, {1750, "EOT"}, {6750, "$Bye"}}},
+        {"version answered", true, {}, {}, file, answered},
+        {"version unanswered", false, {}, {}, file, unanswered},
+        {"stale output before the query", true, {}, oks, file, answered},
+        {"stale output after the answer", true, oks, {}, file, answered},
+        {"empty file", true, {}, {}, {}, empty},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
@@ -93,7 +83,8 @@ TEST_F(DeviceJobsTest, UploadKeepsItsWaitsAndDropsStaleConsoleOutput) {
             [&](WatchedPlotter& d) {
                 d.plotter.config().handshakeFirstMs = 200;
                 d.quietAfterUpload = true;
-                c.setup(d);
+                d.answerVersion = c.answerVersion;
+                d.afterVersion = c.afterVersion;
             },
             c.stale);
         clearRecords();

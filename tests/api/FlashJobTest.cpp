@@ -61,13 +61,20 @@ TEST_F(FlashJobTest, AppOnlyJobWritesVerifiesResetsAndConfirmsTheVersion) {
               }),
               0u);
     const std::string md5 = "900150983cd24fb0d6963f7d28e17f72";
-    EXPECT_EQ(logLines, concat({preambleLines(),
-                                {"Flash plan: 1 entries (app only)", "  0x10000: 3 bytes",
-                                 "FLASH_BEGIN addr=0x00010000 size=3 blocks=1 blockSize=16384",
-                                 "FLASH_BEGIN OK (erase complete)", "VERIFY addr=0x00010000 size=3",
-                                 "VERIFY local_md5=" + md5, "VERIFY flash_md5=" + md5, "VERIFY OK",
-                                 "FLASH_END OK", "Verifying firmware version...",
-                                 "Device running firmware v2.10.6 (sim)"}}));
+    EXPECT_EQ(
+        logLines,
+        concat(
+            {{"Entering bootloader...", "Syncing...", "Sync OK", "Chip ID: 0x9", "Chip: ESP32-S3",
+              "Security fuses: 0x00000000",
+              "Security check OK - no secure boot or flash encryption",
+              "Uploading flash stub (140 bytes)...",
+              "Stub: text=100 @ 0x40380000 data=20 @ 0x3fc90000 entry=0x40380004", "Stub running",
+              "Attaching SPI flash...", "SPI_ATTACH (default pins)", "SPI_ATTACH OK"},
+             {"Flash plan: 1 entries (app only)", "  0x10000: 3 bytes",
+              "FLASH_BEGIN addr=0x00010000 size=3 blocks=1 blockSize=16384",
+              "FLASH_BEGIN OK (erase complete)", "VERIFY addr=0x00010000 size=3",
+              "VERIFY local_md5=" + md5, "VERIFY flash_md5=" + md5, "VERIFY OK", "FLASH_END OK",
+              "Verifying firmware version...", "Device running firmware v2.10.6 (sim)"}}));
     EXPECT_TRUE(holds(0x10000, abc));
     using Line = SerialPort::Line;
     const std::vector<std::pair<Line, bool>> reset = {{Line::RTS, true}, {Line::RTS, false}};

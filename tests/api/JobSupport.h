@@ -49,24 +49,6 @@ inline Lines concat(std::initializer_list<Lines> parts) {
     return all;
 }
 
-/// The lines from the start of a job up to a running, attached stub, for a healthy
-/// chip and the default `stubImage`.
-inline Lines preambleLines() {
-    return {"Entering bootloader...",
-            "Syncing...",
-            "Sync OK",
-            "Chip ID: 0x9",
-            "Chip: ESP32-S3",
-            "Security fuses: 0x00000000",
-            "Security check OK - no secure boot or flash encryption",
-            "Uploading flash stub (140 bytes)...",
-            "Stub: text=100 @ 0x40380000 data=20 @ 0x3fc90000 entry=0x40380004",
-            "Stub running",
-            "Attaching SPI flash...",
-            "SPI_ATTACH (default pins)",
-            "SPI_ATTACH OK"};
-}
-
 /// What a host write was: a console line without its line feed, "frame" for a SLIP
 /// frame, "block N" for an XModem block, "EOT".
 inline std::string describe(const uint8_t* data, size_t len) {

@@ -94,51 +94,41 @@ std::string nakFault(C& c, Rng& r) {
     return "nakBlock=" + std::to_string(*c.xmodemNakBlock) + "x" + std::to_string(c.xmodemNakTimes);
 }
 
+template <typename... Draw>
+std::vector<Fault> menu(Draw... draws) {
+    return {Fault(draws)...};
+}
+
 // Faults of the loader side and of the console the job talks to after the reset.
-const std::vector<Fault> kFlashFaults = {
-    responseFault,
-    responseFault,
-    responseFault,
-    flag(&C::silent, true, "silent"),
-    knob(&C::syncFromAttempt, "syncFrom", 2, 32),
-    knob(&C::syncReplies, "syncReplies", 0, 12),
-    flag(&C::greeting, false, "noGreeting"),
-    knob(&C::wrongMd5At, "wrongMd5At", 0, 3),
-    knob(&C::badFlashDataAt, "badFlashDataAt", 0, 6),
-    oneOf(&C::chipId, "chipId", {0, 2, 5, 0x1234}),
-    fuseFault,
-    knob(&C::goneAfterFlashData, "goneAfterFlashData", 0, 6),
-    knob(&C::goneAtMd5, "goneAtMd5", 0, 3),
-    knob(&C::hangAfterFlashData, "hangAfterFlashData", 1, 6),
-    flag(&C::silentConsole, true, "silentConsole"),
-    flag(&C::okBeforeVersion, true, "okBeforeVersion"),
-    oneOf(&C::versionReport, "report", {"", "2.10.6", "v2.10.6:x", "[VER:nested"}),
-    knob(&C::frameGapMs, "gap", 0, 80),
-    knob(&C::flashBeginDelayMs, "beginDelay", 0, 12000),
-    knob(&C::flashBlockDelayMs, "blockDelay", 0, 11000),
-    knob(&C::eraseDelayMs, "eraseDelay", 0, 70000),
-    knob(&C::md5DelayMs, "md5Delay", 0, 11000),
-    knob(&C::bootMs, "bootMs", 0, 6000),
-    knob(&C::consoleDelayMs, "consoleDelay", 0, 3000)};
+const std::vector<Fault> kFlashFaults =
+    menu(responseFault, responseFault, responseFault, flag(&C::silent, true, "silent"),
+         knob(&C::syncFromAttempt, "syncFrom", 2, 32), knob(&C::syncReplies, "syncReplies", 0, 12),
+         flag(&C::greeting, false, "noGreeting"), knob(&C::wrongMd5At, "wrongMd5At", 0, 3),
+         knob(&C::badFlashDataAt, "badFlashDataAt", 0, 6),
+         oneOf(&C::chipId, "chipId", {0, 2, 5, 0x1234}), fuseFault,
+         knob(&C::goneAfterFlashData, "goneAfterFlashData", 0, 6),
+         knob(&C::goneAtMd5, "goneAtMd5", 0, 3),
+         knob(&C::hangAfterFlashData, "hangAfterFlashData", 1, 6),
+         flag(&C::silentConsole, true, "silentConsole"),
+         flag(&C::okBeforeVersion, true, "okBeforeVersion"),
+         oneOf(&C::versionReport, "report", {"", "2.10.6", "v2.10.6:x", "[VER:nested"}),
+         knob(&C::frameGapMs, "gap", 0, 80), knob(&C::flashBeginDelayMs, "beginDelay", 0, 12000),
+         knob(&C::flashBlockDelayMs, "blockDelay", 0, 11000),
+         knob(&C::eraseDelayMs, "eraseDelay", 0, 70000), knob(&C::md5DelayMs, "md5Delay", 0, 11000),
+         knob(&C::bootMs, "bootMs", 0, 6000), knob(&C::consoleDelayMs, "consoleDelay", 0, 3000));
 
 // Faults of the console and its XModem receiver.
-const std::vector<Fault> kUploadFaults = {
-    flag(&C::xmodemCrc, false, "checksumMode"),
-    flag(&C::xmodemHandshake, false, "noHandshake"),
-    knob(&C::xmodemHandshakeTries, "handshakeTries", 0, 3),
-    junkFault,
-    nakFault,
-    knob(&C::xmodemCanBlock, "canBlock", 1, 5),
-    flag(&C::xmodemAckEot, false, "eotUnanswered"),
+const std::vector<Fault> kUploadFaults = menu(
+    flag(&C::xmodemCrc, false, "checksumMode"), flag(&C::xmodemHandshake, false, "noHandshake"),
+    knob(&C::xmodemHandshakeTries, "handshakeTries", 0, 3), junkFault, nakFault,
+    knob(&C::xmodemCanBlock, "canBlock", 1, 5), flag(&C::xmodemAckEot, false, "eotUnanswered"),
     knob(&C::goneAfterXModemBlocks, "goneAfterBlocks", 0, 5),
-    flag(&C::silentConsole, true, "silentConsole"),
-    flag(&C::silent, true, "silent"),
+    flag(&C::silentConsole, true, "silentConsole"), flag(&C::silent, true, "silent"),
     flag(&C::okBeforeVersion, true, "okBeforeVersion"),
     knob(&C::handshakeFirstMs, "handshakeFirst", 0, 35000),
     knob(&C::handshakeIntervalMs, "handshakeEvery", 100, 3000),
     knob(&C::xmodemIdleTimeoutMs, "idleTimeout", 50, 6000),
-    knob(&C::consoleDelayMs, "consoleDelay", 0, 3000),
-    knob(&C::bootMs, "bootMs", 0, 3000)};
+    knob(&C::consoleDelayMs, "consoleDelay", 0, 3000), knob(&C::bootMs, "bootMs", 0, 3000));
 
 // One run in ten is healthy, so the campaign also shows that a good device passes.
 // A small flash keeps the whole-chip erase and the simulator's set-up cheap.
