@@ -9,6 +9,7 @@
 #include "JobSupport.h"
 #include "api/Jobs.h"
 #include "esp/Packet.h"
+#include "tests/support/RowTrace.h"
 
 namespace {
 
@@ -146,44 +147,36 @@ TEST_F(DeviceJobsTest, DownloadGivesBackTheUploadedBytes) {
 }
 
 TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
-    const struct {
-        const char* name;
-        std::function<void(sim::Config&)> setup;
-        const char* failure;  // null: the file arrives whole
-    } cases[] = {
-        {"corrupted block", [](auto& c) { c.xmodemSendCorruptBlock = 2; }, nullptr},
-        {"dropped block", [](auto& c) { c.xmodemSendDropBlock = 3; }, nullptr},
-        {"repeated block", [](auto& c) { c.xmodemSendRepeatBlock = 1; }, nullptr},
-        {"block never right",
-         [](auto& c) {
-             c.xmodemSendCorruptBlock = 2;
-             c.xmodemSendCorruptTimes = 100;
-         },
-         "XModem download: block 2 failed 25 times"},
-        {"cancel", [](auto& c) { c.xmodemSendCanBlock = 2; },
-         "XModem download: cancelled by the device"},
-        {"no answer", [](auto& c) { c.xmodemSendSilent = true; },
-         "XModem download: no block received"},
-    };
     const auto file = configFile(5000);
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
+    // `failure` null: the file arrives whole.
+    const auto expectDownload = [&](const std::function<void(sim::Config&)>& fault,
+                                    const char* failure,
+                                    std::source_location row = std::source_location::current()) {
+        const auto trace = rowTrace(row);
         clearRecords();
         const auto& watched = device([&](auto& d) {
             d.plotter.config().machineConfig = std::string(file.begin(), file.end());
-            c.setup(d.plotter.config());
+            fault(d.plotter.config());
         });
         const auto downloaded = esp::runDownloadFileJob(port, "config.yaml", nullptr, recordLog);
         EXPECT_EQ(watched.writes.front().second, "$I") << "after the settle and a drain";
         EXPECT_NEAR(watched.writes.front().first, 550, 5);
-        if (c.failure == nullptr) {
-            EXPECT_EQ(downloaded, file);
-            EXPECT_TRUE(logLines.empty());
-        } else {
-            EXPECT_EQ(downloaded, std::nullopt);
-            EXPECT_EQ(logLines, Lines{c.failure});
-        }
-    }
+        EXPECT_EQ(downloaded, failure ? std::nullopt : std::optional(file));
+        EXPECT_EQ(logLines, failure ? Lines{failure} : Lines{});
+    };
+    expectDownload([](auto& c) { c.xmodemSendCorruptBlock = 2; }, nullptr);
+    expectDownload([](auto& c) { c.xmodemSendDropBlock = 3; }, nullptr);
+    expectDownload([](auto& c) { c.xmodemSendRepeatBlock = 1; }, nullptr);
+    expectDownload(
+        [](auto& c) {
+            c.xmodemSendCorruptBlock = 2;
+            c.xmodemSendCorruptTimes = 100;
+        },
+        "XModem download: block 2 failed 25 times");
+    expectDownload([](auto& c) { c.xmodemSendCanBlock = 2; },
+                   "XModem download: cancelled by the device");
+    expectDownload([](auto& c) { c.xmodemSendSilent = true; },
+                   "XModem download: no block received");
 }
 
 TEST(PartitionTable, NeedsAReachableApplicationEntryAt0x10000) {
@@ -209,36 +202,31 @@ TEST(PartitionTable, NeedsAReachableApplicationEntryAt0x10000) {
 
 // The probe leaves the chip in its loader: it settles 500 ms first and never resets it.
 TEST_F(DeviceJobsTest, ProbeReadsTheTableThroughTheStubWithoutAReset) {
-    const struct {
-        const char* name;
-        std::function<void(sim::Plotter&)> setup;
-        int expected;
-    } cases[] = {
-        {"valid", [](auto& p) { p.loadFlash(0x8000, partitionTable("dA")); }, 1},
-        {"data at app offset", [](auto& p) { p.loadFlash(0x8000, partitionTable("dD")); }, 0},
-        {"erased", [](auto&) {}, 0},
-        {"late sync",
-         [](auto& p) {
-             p.loadFlash(0x8000, partitionTable("dA"));
-             p.config().syncFromAttempt = 25;
-         },
-         1},
-        {"silent", [](auto& p) { p.config().silent = true; }, -1},
-        {"no greeting", [](auto& p) { p.config().greeting = false; }, -1},
-        {"read dropped",
-         [](auto& p) {
-             p.config().responseFaults = {{esp::READ_FLASH, 0, sim::FaultKind::Drop}};
-         },
-         -1},
-    };
     const auto stub = stubImage();
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        const auto& watched = device([&](auto& d) { c.setup(d.plotter); });
-        EXPECT_EQ(esp::runProbePartitionTableJob(port, stub.data(), stub.size()), c.expected);
+    const auto expectProbe = [&](const std::function<void(sim::Plotter&)>& setup, int expected,
+                                 std::source_location row = std::source_location::current()) {
+        const auto trace = rowTrace(row);
+        const auto& watched = device([&](auto& d) { setup(d.plotter); });
+        EXPECT_EQ(esp::runProbePartitionTableJob(port, stub.data(), stub.size()), expected);
         EXPECT_EQ(watched.firstActionMs, 500);
         EXPECT_TRUE(watched.endsWithoutReset());
-    }
+    };
+    expectProbe([](auto& p) { p.loadFlash(0x8000, partitionTable("dA")); }, 1);
+    expectProbe([](auto& p) { p.loadFlash(0x8000, partitionTable("dD")); }, 0);
+    expectProbe([](auto&) {}, 0);
+    expectProbe(
+        [](auto& p) {
+            p.loadFlash(0x8000, partitionTable("dA"));
+            p.config().syncFromAttempt = 25;
+        },
+        1);
+    expectProbe([](auto& p) { p.config().silent = true; }, -1);
+    expectProbe([](auto& p) { p.config().greeting = false; }, -1);
+    expectProbe(
+        [](auto& p) {
+            p.config().responseFaults = {{esp::READ_FLASH, 0, sim::FaultKind::Drop}};
+        },
+        -1);
 }
 
 }  // namespace

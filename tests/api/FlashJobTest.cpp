@@ -10,6 +10,7 @@
 #include "JobSupport.h"
 #include "api/Jobs.h"
 #include "esp/Packet.h"
+#include "tests/support/RowTrace.h"
 
 namespace {
 
@@ -86,8 +87,9 @@ TEST_F(FlashJobTest, AppOnlyJobWritesVerifiesResetsAndConfirmsTheVersion) {
 TEST_F(FlashJobTest, WritesEachPlanWithItsProgress) {
     // `plan` holds the "Flash plan: " and "  0x" lines without those prefixes.
     const auto expectPlan = [&](bool full, const uint8_t* bootAppData, size_t bootAppLen,
-                                const std::string& plan, const std::vector<float>& progress) {
-        SCOPED_TRACE(plan);
+                                const std::string& plan, const std::vector<float>& progress,
+                                std::source_location row = std::source_location::current()) {
+        const auto trace = rowTrace(row);
         ASSERT_EQ(run([&](auto&, auto& r) {
                       r.fullFlash = full;
                       r.bootApp = bootAppData;
@@ -160,88 +162,67 @@ sim::ResponseFault errorOn(uint8_t op, int occurrence = 0) {
 
 // No failure resets the chip: a later job starts from the bootloader entry again.
 TEST_F(FlashJobTest, EachFailureStopsWithItsCodeAndLinesAndNoReset) {
-    const struct {
-        Change change;
-        esp_error_t code;
-        Lines lastLines;
-    } cases[] = {
-        {[](auto& p, auto&) { p.config().silent = true; }, 3,
-         concat({{"Retrying bootloader entry (attempt 3)...", "Syncing..."},
-                 Lines(10, "NO RESPONSE: SYNC"),
-                 {"Sync failed after all retries"}})},
-        {[](auto& p, auto&) { p.config().chipId = 5; },
-         4,
-         {"Sync OK", "Chip ID: 0x5", "Wrong chip! Expected ESP32-S3 (0x0009)"}},
-        {[](auto& p, auto&) { p.config().securityFuses = 0x11; },
-         4,
-         {"Security fuses: 0x00000011",
-          "WARNING: Unexpected security fuse value! Secure boot or flash encryption may be "
-          "enabled.",
-          "ABORTED: Device has secure boot or flash encryption enabled. Flashing plaintext "
-          "firmware would brick it."}},
-        {[](auto& p, auto&) { p.config().greeting = false; },
-         5,
-         {"Stub: text=100 @ 0x40380000 data=20 @ 0x3fc90000 entry=0x40380004",
-          "Stub upload failed"}},
-        {[](auto&, auto& r) { r.stubLen = 10; },
-         5,
-         {"Uploading flash stub (10 bytes)...", "Stub header parse failed (size=10)",
-          "Stub upload failed"}},
-        {[](auto& p, auto& r) {
-             r.eraseAll = true;
-             p.config().responseFaults = {errorOn(esp::ERASE_FLASH)};
-         },
-         6,
-         {"Erasing entire flash...", "ERASE_FLASH (full chip erase)",
-          "ERROR: CMD_0xD0 status=1 error=6", "ERASE_FLASH FAILED", "Flash erase failed"}},
-        {[](auto& p, auto&) { p.config().responseFaults = {errorOn(esp::FLASH_DATA, 1)}; },
-         6,
-         {"FLASH_BEGIN OK (erase complete)", "ERROR: FLASH_DATA status=1 error=6"}},
-        {[](auto& p, auto&) { p.config().wrongMd5At = 0; }, 7, {"VERIFY MISMATCH"}},
-        // A refused SPI_ATTACH is ignored: the stub attaches on its own.
-        {[](auto& p, auto&) { p.config().responseFaults = {errorOn(esp::SPI_ATTACH)}; },
-         0,
-         {"VERIFY OK", "FLASH_END OK"}},
+    const auto expectFailure = [&](const Change& change, esp_error_t code, const Lines& last) {
+        SCOPED_TRACE(last.back());
+        EXPECT_EQ(run(change), code);
+        const size_t n = std::min(logLines.size(), last.size());
+        EXPECT_EQ(Lines(logLines.end() - static_cast<ptrdiff_t>(n), logLines.end()), last);
+        EXPECT_EQ(device->endsWithoutReset(), code != 0);
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.lastLines.back());
-        EXPECT_EQ(run(c.change), c.code);
-        const size_t n = std::min(logLines.size(), c.lastLines.size());
-        EXPECT_EQ(Lines(logLines.end() - static_cast<ptrdiff_t>(n), logLines.end()), c.lastLines);
-        EXPECT_EQ(device->endsWithoutReset(), c.code != 0);
-    }
+    expectFailure([](auto& p, auto&) { p.config().silent = true; }, 3,
+                  concat({{"Retrying bootloader entry (attempt 3)...", "Syncing..."},
+                          Lines(10, "NO RESPONSE: SYNC"),
+                          {"Sync failed after all retries"}}));
+    expectFailure([](auto& p, auto&) { p.config().chipId = 5; }, 4,
+                  {"Sync OK", "Chip ID: 0x5", "Wrong chip! Expected ESP32-S3 (0x0009)"});
+    expectFailure([](auto& p, auto&) { p.config().securityFuses = 0x11; }, 4,
+                  {"Security fuses: 0x00000011",
+                   "WARNING: Unexpected security fuse value! Secure boot or flash encryption "
+                   "may be enabled.",
+                   "ABORTED: Device has secure boot or flash encryption enabled. Flashing "
+                   "plaintext firmware would brick it."});
+    expectFailure([](auto& p, auto&) { p.config().greeting = false; }, 5,
+                  {"Stub: text=100 @ 0x40380000 data=20 @ 0x3fc90000 entry=0x40380004",
+                   "Stub upload failed"});
+    expectFailure(
+        [](auto& p, auto& r) {
+            r.eraseAll = true;
+            p.config().responseFaults = {errorOn(esp::ERASE_FLASH)};
+        },
+        6,
+        {"Erasing entire flash...", "ERASE_FLASH (full chip erase)",
+         "ERROR: CMD_0xD0 status=1 error=6", "ERASE_FLASH FAILED", "Flash erase failed"});
+    expectFailure([](auto& p, auto&) { p.config().responseFaults = {errorOn(esp::FLASH_DATA, 1)}; },
+                  6, {"FLASH_BEGIN OK (erase complete)", "ERROR: FLASH_DATA status=1 error=6"});
+    expectFailure([](auto& p, auto&) { p.config().wrongMd5At = 0; }, 7, {"VERIFY MISMATCH"});
+    // A refused SPI_ATTACH is ignored: the stub attaches on its own.
+    expectFailure([](auto& p, auto&) { p.config().responseFaults = {errorOn(esp::SPI_ATTACH)}; }, 0,
+                  {"VERIFY OK", "FLASH_END OK"});
 }
 
 const char* const kVerifying = "Verifying firmware version...";
 const char* const kUnconfirmed = "Could not confirm firmware version after update.";
 
 TEST_F(FlashJobTest, VersionConfirmationNeverTurnsAWrittenUpdateIntoAFailure) {
-    const struct {
-        const char* expected;
-        std::string reported;
-        Lines linesAfterReset;
-    } cases[] = {
-        {"1.2", "1.2.3", {kVerifying, "Device running firmware 1.2.3"}},
-        {"1.2",
-         "1.3",
-         {kVerifying, "Device running firmware 1.3",
-          "WARNING: Expected firmware 1.2 but device reports 1.3", kUnconfirmed}},
-        {"v1.2",
-         "V1.2",
-         {kVerifying, "Device running firmware V1.2",
-          "WARNING: Expected firmware v1.2 but device reports V1.2", kUnconfirmed}},
-        {"", "1.3", {}},
-        {nullptr, "1.3", {}},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.expected ? c.expected : "(null)");
+    const auto expectAfterReset = [&](const char* expected, const std::string& reported,
+                                      const Lines& after) {
+        SCOPED_TRACE(std::string(expected ? expected : "(null)") + ", reported " + reported);
         ASSERT_EQ(run([&](auto& p, auto& r) {
-                      p.config().versionReport = c.reported;
-                      r.expectedVersion = c.expected;
+                      p.config().versionReport = reported;
+                      r.expectedVersion = expected;
                   }),
                   0u);
-        EXPECT_EQ(linesAfter("FLASH_END OK"), c.linesAfterReset);
-    }
+        EXPECT_EQ(linesAfter("FLASH_END OK"), after);
+    };
+    expectAfterReset("1.2", "1.2.3", {kVerifying, "Device running firmware 1.2.3"});
+    expectAfterReset("1.2", "1.3",
+                     {kVerifying, "Device running firmware 1.3",
+                      "WARNING: Expected firmware 1.2 but device reports 1.3", kUnconfirmed});
+    expectAfterReset("v1.2", "V1.2",
+                     {kVerifying, "Device running firmware V1.2",
+                      "WARNING: Expected firmware v1.2 but device reports V1.2", kUnconfirmed});
+    expectAfterReset("", "1.3", {});
+    expectAfterReset(nullptr, "1.3", {});
 }
 
 // 2 s for the restart, then three queries (a 50 ms drain and 2 s each) 1 s apart;

@@ -189,21 +189,27 @@ bool explainsFailure(const std::vector<std::string>& lines, unsigned code) {
     });
 }
 
-/// Runs `runs` seeds from `seedBase` through `run`, which checks one run and returns
-/// its result code; stops after five failed runs. Every code in `codes` must occur.
-void campaign(int runs, uint32_t seedBase, const std::set<unsigned>& codes,
-              const std::function<unsigned(uint32_t)>& run) {
-    const auto failures = [] {
-        return ::testing::UnitTest::GetInstance()
-            ->current_test_info()
-            ->result()
-            ->total_part_count();
-    };
+/// Runs `runs` seeds from `seedBase`. Each run draws faults from `menu` for a fresh
+/// plotter on a loopback port; `run` then draws its request, runs the job, checks it
+/// and returns its code. A healthy plotter must never fail, and every code in `codes`
+/// must occur. Stops after the first failed run.
+void campaign(int runs, uint32_t seedBase, const std::vector<Fault>& menu,
+              const std::set<unsigned>& codes,
+              const std::function<unsigned(Rng&, sim::Plotter&, SerialPort&)>& run) {
     std::set<unsigned> outcomes;
-    for (int i = 0, failedRuns = 0; i < runs && failedRuns < 5; ++i) {
-        const int before = failures();
-        outcomes.insert(run(seedBase + static_cast<uint32_t>(i)));
-        failedRuns += failures() > before ? 1 : 0;
+    for (int i = 0; i < runs && !::testing::Test::HasFailure(); ++i) {
+        const uint32_t seed = seedBase + static_cast<uint32_t>(i);
+        Rng rng(seed);
+        C config;
+        const std::string faults = drawFaults(menu, config, rng);
+        SCOPED_TRACE(testing::Message() << "seed 0x" << std::hex << seed << ", faults:" << faults);
+        sim::Plotter plotter(config);
+        SerialPort port;
+        plotter.connectLoopback(port);
+        clearRecords();
+        const unsigned code = run(rng, plotter, port);
+        EXPECT_TRUE(code == 0 || !faults.empty()) << "a healthy device failed";
+        outcomes.insert(code);
     }
     EXPECT_EQ(outcomes, codes) << "results the runs ended with";
 }
@@ -213,81 +219,66 @@ TEST(FaultCampaign, FlashingJobKeepsItsPromisesUnderRandomFaults) {
     const auto partitions = testimg::pattern(3072, 3);
     const auto bootApp = testimg::pattern(8192, 4);
     const auto stub = testimg::stubImage(7000, 20);
-    campaign(1000, 0xF1A50000, {0, 3, 4, 5, 6, 7}, [&](uint32_t seed) {
-        Rng rng(seed);
-        auto firmware = testimg::pattern(static_cast<size_t>(pick(rng, 0, 3 * 16384 + 100)),
-                                         static_cast<uint8_t>(seed));
-        auto request = testimg::flashRequest(firmware, bootloader, partitions, stub);
-        request.fullFlash = chance(rng, 50);
-        request.eraseAll = chance(rng, 25);
-        const bool withBootApp = chance(rng, 50);
-        request.bootApp = withBootApp ? bootApp.data() : nullptr;
-        request.bootAppLen = withBootApp ? bootApp.size() : 0;
-        static const char* kExpected[] = {"", "v3.7.8", "2.10.6"};
-        request.expectedVersion = kExpected[pick(rng, 0, 2)];
-        C config;
-        const std::string faults = drawFaults(kFlashFaults, config, rng);
-        SCOPED_TRACE(testing::Message() << "seed 0x" << std::hex << seed << ", faults:" << faults);
-        sim::Plotter plotter(config);
-        SerialPort port;
-        plotter.connectLoopback(port);
-        clearRecords();
-        const int64_t startNs = mono::nowNs();
-        const esp_error_t code = esp::runFlashJob(port, request, recordProgress, recordLog);
+    campaign(
+        1000, 0xF1A50000, kFlashFaults, {0, 3, 4, 5, 6, 7},
+        [&](Rng& rng, auto& plotter, SerialPort& port) {
+            auto firmware = testimg::pattern(static_cast<size_t>(pick(rng, 0, 3 * 16384 + 100)),
+                                             static_cast<uint8_t>(rng()));
+            auto request = testimg::flashRequest(firmware, bootloader, partitions, stub);
+            request.fullFlash = chance(rng, 50);
+            request.eraseAll = chance(rng, 25);
+            const bool withBootApp = chance(rng, 50);
+            request.bootApp = withBootApp ? bootApp.data() : nullptr;
+            request.bootAppLen = withBootApp ? bootApp.size() : 0;
+            static const char* kExpected[] = {"", "v3.7.8", "2.10.6"};
+            request.expectedVersion = kExpected[pick(rng, 0, 2)];
+            const int64_t startNs = mono::nowNs();
+            const esp_error_t code = esp::runFlashJob(port, request, recordProgress, recordLog);
 
-        EXPECT_TRUE(code == 0 || (code >= 3 && code <= 7)) << "result " << code;
-        EXPECT_LE(virtualMsSince(startNs), flashJobBoundMs(request)) << "virtual ms";
-        const auto holds = [&](uint32_t address, const std::vector<uint8_t>& bytes) {
-            return std::equal(bytes.begin(), bytes.end(), plotter.flash().begin() + address);
-        };
-        if (code == 0) {
-            EXPECT_TRUE(!request.fullFlash ||
-                        (holds(0x0, bootloader) && holds(0x8000, partitions)));
-            EXPECT_TRUE(!withBootApp || holds(0xE000, bootApp));
-            EXPECT_TRUE(holds(0x10000, firmware));
-        } else {
-            EXPECT_TRUE(explainsFailure(logLines, code))
-                << "result " << code << " after \"" << (logLines.empty() ? "" : logLines.back())
-                << "\"";
-        }
-        EXPECT_TRUE(code == 0 || !faults.empty()) << "a healthy device failed";
-        return code;
-    });
+            EXPECT_TRUE(code == 0 || (code >= 3 && code <= 7)) << "result " << code;
+            EXPECT_LE(virtualMsSince(startNs), flashJobBoundMs(request)) << "virtual ms";
+            const auto holds = [&](uint32_t address, const std::vector<uint8_t>& bytes) {
+                return std::equal(bytes.begin(), bytes.end(), plotter.flash().begin() + address);
+            };
+            if (code == 0) {
+                EXPECT_TRUE(!request.fullFlash ||
+                            (holds(0x0, bootloader) && holds(0x8000, partitions)));
+                EXPECT_TRUE(!withBootApp || holds(0xE000, bootApp));
+                EXPECT_TRUE(holds(0x10000, firmware));
+            } else {
+                EXPECT_TRUE(explainsFailure(logLines, code))
+                    << "result " << code << " after \"" << (logLines.empty() ? "" : logLines.back())
+                    << "\"";
+            }
+            return code;
+        });
 }
 
 TEST(FaultCampaign, ConfigurationUploadKeepsItsPromisesUnderRandomFaults) {
-    campaign(400, 0xC0F10000, {0, 8}, [&](uint32_t seed) {
-        Rng rng(seed);
-        auto file = testimg::pattern(static_cast<size_t>(pick(rng, 0, 5 * 1024 + 7)),
-                                     static_cast<uint8_t>(seed));
-        // The receiver takes trailing 0x1A bytes for padding, as every XModem receiver must.
-        if (!file.empty() && file.back() == 0x1A) {
-            file.back() = '\n';
-        }
-        C config;
-        const std::string faults = drawFaults(kUploadFaults, config, rng);
-        SCOPED_TRACE(testing::Message() << "seed 0x" << std::hex << seed << ", faults:" << faults);
-        sim::Plotter plotter(config);
-        SerialPort port;
-        plotter.connectLoopback(port);
-        clearRecords();
-        const int64_t startNs = mono::nowNs();
-        const esp_error_t code =
-            esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress);
+    campaign(
+        400, 0xC0F10000, kUploadFaults, {0, 8}, [&](Rng& rng, auto& plotter, SerialPort& port) {
+            auto file = testimg::pattern(static_cast<size_t>(pick(rng, 0, 5 * 1024 + 7)),
+                                         static_cast<uint8_t>(rng()));
+            // The receiver takes trailing 0x1A bytes for padding, as every XModem receiver must.
+            if (!file.empty() && file.back() == 0x1A) {
+                file.back() = '\n';
+            }
+            const int64_t startNs = mono::nowNs();
+            const esp_error_t code =
+                esp::runUploadConfigJob(port, file.data(), file.size(), recordProgress);
 
-        EXPECT_TRUE(code == 0 || code == 8) << "result " << code;
-        EXPECT_LE(virtualMsSince(startNs), uploadJobBoundMs(file.size())) << "virtual ms";
-        for (const auto& [fraction, stage] : progressCalls) {
-            EXPECT_TRUE(stage == "Uploading config file..." ||
-                        stage == "XModem: no handshake received (30s timeout)")
-                << "undefined stage: \"" << stage << "\"";
-        }
-        if (code == 0) {
-            EXPECT_EQ(plotter.storedConfig(), std::optional(file)) << "success, file not whole";
-        }
-        EXPECT_TRUE(code == 0 || !faults.empty()) << "a healthy device failed";
-        return code;
-    });
+            EXPECT_TRUE(code == 0 || code == 8) << "result " << code;
+            EXPECT_LE(virtualMsSince(startNs), uploadJobBoundMs(file.size())) << "virtual ms";
+            for (const auto& [fraction, stage] : progressCalls) {
+                EXPECT_TRUE(stage == "Uploading config file..." ||
+                            stage == "XModem: no handshake received (30s timeout)")
+                    << "undefined stage: \"" << stage << "\"";
+            }
+            if (code == 0) {
+                EXPECT_EQ(plotter.storedConfig(), std::optional(file)) << "success, file not whole";
+            }
+            return code;
+        });
 }
 
 }  // namespace

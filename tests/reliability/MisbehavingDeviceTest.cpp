@@ -21,6 +21,7 @@
 #include "sim/PtyPlotter.h"
 #include "tests/support/Descriptors.h"
 #include "tests/support/Records.h"
+#include "tests/support/RowTrace.h"
 #include "tests/support/TestImages.h"
 
 // Plotters that do what no healthy one does, and other programs on the plotter's
@@ -66,32 +67,28 @@ std::string queryVersion(const std::string& path) {
 // A firmware stuck printing status lines never leaves the gap that ends "read until
 // nothing arrives"; each call ends by the drain bound and its own time-outs.
 TEST(MisbehavingDevice, FloodingConsoleEndsEveryCallWithinItsBound) {
-    const struct {
-        const char* call;
-        std::function<std::string(const std::string&)> run;
-        std::string outcome;
-        double boundS;  // settle, 2 s per bounded drain, time-outs, and 1.5 s to spare
-    } cases[] = {
-        {"version query", queryVersion, "null", 0.5 + 2 + 2 + 1.5},
-        {"configuration upload", [](auto& path) { return "code " + std::to_string(upload(path)); },
-         "code 8", 0.5 + (2 + 2) + 2 + 1.5},
-        {"version confirmation",
-         [](auto& path) {
-             const auto code = flash(path, firmware.data(), firmware.size(), stub.data(), "2.10.6");
-             return "code " + std::to_string(code) + ", " + logLines.back();
-         },
-         "code 0, Could not confirm firmware version after update.",
-         2 + 2 + 3 * (2 + 2) + 2 * 1 + 1.5},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.call);
+    const auto expectBounded = [](const std::function<std::string(const std::string&)>& call,
+                                  const std::string& outcome, double boundS,
+                                  std::source_location row = std::source_location::current()) {
+        const auto trace = rowTrace(row);
         sim::Config config;
         config.floodConsole = true;
         sim::PtyPlotter plotter(config);
         const auto start = Clock::now();
-        EXPECT_EQ(c.run(plotter.path()), c.outcome);
-        EXPECT_LT(secondsSince(start), c.boundS);
-    }
+        EXPECT_EQ(call(plotter.path()), outcome);
+        EXPECT_LT(secondsSince(start), boundS);
+    };
+    // Bounds: settle, 2 s per bounded drain, time-outs, and 1.5 s to spare.
+    expectBounded(queryVersion, "null", 0.5 + 2 + 2 + 1.5);
+    expectBounded([](auto& path) { return "code " + std::to_string(upload(path)); }, "code 8",
+                  0.5 + (2 + 2) + 2 + 1.5);
+    expectBounded(
+        [](auto& path) {
+            const auto code = flash(path, firmware.data(), firmware.size(), stub.data(), "2.10.6");
+            return "code " + std::to_string(code) + ", " + logLines.back();
+        },
+        "code 0, Could not confirm firmware version after update.",
+        2 + 2 + 3 * (2 + 2) + 2 * 1 + 1.5);
 }
 
 // The chip hangs after the first block and takes nothing more. A block of 0xC0
@@ -107,6 +104,30 @@ TEST(MisbehavingDevice, DeviceThatStopsReadingEndsTheJobAfterTheWriteStall) {
     EXPECT_LT(secondsSince(start), 1.5 + 10 + 3);
     EXPECT_EQ(logLines.back(), "SEND FAIL: FLASH_DATA");
     EXPECT_EQ(descriptorsOn(plotter.path()), 1u) << "only the simulator's own side may stay open";
+}
+
+// The cable is pulled in the middle of a job. The simulator closes its side, the
+// line hangs up, and the step that was waiting runs into its time-out.
+TEST(MisbehavingDevice, UnpluggedMidJobFailsWithinTheStepTimeOutAndReleasesThePort) {
+    const auto expectUnplug = [](const std::function<void(sim::Config&)>& unplug,
+                                 const std::function<esp_error_t(const std::string&)>& job,
+                                 esp_error_t code, double boundS,
+                                 std::source_location row = std::source_location::current()) {
+        const auto trace = rowTrace(row);
+        sim::Config config;
+        unplug(config);
+        sim::PtyPlotter plotter(config);
+        const auto start = Clock::now();
+        EXPECT_EQ(job(plotter.path()), code);
+        EXPECT_LT(secondsSince(start), boundS);
+        EXPECT_EQ(descriptorsOn(plotter.path()), 0u) << "the job left its port open";
+    };
+    // Bounds: settle, reset and exchanges, then the time-out of the waiting step.
+    const auto flashJob = [](const std::string& path) { return flash(path); };
+    expectUnplug([](auto& c) { c.goneAfterFlashData = 2; }, flashJob, 6, 10.0 + 5.0);
+    expectUnplug([](auto& c) { c.goneAtMd5 = 0; }, flashJob, 7, 10.0 + 5.0);
+    expectUnplug([](auto& c) { c.goneAfterXModemBlocks = 2; },
+                 [](const std::string& path) { return upload(path); }, 8, 7.5 + 5.0);
 }
 
 // In a child process, so that a crash fails the case rather than the test program.
