@@ -9,7 +9,6 @@
 #include "JobSupport.h"
 #include "api/Jobs.h"
 #include "esp/Packet.h"
-#include "tests/support/RowTrace.h"
 
 namespace {
 
@@ -150,9 +149,8 @@ TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
     const auto file = configFile(5000);
     // `failure` null: the file arrives whole.
     const auto expectDownload = [&](const std::function<void(sim::Config&)>& fault,
-                                    const char* failure,
-                                    std::source_location row = std::source_location::current()) {
-        const auto trace = rowTrace(row);
+                                    const char* failure, int row = __builtin_LINE()) {
+        const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
         clearRecords();
         const auto& watched = device([&](auto& d) {
             d.plotter.config().machineConfig = std::string(file.begin(), file.end());
@@ -204,8 +202,8 @@ TEST(PartitionTable, NeedsAReachableApplicationEntryAt0x10000) {
 TEST_F(DeviceJobsTest, ProbeReadsTheTableThroughTheStubWithoutAReset) {
     const auto stub = stubImage();
     const auto expectProbe = [&](const std::function<void(sim::Plotter&)>& setup, int expected,
-                                 std::source_location row = std::source_location::current()) {
-        const auto trace = rowTrace(row);
+                                 int row = __builtin_LINE()) {
+        const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
         const auto& watched = device([&](auto& d) { setup(d.plotter); });
         EXPECT_EQ(esp::runProbePartitionTableJob(port, stub.data(), stub.size()), expected);
         EXPECT_EQ(watched.firstActionMs, 500);

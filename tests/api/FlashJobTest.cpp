@@ -10,7 +10,6 @@
 #include "JobSupport.h"
 #include "api/Jobs.h"
 #include "esp/Packet.h"
-#include "tests/support/RowTrace.h"
 
 namespace {
 
@@ -88,8 +87,8 @@ TEST_F(FlashJobTest, WritesEachPlanWithItsProgress) {
     // `plan` holds the "Flash plan: " and "  0x" lines without those prefixes.
     const auto expectPlan = [&](bool full, const uint8_t* bootAppData, size_t bootAppLen,
                                 const std::string& plan, const std::vector<float>& progress,
-                                std::source_location row = std::source_location::current()) {
-        const auto trace = rowTrace(row);
+                                int row = __builtin_LINE()) {
+        const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
         ASSERT_EQ(run([&](auto&, auto& r) {
                       r.fullFlash = full;
                       r.bootApp = bootAppData;

@@ -91,7 +91,7 @@ TEST_F(LoaderTest, EachFailedExchangeLogsExactlyOneLine) {
     };
     for (const auto& [bytes, line] : cases) {
         lines.clear();
-        reply = [&](const Request&) { return bytes; };
+        reply = [&bytes = bytes](const Request&) { return bytes; };
         const esp::CommandResult result = loader.sendCommand(esp::READ_REG, words({0}), 0, 3000);
         EXPECT_FALSE(result.ok);
         EXPECT_EQ(result.value, 0u);
@@ -126,7 +126,7 @@ TEST_F(LoaderTest, ChipIdNeedsFourteenDataBytesAndFusesTolerateOnlyBitTwo) {
         {4, "0x00000004", true}, {1, "0x00000001", false}, {0x80000004, "0x80000004", false}};
     for (const auto& [value, shown, passes] : fuses) {
         lines.clear();
-        reply = [&](const Request& r) { return response(r.op, value); };
+        reply = [value = value](const Request& r) { return response(r.op, value); };
         EXPECT_EQ(loader.checkSecurityFuses(), passes) << shown;
         EXPECT_EQ(lines, (Lines{"Security fuses: " + shown, passes ? ok : bad}));
     }

@@ -179,7 +179,7 @@ TEST_F(FlashTest, VerifyComparesTheFirstSixteenDigestBytes) {
     };
     for (const auto& [digest, last] : cases) {
         lines.clear();
-        reply = [&](const Request& r) { return response(r.op, 0, digest, 0, 0, 2); };
+        reply = [&digest = digest](const Request& r) { return response(r.op, 0, digest, 0, 0, 2); };
         EXPECT_EQ(loader.verifyFlash(0x10000, abc.size(), abc.data()), last == "VERIFY OK");
         EXPECT_EQ(lines.back(), last);
     }

@@ -99,29 +99,27 @@ class XModemTest : public ::testing::Test {
 
 // Two blocks whose bytes together use every entry of the CRC table.
 TEST_F(XModemTest, SendsPaddedBlocksWithTheCheckTheReceiverAskedFor) {
-    const struct {
-        const char* name;
-        uint8_t handshake;
-        std::vector<uint8_t> trailers[2];
-    } modes[] = {{"CRC", 'C', {{0x86, 0x19}, {0x50, 0x96}}}, {"checksum", NAK, {{0x09}, {0xE8}}}};
+    // The handshake and the trailers of the two blocks.
+    const std::pair<uint8_t, std::vector<std::vector<uint8_t>>> modes[] = {
+        {'C', {{0x86, 0x19}, {0x50, 0x96}}}, {NAK, {{0x09}, {0xE8}}}};
     const auto file = pattern(1025);
     auto expected = file;
     expected.resize(2048, 0x1A);
-    for (const auto& mode : modes) {
-        SCOPED_TRACE(mode.name);
+    for (const auto& [handshake, trailers] : modes) {
+        SCOPED_TRACE(handshake == 'C' ? "CRC" : "checksum");
         receiver = FakeReceiver{};
-        receiver.handshake = mode.handshake;
+        receiver.handshake = handshake;
         clearRecords();
         ASSERT_TRUE(upload(file));
         ASSERT_EQ(receiver.blocks.size(), 2u);
         std::vector<uint8_t> received;
         for (uint8_t i = 0; i < 2; ++i) {
             const auto& block = receiver.blocks[i];
-            ASSERT_EQ(block.size(), 1027 + mode.trailers[i].size());
+            ASSERT_EQ(block.size(), 1027 + trailers[i].size());
             EXPECT_EQ(std::vector<uint8_t>(block.begin(), block.begin() + 3),
                       (std::vector<uint8_t>{0x02, static_cast<uint8_t>(i + 1),
                                             static_cast<uint8_t>(254 - i)}));
-            EXPECT_EQ(std::vector<uint8_t>(block.begin() + 1027, block.end()), mode.trailers[i]);
+            EXPECT_EQ(std::vector<uint8_t>(block.begin() + 1027, block.end()), trailers[i]);
             received.insert(received.end(), block.begin() + 3, block.begin() + 1027);
         }
         EXPECT_EQ(received, expected);

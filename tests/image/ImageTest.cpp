@@ -68,41 +68,40 @@ TEST(ImageInspection, RefusesWhatMustNotBeWrittenAsFirmware) {
     const image::FirmwareRules real{kDevApplicationPartition, false};
     const image::FirmwareRules simulated{kDevApplicationPartition, true};
     const image::FirmwareRules noTable{std::nullopt, true};
-    struct Row {
-        const char* name;
-        Bytes bytes;
-        image::FirmwareRules rules;
-        std::optional<std::string> refusal;
-    };
-    const Row rows[] = {
-        {"0 bytes", {}, simulated, "an empty file (0 bytes)"},
-        {"text as .bin", text, simulated, "not a firmware image (first byte 0x7B, expected 0xE9)"},
-        {"cut in header", resized(firmware, 20), simulated, "damaged: it ends inside its header"},
-        {"no segments", changed(firmware, 1, 0), simulated,
-         "damaged: it declares 0 segments (1 to 16 expected)"},
-        {"cut in segment 1", resized(firmware, 40000), simulated,
-         "damaged: segment 1 runs past the end of the file"},
-        {"cut in SHA-256", resized(firmware, firmware.size() - 10), simulated,
-         "damaged: it ends before its SHA-256"},
-        {"ESP32 image", changed(firmware, 12, 0), simulated,
-         "built for another chip (chip id 0, ESP32; this machine is an ESP32-S3)"},
-        {"unknown chip", changed(firmware, 12, 77), simulated,
-         "built for another chip (chip id 77; this machine is an ESP32-S3)"},
-        {"segment byte changed", changed(firmware, 40000, firmware[40000] ^ 1), simulated,
-         "damaged: its checksum does not match"},
-        {"SHA-256 changed", changed(firmware, firmware.size() - 1, firmware.back() ^ 1), simulated,
-         "damaged: its SHA-256 does not match"},
-        {"bootloader", devImage("bootloader.bin"), simulated,
-         "not an application image (it has no application description)"},
-        {"4 MiB", resized(firmware, 4 * 1024 * 1024), simulated,
-         "too large for the application partition (4,194,304 bytes; the partition holds "
-         "1,966,080)"},
-        {"development image", firmware, real, "a development image, not firmware"},
-        {"development image, simulated", firmware, simulated, std::nullopt},
-        {"4 MiB, no partition table", resized(firmware, 4 * 1024 * 1024), noTable, std::nullopt},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(image::firmwareRefusal(inspect(row.bytes), row.rules), row.refusal) << row.name;
+    // The file, the rules it is checked under, and the refusal expected (none: accepted).
+    const std::tuple<const char*, Bytes, image::FirmwareRules, std::optional<std::string>> rows[] =
+        {
+            {"0 bytes", {}, simulated, "an empty file (0 bytes)"},
+            {"text as .bin", text, simulated,
+             "not a firmware image (first byte 0x7B, expected 0xE9)"},
+            {"cut in header", resized(firmware, 20), simulated,
+             "damaged: it ends inside its header"},
+            {"no segments", changed(firmware, 1, 0), simulated,
+             "damaged: it declares 0 segments (1 to 16 expected)"},
+            {"cut in segment 1", resized(firmware, 40000), simulated,
+             "damaged: segment 1 runs past the end of the file"},
+            {"cut in SHA-256", resized(firmware, firmware.size() - 10), simulated,
+             "damaged: it ends before its SHA-256"},
+            {"ESP32 image", changed(firmware, 12, 0), simulated,
+             "built for another chip (chip id 0, ESP32; this machine is an ESP32-S3)"},
+            {"unknown chip", changed(firmware, 12, 77), simulated,
+             "built for another chip (chip id 77; this machine is an ESP32-S3)"},
+            {"segment byte changed", changed(firmware, 40000, firmware[40000] ^ 1), simulated,
+             "damaged: its checksum does not match"},
+            {"SHA-256 changed", changed(firmware, firmware.size() - 1, firmware.back() ^ 1),
+             simulated, "damaged: its SHA-256 does not match"},
+            {"bootloader", devImage("bootloader.bin"), simulated,
+             "not an application image (it has no application description)"},
+            {"4 MiB", resized(firmware, 4 * 1024 * 1024), simulated,
+             "too large for the application partition (4,194,304 bytes; the partition holds "
+             "1,966,080)"},
+            {"development image", firmware, real, "a development image, not firmware"},
+            {"development image, simulated", firmware, simulated, std::nullopt},
+            {"4 MiB, no partition table", resized(firmware, 4 * 1024 * 1024), noTable,
+             std::nullopt},
+        };
+    for (const auto& [name, bytes, rules, refusal] : rows) {
+        EXPECT_EQ(image::firmwareRefusal(inspect(bytes), rules), refusal) << name;
     }
 }
 

@@ -21,7 +21,6 @@
 #include "sim/PtyPlotter.h"
 #include "tests/support/Descriptors.h"
 #include "tests/support/Records.h"
-#include "tests/support/RowTrace.h"
 #include "tests/support/TestImages.h"
 
 // Plotters that do what no healthy one does, and other programs on the plotter's
@@ -69,8 +68,8 @@ std::string queryVersion(const std::string& path) {
 TEST(MisbehavingDevice, FloodingConsoleEndsEveryCallWithinItsBound) {
     const auto expectBounded = [](const std::function<std::string(const std::string&)>& call,
                                   const std::string& outcome, double boundS,
-                                  std::source_location row = std::source_location::current()) {
-        const auto trace = rowTrace(row);
+                                  int row = __builtin_LINE()) {
+        const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
         sim::Config config;
         config.floodConsole = true;
         sim::PtyPlotter plotter(config);
@@ -111,9 +110,8 @@ TEST(MisbehavingDevice, DeviceThatStopsReadingEndsTheJobAfterTheWriteStall) {
 TEST(MisbehavingDevice, UnpluggedMidJobFailsWithinTheStepTimeOutAndReleasesThePort) {
     const auto expectUnplug = [](const std::function<void(sim::Config&)>& unplug,
                                  const std::function<esp_error_t(const std::string&)>& job,
-                                 esp_error_t code, double boundS,
-                                 std::source_location row = std::source_location::current()) {
-        const auto trace = rowTrace(row);
+                                 esp_error_t code, double boundS, int row = __builtin_LINE()) {
+        const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
         sim::Config config;
         unplug(config);
         sim::PtyPlotter plotter(config);

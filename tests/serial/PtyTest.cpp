@@ -13,6 +13,7 @@
 #include <csignal>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <utility>
 
 #include "serial/PosixImpl.h"
@@ -127,19 +128,14 @@ TEST(PosixPortOpen, MakesATerminalInItsDefaultDisciplineRaw) {
 }
 
 TEST(ModemLines, SettingOneLineKeepsEveryOtherBit) {
-    const struct {
-        int before;
-        int line;
-        bool level;
-        int after;
-    } rows[] = {
+    const std::tuple<int, int, bool, int> rows[] = {
         {0x004, TIOCM_DTR, true, 0x006}, {0x006, TIOCM_DTR, false, 0x004},
         {0x002, TIOCM_RTS, true, 0x006}, {0x166, TIOCM_RTS, false, 0x162},
         {0x002, TIOCM_DTR, true, 0x002},
     };
-    for (const auto& r : rows) {
-        EXPECT_EQ(withModemLine(r.before, r.line, r.level), r.after)
-            << std::hex << "0x" << r.before << (r.line == TIOCM_DTR ? " DTR " : " RTS ") << r.level;
+    for (const auto& [before, line, level, after] : rows) {
+        EXPECT_EQ(withModemLine(before, line, level), after)
+            << std::hex << "0x" << before << (line == TIOCM_DTR ? " DTR " : " RTS ") << level;
     }
 }
 
