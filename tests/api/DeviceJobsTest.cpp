@@ -187,6 +187,7 @@ TEST(PartitionTable, NeedsAReachableApplicationEntryAt0x10000) {
         {"d~", false},
         {std::string(127, 'd') + "A", true},
         {std::string(128, 'd') + "A", false},
+        {"~", false},
     };
     for (const auto& [entries, valid] : cases) {
         const auto bytes = partitionTable(entries);
@@ -194,8 +195,6 @@ TEST(PartitionTable, NeedsAReachableApplicationEntryAt0x10000) {
             << entries.substr(0, 8) << " (" << entries.size() << " entries)";
     }
     EXPECT_FALSE(esp::isPartitionTableValid(nullptr, 3072));
-    const std::vector<uint8_t> short31(31, 0xAA);
-    EXPECT_FALSE(esp::isPartitionTableValid(short31.data(), short31.size()));
 }
 
 // The probe leaves the chip in its loader: it settles 500 ms first and never resets it.

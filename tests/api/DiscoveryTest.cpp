@@ -45,7 +45,6 @@ TEST(PortDiscovery, ListsOnlyMatchingReachablePortsInNameOrder) {
             std::ofstream(dev + "/" + name);
         }
     };
-    ids("usb1", "1d6b", "0002");
     tty("tty0", "virtual", false);
     ids("platform/serial8250", "", "");
     tty("ttyS0", "platform/serial8250");

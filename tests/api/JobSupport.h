@@ -49,17 +49,14 @@ inline Lines concat(std::initializer_list<Lines> parts) {
     return all;
 }
 
-/// What a host write was: a console line without its line feed, "frame" for a SLIP
-/// frame, "block N" for an XModem block, "EOT".
+/// What a host write was: a console line without its line feed, "block N" for an
+/// XModem block, "EOT"; loader frames are not told apart.
 inline std::string describe(const uint8_t* data, size_t len) {
     if (len == 1 && data[0] == 0x04) {
         return "EOT";
     }
     if (len > 1 && data[0] == 0x02) {
         return "block " + std::to_string(data[1]);
-    }
-    if (len > 0 && data[0] == 0xC0) {
-        return "frame";
     }
     std::string text(reinterpret_cast<const char*>(data), len);
     return text.ends_with('\n') ? text.substr(0, len - 1) : text;

@@ -32,12 +32,9 @@ TEST_P(SyncDrainTest, DrainsAtMostSevenExtraReplies) {
             pieces.assign(GetParam() - 1, response(esp::SYNC));
             return response(esp::SYNC);
         }
-        Bytes late;
+        // Behind the SYNC replies the drain left.
         pieces.push_back(response(r.op, 0, Bytes(14)));
-        for (; !pieces.empty(); pieces.pop_front()) {
-            late.insert(late.end(), pieces.front().begin(), pieces.front().end());
-        }
-        return late;
+        return Bytes{};
     };
     ASSERT_TRUE(loader.sync(1));
     loader.readChipId();

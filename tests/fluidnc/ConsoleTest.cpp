@@ -11,10 +11,6 @@
 
 namespace {
 
-std::vector<uint8_t> bytes(const std::string& text) {
-    return {text.begin(), text.end()};
-}
-
 // A firmware console over loopback: one chunk per read, so lines arrive split.
 class FakeConsole {
   public:
@@ -36,7 +32,7 @@ class FakeConsole {
                     mono::sleepMs(timeoutMs);
                     return std::vector<uint8_t>{};
                 }
-                auto chunk = bytes(pending.front());
+                std::vector<uint8_t> chunk(pending.front().begin(), pending.front().end());
                 pending.pop_front();
                 return chunk;
             });

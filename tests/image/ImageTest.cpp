@@ -19,10 +19,6 @@ Bytes devImage(const std::string& name) {
     return Bytes(std::istreambuf_iterator<char>(file), {});
 }
 
-image::ImageReport inspect(const Bytes& bytes) {
-    return image::inspectImage(bytes.data(), bytes.size());
-}
-
 Bytes changed(Bytes bytes, size_t at, uint8_t value) {
     bytes.at(at) = value;
     return bytes;
@@ -36,7 +32,8 @@ Bytes resized(Bytes bytes, size_t size, uint8_t fill = 0xFF) {
 constexpr uint32_t kDevApplicationPartition = 0x1E0000;
 
 TEST(ImageInspection, ReadsTheDevelopmentSet) {
-    const auto firmware = inspect(devImage("firmware.bin"));
+    const Bytes file = devImage("firmware.bin");
+    const auto firmware = image::inspectImage(file.data(), file.size());
     EXPECT_EQ(std::tuple(firmware.layoutFault, firmware.chipId, firmware.segments.size()),
               std::tuple("", 9, 4u));
     EXPECT_TRUE(firmware.checksumMatches && firmware.sha256Appended && firmware.sha256Matches &&
@@ -101,7 +98,9 @@ TEST(ImageInspection, RefusesWhatMustNotBeWrittenAsFirmware) {
              std::nullopt},
         };
     for (const auto& [name, bytes, rules, refusal] : rows) {
-        EXPECT_EQ(image::firmwareRefusal(inspect(bytes), rules), refusal) << name;
+        EXPECT_EQ(image::firmwareRefusal(image::inspectImage(bytes.data(), bytes.size()), rules),
+                  refusal)
+            << name;
     }
 }
 

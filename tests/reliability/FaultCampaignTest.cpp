@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <functional>
+#include <map>
 #include <optional>
 #include <random>
 #include <set>
@@ -170,23 +171,19 @@ int64_t uploadJobBoundMs(size_t length) {
 
 // The job's last line names the cause of its non-zero code.
 bool explainsFailure(const std::vector<std::string>& lines, unsigned code) {
-    const std::pair<unsigned, std::string> causes[] = {{3, "Sync failed after all retries"},
-                                                       {4, "Wrong chip!"},
-                                                       {4, "ABORTED:"},
-                                                       {5, "Stub upload failed"},
-                                                       {6, "Flash erase failed"},
-                                                       {6, "FLASH_BEGIN FAILED"},
-                                                       {6, "SEND FAIL: FLASH_DATA"},
-                                                       {6, "NO RESPONSE: FLASH_DATA"},
-                                                       {6, "PARSE FAIL: FLASH_DATA"},
-                                                       {6, "CMD MISMATCH: sent FLASH_DATA"},
-                                                       {6, "ERROR: FLASH_DATA"},
-                                                       {7, "VERIFY MISMATCH"},
-                                                       {7, "VERIFY: MD5 command failed"},
-                                                       {7, "VERIFY: MD5 response too short ("}};
-    return !lines.empty() && std::any_of(std::begin(causes), std::end(causes), [&](const auto& c) {
-        return c.first == code && lines.back().starts_with(c.second);
-    });
+    static const std::map<unsigned, std::vector<std::string>> kCauses = {
+        {3, {"Sync failed after all retries"}},
+        {4, {"Wrong chip!", "ABORTED:"}},
+        {5, {"Stub upload failed"}},
+        {6,
+         {"Flash erase failed", "FLASH_BEGIN FAILED", "SEND FAIL: FLASH_DATA",
+          "NO RESPONSE: FLASH_DATA", "PARSE FAIL: FLASH_DATA", "CMD MISMATCH: sent FLASH_DATA",
+          "ERROR: FLASH_DATA"}},
+        {7, {"VERIFY MISMATCH", "VERIFY: MD5 command failed", "VERIFY: MD5 response too short ("}}};
+    const auto causes = kCauses.find(code);
+    return !lines.empty() && causes != kCauses.end() &&
+           std::any_of(causes->second.begin(), causes->second.end(),
+                       [&](const std::string& cause) { return lines.back().starts_with(cause); });
 }
 
 /// Runs `runs` seeds from `seedBase`. Each run draws faults from `menu` for a fresh

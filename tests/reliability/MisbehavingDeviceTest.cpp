@@ -15,6 +15,7 @@
 #include <functional>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 #include "api/esp_flasher.h"
@@ -35,10 +36,6 @@ using Lines = std::vector<std::string>;
 
 const std::vector<uint8_t> firmware = testimg::pattern(40000, 3);
 const std::vector<uint8_t> stub = testimg::stubImage();
-
-void logToStderr(const char* line) {
-    std::fprintf(stderr, "%s\n", line);
-}
 
 double secondsSince(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
@@ -132,14 +129,11 @@ TEST(MisbehavingDevice, UnpluggedMidJobFailsWithinTheStepTimeOutAndReleasesThePo
 // Exactly the one line is logged: the port was never opened.
 TEST(MisbehavingDevice, NullBufferWithALengthIsRefusedBeforeThePortOpens) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const esp_log_cb logToStderr = [](const char* line) { std::fprintf(stderr, "%s\n", line); };
     sim::PtyPlotter plotter;
     const std::string path = plotter.path();
-    const struct {
-        const char* buffer;
-        std::function<int()> call;
-        int result;
-        std::string logged;
-    } cases[] = {
+    // The buffer, the call, its result and what it logs.
+    const std::tuple<const char*, std::function<int()>, int, std::string> cases[] = {
         {"firmware", [&] { return int(flash(path, nullptr, 20000, stub.data(), {}, logToStderr)); },
          6, "Invalid argument: firmware is null with length 20000\n"},
         {"stub", [&] { return int(flash(path, firmware.data(), 1, nullptr, {}, logToStderr)); }, 5,
@@ -149,15 +143,15 @@ TEST(MisbehavingDevice, NullBufferWithALengthIsRefusedBeforeThePortOpens) {
         {"probe stub", [&] { return esp_probe_partition_table(path.c_str(), nullptr, 140); }, -1,
          ""},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.buffer);
-        auto untouched = [&] {
-            bool empty = false;
-            plotter.inspect([&](const sim::Plotter& p) { empty = p.transcript().empty(); });
-            return empty;
-        };
-        EXPECT_EXIT(std::_Exit(c.call() == c.result && untouched() ? 0 : 1),
-                    ::testing::ExitedWithCode(0), "^" + c.logged + "$");
+    const auto untouched = [&] {
+        bool empty = false;
+        plotter.inspect([&](const sim::Plotter& p) { empty = p.transcript().empty(); });
+        return empty;
+    };
+    for (const auto& [buffer, call, result, logged] : cases) {
+        SCOPED_TRACE(buffer);
+        EXPECT_EXIT(std::_Exit(call() == result && untouched() ? 0 : 1),
+                    ::testing::ExitedWithCode(0), "^" + logged + "$");
     }
 }
 
