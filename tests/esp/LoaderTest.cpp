@@ -1,4 +1,4 @@
-#include <cstdio>
+#include <tuple>
 
 #include "LoaderFixture.h"
 
@@ -32,12 +32,9 @@ TEST_P(SyncDrainTest, DrainsAtMostSevenExtraReplies) {
             pieces.assign(GetParam() - 1, response(esp::SYNC));
             return response(esp::SYNC);
         }
-        Bytes late;
+        // Behind the SYNC replies the drain left.
         pieces.push_back(response(r.op, 0, Bytes(14)));
-        for (; !pieces.empty(); pieces.pop_front()) {
-            late.insert(late.end(), pieces.front().begin(), pieces.front().end());
-        }
-        return late;
+        return Bytes{};
     };
     ASSERT_TRUE(loader.sync(1));
     loader.readChipId();
@@ -79,6 +76,10 @@ TEST_F(LoaderTest, EachFailedExchangeLogsExactlyOneLine) {
         {{0xC0, 0xC0}, "NO RESPONSE: READ_REG"},
         {{0xC0, 0x01, 0xDB, 0x07, 0xC0}, "NO RESPONSE: READ_REG"},
         {slip::encode({1, 0x0A, 0, 0, 0, 0, 0}), "PARSE FAIL: READ_REG payload_size=7"},
+        {slip::encode({0, 0x0A, 4, 0, 0, 0, 0, 0, 0, 0, 0, 0}),
+         "PARSE FAIL: READ_REG payload_size=12"},
+        {slip::encode({1, 0x0A, 6, 0, 0, 0, 0, 0, 0, 0, 0, 0}),
+         "PARSE FAIL: READ_REG payload_size=12"},
         {response(esp::READ_REG, 0, {}, 0, 0, 2), "PARSE FAIL: READ_REG payload_size=10"},
         {response(esp::SYNC), "CMD MISMATCH: sent READ_REG got SYNC"},
         {response(0xD0), "CMD MISMATCH: sent READ_REG got CMD_0xD0"},
@@ -87,7 +88,7 @@ TEST_F(LoaderTest, EachFailedExchangeLogsExactlyOneLine) {
     };
     for (const auto& [bytes, line] : cases) {
         lines.clear();
-        reply = [&](const Request&) { return bytes; };
+        reply = [&bytes = bytes](const Request&) { return bytes; };
         const esp::CommandResult result = loader.sendCommand(esp::READ_REG, words({0}), 0, 3000);
         EXPECT_FALSE(result.ok);
         EXPECT_EQ(result.value, 0u);
@@ -118,14 +119,13 @@ TEST_F(LoaderTest, ChipIdNeedsFourteenDataBytesAndFusesTolerateOnlyBitTwo) {
     const std::string ok = "Security check OK - no secure boot or flash encryption";
     const std::string bad =
         "WARNING: Unexpected security fuse value! Secure boot or flash encryption may be enabled.";
-    for (const uint32_t fuses : {4u, 1u, 0x80000004u}) {
+    const std::tuple<uint32_t, std::string, bool> fuses[] = {
+        {4, "0x00000004", true}, {1, "0x00000001", false}, {0x80000004, "0x80000004", false}};
+    for (const auto& [value, shown, passes] : fuses) {
         lines.clear();
-        reply = [&](const Request& r) { return response(r.op, fuses); };
-        const bool passes = fuses == 4;
-        EXPECT_EQ(loader.checkSecurityFuses(), passes) << fuses;
-        char shown[32];
-        std::snprintf(shown, sizeof shown, "Security fuses: 0x%08x", fuses);
-        EXPECT_EQ(lines, (Lines{shown, passes ? ok : bad}));
+        reply = [value = value](const Request& r) { return response(r.op, value); };
+        EXPECT_EQ(loader.checkSecurityFuses(), passes) << shown;
+        EXPECT_EQ(lines, (Lines{"Security fuses: " + shown, passes ? ok : bad}));
     }
     EXPECT_EQ(sent.back().payload, words({0x3FF5A018}));
 }

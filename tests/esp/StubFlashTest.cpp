@@ -1,15 +1,11 @@
 #include "LoaderFixture.h"
+#include "tests/support/Records.h"
 
 namespace {
 
+using namespace records;
 using testimg::pattern;
 using testimg::stubImage;
-
-std::vector<std::pair<float, std::string>> progressCalls;
-
-void recordProgress(float fraction, const char* stage) {
-    progressCalls.emplace_back(fraction, stage);
-}
 
 class StubTest : public LoaderTest {
   protected:
@@ -31,18 +27,12 @@ TEST_F(StubTest, UploadsSegmentsInRamBlocksThenSpeaksStubStatus) {
     EXPECT_EQ(lines, Lines{"Stub: text=6145 @ 0x40380000 data=8 @ 0x3fc90000 entry=0x40380004"});
     ASSERT_EQ(sent.size(), 6u);
     EXPECT_EQ(sent[0].payload, words({6145, 2, 6144, 0x40380000}));
-    ASSERT_EQ(image[20 + 6144], 0x66);
     EXPECT_EQ(sent[2].payload, (Bytes{1, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0x66}));
     EXPECT_EQ(sent[2].checksum, 0x89u);
     EXPECT_EQ(sent[3].payload, words({8, 1, 6144, 0x3FC90000}));
     EXPECT_EQ(sent[5].op, esp::MEM_END);
     EXPECT_EQ(sent[5].payload, words({0, 0x40380004}));
-
-    reply = [](const Request& r) { return response(r.op, 0, {}, 0, 0, 2); };
-    EXPECT_TRUE(loader.attachFlash());
-    loader.hardReset();
-    EXPECT_FALSE(loader.attachFlash()) << "after a reset the ROM's four status bytes are due";
-    EXPECT_EQ(lines.end()[-2], "PARSE FAIL: SPI_ATTACH payload_size=10");
+    EXPECT_TRUE(loader.stubRunning());
 }
 
 TEST_F(StubTest, FailuresLeaveTheStubStopped) {
@@ -88,12 +78,8 @@ class FlashTest : public StubTest {
         sent.clear();
         lines.clear();
         progressCalls.clear();
-        reply = [this](const Request& r) {
-            const bool fail = r.op == esp::FLASH_DATA && sent.size() == failAt;
-            return response(r.op, 0, {}, fail, fail ? 7 : 0, 2);
-        };
+        reply = [](const Request& r) { return response(r.op, 0, {}, 0, 0, 2); };
     }
-    size_t failAt = 0;
 };
 
 // Every FLASH_DATA carries a whole block: its length word says 16384 and its
@@ -129,41 +115,47 @@ TEST_F(FlashTest, PadsTheLastBlockAndReportsProgressInSinglePrecision) {
     EXPECT_EQ(progressCalls, expected);
 }
 
-TEST_F(FlashTest, FailedBlockStopsWritingAndEmptyImageOnlyBegins) {
-    const Bytes image = pattern(10 * 16384);
-    failAt = 4;
-    EXPECT_FALSE(loader.flashImage(0, image.data(), image.size(), recordProgress, 0, 1));
-    EXPECT_EQ(sent.size(), 4u);
-    EXPECT_EQ(progressCalls.size(), 2u);
-    EXPECT_EQ(lines.back(), "ERROR: FLASH_DATA status=1 error=7");
-
-    sent.clear();
+TEST_F(FlashTest, AnEmptyImageOnlyBegins) {
     EXPECT_TRUE(loader.flashImage(0x8000, nullptr, 0, recordProgress, 0, 1));
     ASSERT_EQ(sent.size(), 1u);
     EXPECT_EQ(sent[0].payload, words({0, 0, 16384, 0x8000, 0}));
-    EXPECT_EQ(progressCalls.size(), 2u);
+    EXPECT_TRUE(progressCalls.empty());
 }
 
-TEST_F(FlashTest, CommandLogLines) {
-    EXPECT_TRUE(loader.attachFlash());
-    EXPECT_TRUE(loader.flashEnd());
-    EXPECT_EQ(sent[0].payload, words({0}));
-    EXPECT_EQ(sent[1].payload, words({1}));
+// Against silence every command gives up after its own time-out: the whole-chip
+// erase is answered only when it has finished, so it waits longest.
+TEST_F(FlashTest, EachCommandGivesUpAfterItsOwnTimeOut) {
     reply = [](const Request&) { return Bytes{}; };
-    EXPECT_FALSE(loader.attachFlash());
-    EXPECT_FALSE(loader.flashEnd());
-    EXPECT_FALSE(loader.flashImage(0, nullptr, 0, nullptr, 0, 1));
-    EXPECT_NEAR(elapsedMs([&] { EXPECT_FALSE(loader.eraseFlash()); }), 60000, 100);
-    EXPECT_EQ(sent.back().op, esp::ERASE_FLASH);
-    EXPECT_EQ(lines, (Lines{"SPI_ATTACH (default pins)", "SPI_ATTACH OK", "FLASH_END OK",
-                            "SPI_ATTACH (default pins)", "NO RESPONSE: SPI_ATTACH",
-                            "SPI_ATTACH FAILED", "NO RESPONSE: FLASH_END", "FLASH_END FAILED",
-                            "FLASH_BEGIN addr=0x00000000 size=0 blocks=0 blockSize=16384",
-                            "NO RESPONSE: FLASH_BEGIN", "FLASH_BEGIN FAILED",
-                            "ERASE_FLASH (full chip erase)", "NO RESPONSE: CMD_0xD0",
-                            "ERASE_FLASH FAILED"}));
+    const auto expectSilence = [&](const std::function<bool()>& call, double ms,
+                                   const Bytes& payload, const Lines& expected) {
+        SCOPED_TRACE(expected.back());
+        lines.clear();
+        bool ok = true;
+        EXPECT_NEAR(elapsedMs([&] { ok = call(); }), ms, 5);
+        EXPECT_FALSE(ok);
+        EXPECT_EQ(sent.back().payload, payload);
+        EXPECT_EQ(lines, expected);
+    };
+    const Bytes abc = {'a', 'b', 'c'};
+    expectSilence([&] { return loader.attachFlash(); }, 3000, words({0}),
+                  {"SPI_ATTACH (default pins)", "NO RESPONSE: SPI_ATTACH", "SPI_ATTACH FAILED"});
+    expectSilence([&] { return loader.flashEnd(); }, 3000, words({1}),
+                  {"NO RESPONSE: FLASH_END", "FLASH_END FAILED"});
+    expectSilence([&] { return loader.flashImage(0, nullptr, 0, nullptr, 0, 1); }, 10000,
+                  words({0, 0, 16384, 0, 0}),
+                  {"FLASH_BEGIN addr=0x00000000 size=0 blocks=0 blockSize=16384",
+                   "NO RESPONSE: FLASH_BEGIN", "FLASH_BEGIN FAILED"});
+    expectSilence([&] { return loader.eraseFlash(); }, 60000, {},
+                  {"ERASE_FLASH (full chip erase)", "NO RESPONSE: CMD_0xD0", "ERASE_FLASH FAILED"});
+    expectSilence([&] { return loader.verifyFlash(0x10000, abc.size(), abc.data()); }, 10000,
+                  words({0x10000, 3, 0, 0}),
+                  {"VERIFY addr=0x00010000 size=3", "NO RESPONSE: SPI_FLASH_MD5",
+                   "VERIFY: MD5 command failed"});
+    expectSilence([&] { return !loader.readFlash(0x8000, 3072).empty(); }, 3000,
+                  words({0x8000, 3072, 16384, 1}), {"NO RESPONSE: READ_FLASH"});
 }
 
+// Only the first sixteen bytes of the stub's digest count.
 TEST_F(FlashTest, VerifyComparesTheFirstSixteenDigestBytes) {
     const Bytes abc = {'a', 'b', 'c'};
     const Bytes local = {0x90, 0x01, 0x50, 0x98, 0x3c, 0xd2, 0x4f, 0xb0,
@@ -181,24 +173,15 @@ TEST_F(FlashTest, VerifyComparesTheFirstSixteenDigestBytes) {
     };
     for (const auto& [digest, last] : cases) {
         lines.clear();
-        reply = [&](const Request& r) { return response(r.op, 0, digest, 0, 0, 2); };
+        reply = [&digest = digest](const Request& r) { return response(r.op, 0, digest, 0, 0, 2); };
         EXPECT_EQ(loader.verifyFlash(0x10000, abc.size(), abc.data()), last == "VERIFY OK");
         EXPECT_EQ(lines.back(), last);
     }
-    EXPECT_EQ(sent.back().payload, words({0x10000, 3, 0, 0}));
-    EXPECT_EQ(
-        lines,
-        (Lines{"VERIFY addr=0x00010000 size=3", "VERIFY local_md5=900150983cd24fb0d6963f7d28e17f72",
-               "VERIFY flash_md5=30303030303030303030303030303030", "VERIFY MISMATCH"}));
-
-    lines.clear();
-    reply = [](const Request& r) { return response(r.op, 0, {}, 1, 2, 2); };
-    EXPECT_FALSE(loader.verifyFlash(0, 0, nullptr));
-    EXPECT_EQ(lines,
-              (Lines{"VERIFY addr=0x00000000 size=0", "ERROR: SPI_FLASH_MD5 status=1 error=2",
-                     "VERIFY: MD5 command failed"}));
+    EXPECT_EQ(lines[2], "VERIFY flash_md5=30303030303030303030303030303030");
 }
 
+// Data frames until the size is reached, then a trailer frame that is waited for
+// but not needed; a frame that never comes fails the read after 5 s.
 TEST_F(FlashTest, ReadFlashGathersFramesAndWaitsForTheTrailer) {
     const Bytes flash = pattern(4096);
     const Bytes wanted(flash.begin(), flash.begin() + 3072);
@@ -227,7 +210,6 @@ TEST_F(FlashTest, ReadFlashGathersFramesAndWaitsForTheTrailer) {
         EXPECT_NEAR(elapsedMs([&] { got = loader.readFlash(0x8000, c.size); }), c.ms, 20);
         EXPECT_EQ(got, c.result);
     }
-    EXPECT_EQ(sent[0].payload, words({0x8000, 3072, 16384, 1}));
     EXPECT_TRUE(lines.empty());
 }
 

@@ -11,10 +11,6 @@
 
 namespace {
 
-std::vector<uint8_t> bytes(const std::string& text) {
-    return {text.begin(), text.end()};
-}
-
 // A firmware console over loopback: one chunk per read, so lines arrive split.
 class FakeConsole {
   public:
@@ -36,7 +32,7 @@ class FakeConsole {
                     mono::sleepMs(timeoutMs);
                     return std::vector<uint8_t>{};
                 }
-                auto chunk = bytes(pending.front());
+                std::vector<uint8_t> chunk(pending.front().begin(), pending.front().end());
                 pending.pop_front();
                 return chunk;
             });
@@ -48,10 +44,11 @@ struct VersionCase {
     std::optional<std::string> expected;
     std::deque<std::string> stale = {};
     int64_t ms = 50;  // the drain's empty 50 ms read, then the answer at once
+    int timeoutMs = 2000;
 };
 
 void PrintTo(const VersionCase& c, std::ostream* os) {
-    *os << ::testing::PrintToString(c.answer);
+    *os << ::testing::PrintToString(c.answer) << " within " << c.timeoutMs << " ms";
 }
 
 class QueryVersionTest : public ::testing::TestWithParam<VersionCase> {};
@@ -63,7 +60,7 @@ TEST_P(QueryVersionTest, CutsTheVersionFromTheReport) {
     SerialPort port;
     console.attach(port);
     const int64_t start = mono::nowNs();
-    EXPECT_EQ(fluidnc::queryVersion(port, 2000), GetParam().expected);
+    EXPECT_EQ(fluidnc::queryVersion(port, GetParam().timeoutMs), GetParam().expected);
     EXPECT_NEAR(virtualMsSince(start), GetParam().ms, 1);
     EXPECT_EQ(console.written, "$I\n");
 }
@@ -82,16 +79,8 @@ INSTANTIATE_TEST_SUITE_P(
                       VersionCase{{"[VER:3.1\n", "[OPT:x]\n", "ok\n", "[VER:9.9]\n"}, std::nullopt},
                       VersionCase{{"boot text\n", "look\n", "[VER:4.0]\n"}, std::nullopt},
                       VersionCase{{"[VER:2.1:new]\n"}, "2.1", {"[VER:0.9:old]\n", "ok\n"}},
-                      VersionCase{{""}, std::nullopt, {}, 50 + 2000}));
-
-TEST(QueryVersion, WithoutTimeSendsTheQueryButReadsNothing) {
-    FakeConsole console;
-    console.answer = {"[VER:1.0]\n"};
-    SerialPort port;
-    console.attach(port);
-    EXPECT_EQ(fluidnc::queryVersion(port, 0), std::nullopt);
-    EXPECT_EQ(console.written, "$I\n");
-}
+                      VersionCase{{""}, std::nullopt, {}, 50 + 2000},
+                      VersionCase{{"[VER:1.0]\n"}, std::nullopt, {}, 50, 0}));
 
 TEST(WaitForOk, EndsOnALineContainingOkOrAtTheDeadline) {
     FakeConsole console;

@@ -8,6 +8,7 @@
 
 #include "fluidnc/XModem.h"
 #include "serial/Clock.h"
+#include "tests/support/Records.h"
 #include "tests/support/TestImages.h"
 #include "tests/support/VirtualTime.h"
 
@@ -19,18 +20,13 @@ constexpr uint8_t NAK = 0x15;
 constexpr uint8_t CAN = 0x18;
 const std::string kCommand = "$Xmodem/Receive=config.yaml\n";
 
-std::vector<std::pair<float, std::string>> progressCalls;
+using namespace records;
 
-void recordProgress(float fraction, const char* stage) {
-    progressCalls.emplace_back(fraction, stage);
-}
-
-// An XModem receiver behind the console: it asks for the transfer `firstMs` after
+// An XModem receiver behind the console: it asks for the transfer a second after
 // the command and again every second, and answers each block as scripted (ACK by
 // default). Block times are virtual milliseconds after the command.
 struct FakeReceiver {
     uint8_t handshake = 'C';
-    int firstMs = 1000;
     std::string chatter;  // console text that arrives just before the first handshake
     std::map<size_t, std::vector<uint8_t>> blockReplies;  // by transmission index
     int eotRefusals = 0;
@@ -49,7 +45,7 @@ struct FakeReceiver {
     std::vector<uint8_t> onWrite(const uint8_t* data, size_t len) {
         if (std::string(reinterpret_cast<const char*>(data), len) == kCommand) {
             commandNs = mono::nowNs();
-            nextHandshakeNs = commandNs + int64_t{firstMs} * 1'000'000;
+            nextHandshakeNs = commandNs + 1'000'000'000;
             const std::string text = "[MSG:INFO: Receiving config.yaml]\r\n";
             return {text.begin(), text.end()};
         }
@@ -82,7 +78,7 @@ using testimg::pattern;
 
 class XModemTest : public ::testing::Test {
   protected:
-    void SetUp() override { progressCalls.clear(); }
+    void SetUp() override { clearRecords(); }
 
     bool upload(const std::vector<uint8_t>& file) {
         receiver.attach(port);
@@ -101,53 +97,38 @@ class XModemTest : public ::testing::Test {
     SerialPort port;
 };
 
-TEST(Crc16, MatchesTheXModemCheckValue) {
-    const std::string digits = "123456789";
-    EXPECT_EQ(fluidnc::crc16(reinterpret_cast<const uint8_t*>(digits.data()), 9), 0x31C3);
-}
-
-struct ModeCase {
-    const char* name;
-    uint8_t handshake;
-    std::vector<uint8_t> trailers[2];  // of the two blocks; together they use every CRC table entry
-};
-
-void PrintTo(const ModeCase& c, std::ostream* os) {
-    *os << c.name;
-}
-
-class XModemModeTest : public XModemTest, public ::testing::WithParamInterface<ModeCase> {};
-
-TEST_P(XModemModeTest, SendsPaddedBlocksWithTheCheckTheReceiverAskedFor) {
-    receiver.handshake = GetParam().handshake;
+// Two blocks whose bytes together use every entry of the CRC table.
+TEST_F(XModemTest, SendsPaddedBlocksWithTheCheckTheReceiverAskedFor) {
+    // The handshake and the trailers of the two blocks.
+    const std::pair<uint8_t, std::vector<std::vector<uint8_t>>> modes[] = {
+        {'C', {{0x86, 0x19}, {0x50, 0x96}}}, {NAK, {{0x09}, {0xE8}}}};
     const auto file = pattern(1025);
-    ASSERT_TRUE(upload(file));
-
-    ASSERT_EQ(receiver.blocks.size(), 2u);
-    std::vector<uint8_t> received;
-    for (size_t i = 0; i < 2; ++i) {
-        const auto& block = receiver.blocks[i];
-        const auto& trailer = GetParam().trailers[i];
-        ASSERT_EQ(block.size(), 1027 + trailer.size());
-        EXPECT_EQ(block[0], 0x02);
-        EXPECT_EQ(block[1], i + 1);
-        EXPECT_EQ(block[2], 255 - (i + 1));
-        EXPECT_EQ(std::vector<uint8_t>(block.begin() + 1027, block.end()), trailer);
-        received.insert(received.end(), block.begin() + 3, block.begin() + 1027);
-    }
     auto expected = file;
     expected.resize(2048, 0x1A);
-    EXPECT_EQ(received, expected);
-    EXPECT_EQ(receiver.eots, 1);
-    const decltype(progressCalls) fractions = {{0.999024391f, "Uploading config file..."},
-                                               {1.0f, "Uploading config file..."}};
-    EXPECT_EQ(progressCalls, fractions);
+    for (const auto& [handshake, trailers] : modes) {
+        SCOPED_TRACE(handshake == 'C' ? "CRC" : "checksum");
+        receiver = FakeReceiver{};
+        receiver.handshake = handshake;
+        clearRecords();
+        ASSERT_TRUE(upload(file));
+        ASSERT_EQ(receiver.blocks.size(), 2u);
+        std::vector<uint8_t> received;
+        for (uint8_t i = 0; i < 2; ++i) {
+            const auto& block = receiver.blocks[i];
+            ASSERT_EQ(block.size(), 1027 + trailers[i].size());
+            EXPECT_EQ(std::vector<uint8_t>(block.begin(), block.begin() + 3),
+                      (std::vector<uint8_t>{0x02, static_cast<uint8_t>(i + 1),
+                                            static_cast<uint8_t>(254 - i)}));
+            EXPECT_EQ(std::vector<uint8_t>(block.begin() + 1027, block.end()), trailers[i]);
+            received.insert(received.end(), block.begin() + 3, block.begin() + 1027);
+        }
+        EXPECT_EQ(received, expected);
+        EXPECT_EQ(receiver.eots, 1);
+        const decltype(progressCalls) fractions = {{0.999024391f, "Uploading config file..."},
+                                                   {1.0f, "Uploading config file..."}};
+        EXPECT_EQ(progressCalls, fractions);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Modes, XModemModeTest,
-                         ::testing::Values(ModeCase{"Crc", 'C', {{0x86, 0x19}, {0x50, 0x96}}},
-                                           ModeCase{"Checksum", NAK, {{0x09}, {0xE8}}}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 // Past 16 MiB a length has no exact float: single precision reports 1024 / 2^24
 // for the first block where double precision would give 1024 / (2^24 + 1).
@@ -200,30 +181,19 @@ TEST_F(XModemTest, SendsABlockOrTheEndOfTransmissionUpTo25Times) {
     }
 }
 
-TEST_F(XModemTest, ConsoleTextBeforeTheHandshakeUsesUpTries) {
-    receiver.chatter = std::string(29, '.');
-    EXPECT_TRUE(upload(pattern(10)));
-    receiver = FakeReceiver{};
-    receiver.chatter = std::string(30, '.');
-    EXPECT_FALSE(upload(pattern(10)));
-    EXPECT_TRUE(receiver.blocks.empty());
-}
-
-// The console's reply is drained for 500 ms: a handshake sent within that time is
-// swallowed with it, and the transfer starts at the receiver's next one.
-TEST_F(XModemTest, DrainsHalfASecondAfterTheCommand) {
-    receiver.firstMs = 200;
-    ASSERT_TRUE(upload(pattern(10)));
-    EXPECT_EQ(receiver.blockMs, std::vector<int64_t>{1200});
-}
-
-TEST_F(XModemTest, ReportsAMissingHandshakeAfterThirtySeconds) {
+// Thirty tries of a second each; every byte of console text uses up one.
+TEST_F(XModemTest, WaitsThirtyTriesForTheHandshake) {
     receiver.handshake = 0;
     EXPECT_FALSE(upload(pattern(10)));
     EXPECT_EQ(virtualMsSince(receiver.commandNs), 500 + 30 * 1000);
-    EXPECT_TRUE(receiver.blocks.empty());
     const decltype(progressCalls) report = {{0.0f, "XModem: no handshake received (30s timeout)"}};
     EXPECT_EQ(progressCalls, report);
+    for (const auto& [chatter, ok] : {std::pair{29, true}, std::pair{30, false}}) {
+        receiver = FakeReceiver{};
+        receiver.chatter = std::string(chatter, '.');
+        EXPECT_EQ(upload(pattern(10)), ok) << chatter << " bytes of console text";
+        EXPECT_EQ(receiver.blocks.size(), ok ? 1u : 0u);
+    }
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "image/FirmwareCheck.h"
@@ -16,10 +17,6 @@ using Bytes = std::vector<uint8_t>;
 Bytes devImage(const std::string& name) {
     std::ifstream file(std::string(TFU_DEV_RESOURCES_DIR "/") + name, std::ios::binary);
     return Bytes(std::istreambuf_iterator<char>(file), {});
-}
-
-image::ImageReport inspect(const Bytes& bytes) {
-    return image::inspectImage(bytes.data(), bytes.size());
 }
 
 Bytes changed(Bytes bytes, size_t at, uint8_t value) {
@@ -35,33 +32,29 @@ Bytes resized(Bytes bytes, size_t size, uint8_t fill = 0xFF) {
 constexpr uint32_t kDevApplicationPartition = 0x1E0000;
 
 TEST(ImageInspection, ReadsTheDevelopmentSet) {
-    const auto firmware = inspect(devImage("firmware.bin"));
-    EXPECT_EQ(firmware.layoutFault, "");
-    EXPECT_EQ(firmware.chipId, 9);
-    EXPECT_EQ(firmware.segments.size(), 4u);
-    EXPECT_TRUE(firmware.checksumMatches);
-    EXPECT_TRUE(firmware.sha256Appended && firmware.sha256Matches);
+    const Bytes file = devImage("firmware.bin");
+    const auto firmware = image::inspectImage(file.data(), file.size());
+    EXPECT_EQ(std::tuple(firmware.layoutFault, firmware.chipId, firmware.segments.size()),
+              std::tuple("", 9, 4u));
+    EXPECT_TRUE(firmware.checksumMatches && firmware.sha256Appended && firmware.sha256Matches &&
+                firmware.developmentMarker);
     ASSERT_TRUE(firmware.app);
-    EXPECT_EQ(firmware.app->version, "0.0.0-devset");
-    EXPECT_EQ(firmware.app->projectName, "teskal-devset");
-    EXPECT_EQ(firmware.app->date + " " + firmware.app->time, "Jan  1 2000 00:00:00");
-    EXPECT_TRUE(firmware.developmentMarker);
-
-    const Bytes tableBytes = devImage("partitions.bin");
-    const auto table = image::inspectPartitionTable(tableBytes.data(), tableBytes.size());
-    ASSERT_EQ(table.entries.size(), 5u);
-    EXPECT_EQ(table.entries[4].label, "spiffs");
-    EXPECT_EQ(table.md5, image::PartitionTableReport::Md5::matches);
-    EXPECT_EQ(table.applicationSize, kDevApplicationPartition);
+    const auto& app = *firmware.app;
+    EXPECT_EQ(app.version + "|" + app.projectName + "|" + app.date + " " + app.time,
+              "0.0.0-devset|teskal-devset|Jan  1 2000 00:00:00");
 
     // A changed label no longer matches the MD5 entry; without app0 there is no limit.
-    const Bytes renamed = changed(tableBytes, 2 * 32 + 12, 'b');
-    const auto damaged = image::inspectPartitionTable(renamed.data(), renamed.size());
-    EXPECT_EQ(damaged.md5, image::PartitionTableReport::Md5::differs);
-    EXPECT_EQ(damaged.applicationSize, kDevApplicationPartition);
-    const auto twoEntries = image::inspectPartitionTable(tableBytes.data(), 64);
-    EXPECT_EQ(twoEntries.md5, image::PartitionTableReport::Md5::absent);
-    EXPECT_FALSE(twoEntries.applicationSize);
+    using Md5 = image::PartitionTableReport::Md5;
+    const Bytes table = devImage("partitions.bin");
+    const auto inspectTable = [](const Bytes& bytes, size_t size) {
+        const auto report = image::inspectPartitionTable(bytes.data(), size);
+        return std::tuple(report.entries.size(), report.md5, report.applicationSize);
+    };
+    EXPECT_EQ(inspectTable(table, table.size()),
+              std::tuple(5u, Md5::matches, kDevApplicationPartition));
+    EXPECT_EQ(inspectTable(changed(table, 2 * 32 + 12, 'b'), table.size()),
+              std::tuple(5u, Md5::differs, kDevApplicationPartition));
+    EXPECT_EQ(inspectTable(table, 64), std::tuple(2u, Md5::absent, std::nullopt));
 }
 
 TEST(ImageInspection, RefusesWhatMustNotBeWrittenAsFirmware) {
@@ -72,41 +65,42 @@ TEST(ImageInspection, RefusesWhatMustNotBeWrittenAsFirmware) {
     const image::FirmwareRules real{kDevApplicationPartition, false};
     const image::FirmwareRules simulated{kDevApplicationPartition, true};
     const image::FirmwareRules noTable{std::nullopt, true};
-    struct Row {
-        const char* name;
-        Bytes bytes;
-        image::FirmwareRules rules;
-        std::optional<std::string> refusal;
-    };
-    const Row rows[] = {
-        {"0 bytes", {}, simulated, "an empty file (0 bytes)"},
-        {"text as .bin", text, simulated, "not a firmware image (first byte 0x7B, expected 0xE9)"},
-        {"cut in header", resized(firmware, 20), simulated, "damaged: it ends inside its header"},
-        {"no segments", changed(firmware, 1, 0), simulated,
-         "damaged: it declares 0 segments (1 to 16 expected)"},
-        {"cut in segment 1", resized(firmware, 40000), simulated,
-         "damaged: segment 1 runs past the end of the file"},
-        {"cut in SHA-256", resized(firmware, firmware.size() - 10), simulated,
-         "damaged: it ends before its SHA-256"},
-        {"ESP32 image", changed(firmware, 12, 0), simulated,
-         "built for another chip (chip id 0, ESP32; this machine is an ESP32-S3)"},
-        {"unknown chip", changed(firmware, 12, 77), simulated,
-         "built for another chip (chip id 77; this machine is an ESP32-S3)"},
-        {"segment byte changed", changed(firmware, 40000, firmware[40000] ^ 1), simulated,
-         "damaged: its checksum does not match"},
-        {"SHA-256 changed", changed(firmware, firmware.size() - 1, firmware.back() ^ 1), simulated,
-         "damaged: its SHA-256 does not match"},
-        {"bootloader", devImage("bootloader.bin"), simulated,
-         "not an application image (it has no application description)"},
-        {"4 MiB", resized(firmware, 4 * 1024 * 1024), simulated,
-         "too large for the application partition (4,194,304 bytes; the partition holds "
-         "1,966,080)"},
-        {"development image", firmware, real, "a development image, not firmware"},
-        {"development image, simulated", firmware, simulated, std::nullopt},
-        {"4 MiB, no partition table", resized(firmware, 4 * 1024 * 1024), noTable, std::nullopt},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(image::firmwareRefusal(inspect(row.bytes), row.rules), row.refusal) << row.name;
+    // The file, the rules it is checked under, and the refusal expected (none: accepted).
+    const std::tuple<const char*, Bytes, image::FirmwareRules, std::optional<std::string>> rows[] =
+        {
+            {"0 bytes", {}, simulated, "an empty file (0 bytes)"},
+            {"text as .bin", text, simulated,
+             "not a firmware image (first byte 0x7B, expected 0xE9)"},
+            {"cut in header", resized(firmware, 20), simulated,
+             "damaged: it ends inside its header"},
+            {"no segments", changed(firmware, 1, 0), simulated,
+             "damaged: it declares 0 segments (1 to 16 expected)"},
+            {"cut in segment 1", resized(firmware, 40000), simulated,
+             "damaged: segment 1 runs past the end of the file"},
+            {"cut in SHA-256", resized(firmware, firmware.size() - 10), simulated,
+             "damaged: it ends before its SHA-256"},
+            {"ESP32 image", changed(firmware, 12, 0), simulated,
+             "built for another chip (chip id 0, ESP32; this machine is an ESP32-S3)"},
+            {"unknown chip", changed(firmware, 12, 77), simulated,
+             "built for another chip (chip id 77; this machine is an ESP32-S3)"},
+            {"segment byte changed", changed(firmware, 40000, firmware[40000] ^ 1), simulated,
+             "damaged: its checksum does not match"},
+            {"SHA-256 changed", changed(firmware, firmware.size() - 1, firmware.back() ^ 1),
+             simulated, "damaged: its SHA-256 does not match"},
+            {"bootloader", devImage("bootloader.bin"), simulated,
+             "not an application image (it has no application description)"},
+            {"4 MiB", resized(firmware, 4 * 1024 * 1024), simulated,
+             "too large for the application partition (4,194,304 bytes; the partition holds "
+             "1,966,080)"},
+            {"development image", firmware, real, "a development image, not firmware"},
+            {"development image, simulated", firmware, simulated, std::nullopt},
+            {"4 MiB, no partition table", resized(firmware, 4 * 1024 * 1024), noTable,
+             std::nullopt},
+        };
+    for (const auto& [name, bytes, rules, refusal] : rows) {
+        EXPECT_EQ(image::firmwareRefusal(image::inspectImage(bytes.data(), bytes.size()), rules),
+                  refusal)
+            << name;
     }
 }
 

@@ -15,7 +15,7 @@ using namespace fdcheck;
 
 TEST(Hygiene, ThousandJobsLeaveDescriptorsAndHeapFlat) {
     const auto firmware = testimg::pattern(40000, 1);
-    const auto configFile = testimg::pattern(5000, 7);
+    const auto yaml = testimg::pattern(5000, 7);
     const auto stub = testimg::stubImage();
     auto request = testimg::flashRequest(firmware, firmware, firmware, stub);
     request.expectedVersion = "v3.7.8";
@@ -36,8 +36,7 @@ TEST(Hygiene, ThousandJobsLeaveDescriptorsAndHeapFlat) {
             return esp::runFlashJob(port, request, nullptr, nullptr) == 0;
         }
         if (kind < 6) {
-            return esp::runUploadConfigJob(port, configFile.data(), configFile.size(), nullptr) ==
-                   0;
+            return esp::runUploadConfigJob(port, yaml.data(), yaml.size(), nullptr) == 0;
         }
         return esp::runQueryVersionJob(port).has_value();
     };

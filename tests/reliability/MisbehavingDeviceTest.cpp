@@ -15,11 +15,13 @@
 #include <functional>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 #include "api/esp_flasher.h"
 #include "sim/PtyPlotter.h"
 #include "tests/support/Descriptors.h"
+#include "tests/support/Records.h"
 #include "tests/support/TestImages.h"
 
 // Plotters that do what no healthy one does, and other programs on the plotter's
@@ -28,21 +30,12 @@ namespace {
 
 using namespace std::chrono_literals;
 using namespace fdcheck;
+using namespace records;
 using Clock = std::chrono::steady_clock;
 using Lines = std::vector<std::string>;
 
 const std::vector<uint8_t> firmware = testimg::pattern(40000, 3);
 const std::vector<uint8_t> stub = testimg::stubImage();
-
-Lines logLines;
-
-void recordLog(const char* line) {
-    logLines.emplace_back(line);
-}
-
-void logToStderr(const char* line) {
-    std::fprintf(stderr, "%s\n", line);
-}
 
 double secondsSince(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
@@ -70,32 +63,28 @@ std::string queryVersion(const std::string& path) {
 // A firmware stuck printing status lines never leaves the gap that ends "read until
 // nothing arrives"; each call ends by the drain bound and its own time-outs.
 TEST(MisbehavingDevice, FloodingConsoleEndsEveryCallWithinItsBound) {
-    const struct {
-        const char* call;
-        std::function<std::string(const std::string&)> run;
-        std::string outcome;
-        double boundS;  // settle, 2 s per bounded drain, time-outs, and 1.5 s to spare
-    } cases[] = {
-        {"version query", queryVersion, "null", 0.5 + 2 + 2 + 1.5},
-        {"configuration upload", [](auto& path) { return "code " + std::to_string(upload(path)); },
-         "code 8", 0.5 + (2 + 2) + 2 + 1.5},
-        {"version confirmation",
-         [](auto& path) {
-             const auto code = flash(path, firmware.data(), firmware.size(), stub.data(), "2.10.6");
-             return "code " + std::to_string(code) + ", " + logLines.back();
-         },
-         "code 0, Could not confirm firmware version after update.",
-         2 + 2 + 3 * (2 + 2) + 2 * 1 + 1.5},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.call);
+    const auto expectBounded = [](const std::function<std::string(const std::string&)>& call,
+                                  const std::string& outcome, double boundS,
+                                  int row = __builtin_LINE()) {
+        const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
         sim::Config config;
         config.floodConsole = true;
         sim::PtyPlotter plotter(config);
         const auto start = Clock::now();
-        EXPECT_EQ(c.run(plotter.path()), c.outcome);
-        EXPECT_LT(secondsSince(start), c.boundS);
-    }
+        EXPECT_EQ(call(plotter.path()), outcome);
+        EXPECT_LT(secondsSince(start), boundS);
+    };
+    // Bounds: settle, 2 s per bounded drain, time-outs, and 1.5 s to spare.
+    expectBounded(queryVersion, "null", 0.5 + 2 + 2 + 1.5);
+    expectBounded([](auto& path) { return "code " + std::to_string(upload(path)); }, "code 8",
+                  0.5 + (2 + 2) + 2 + 1.5);
+    expectBounded(
+        [](auto& path) {
+            const auto code = flash(path, firmware.data(), firmware.size(), stub.data(), "2.10.6");
+            return "code " + std::to_string(code) + ", " + logLines.back();
+        },
+        "code 0, Could not confirm firmware version after update.",
+        2 + 2 + 3 * (2 + 2) + 2 * 1 + 1.5);
 }
 
 // The chip hangs after the first block and takes nothing more. A block of 0xC0
@@ -113,18 +102,38 @@ TEST(MisbehavingDevice, DeviceThatStopsReadingEndsTheJobAfterTheWriteStall) {
     EXPECT_EQ(descriptorsOn(plotter.path()), 1u) << "only the simulator's own side may stay open";
 }
 
+// The cable is pulled in the middle of a job. The simulator closes its side, the
+// line hangs up, and the step that was waiting runs into its time-out.
+TEST(MisbehavingDevice, UnpluggedMidJobFailsWithinTheStepTimeOutAndReleasesThePort) {
+    const auto expectUnplug = [](const std::function<void(sim::Config&)>& unplug,
+                                 const std::function<esp_error_t(const std::string&)>& job,
+                                 esp_error_t code, double boundS, int row = __builtin_LINE()) {
+        const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
+        sim::Config config;
+        unplug(config);
+        sim::PtyPlotter plotter(config);
+        const auto start = Clock::now();
+        EXPECT_EQ(job(plotter.path()), code);
+        EXPECT_LT(secondsSince(start), boundS);
+        EXPECT_EQ(descriptorsOn(plotter.path()), 0u) << "the job left its port open";
+    };
+    // Bounds: settle, reset and exchanges, then the time-out of the waiting step.
+    const auto flashJob = [](const std::string& path) { return flash(path); };
+    expectUnplug([](auto& c) { c.goneAfterFlashData = 2; }, flashJob, 6, 10.0 + 5.0);
+    expectUnplug([](auto& c) { c.goneAtMd5 = 0; }, flashJob, 7, 10.0 + 5.0);
+    expectUnplug([](auto& c) { c.goneAfterXModemBlocks = 2; },
+                 [](const std::string& path) { return upload(path); }, 8, 7.5 + 5.0);
+}
+
 // In a child process, so that a crash fails the case rather than the test program.
 // Exactly the one line is logged: the port was never opened.
 TEST(MisbehavingDevice, NullBufferWithALengthIsRefusedBeforeThePortOpens) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const esp_log_cb logToStderr = [](const char* line) { std::fprintf(stderr, "%s\n", line); };
     sim::PtyPlotter plotter;
     const std::string path = plotter.path();
-    const struct {
-        const char* buffer;
-        std::function<int()> call;
-        int result;
-        std::string logged;
-    } cases[] = {
+    // The buffer, the call, its result and what it logs.
+    const std::tuple<const char*, std::function<int()>, int, std::string> cases[] = {
         {"firmware", [&] { return int(flash(path, nullptr, 20000, stub.data(), {}, logToStderr)); },
          6, "Invalid argument: firmware is null with length 20000\n"},
         {"stub", [&] { return int(flash(path, firmware.data(), 1, nullptr, {}, logToStderr)); }, 5,
@@ -134,15 +143,15 @@ TEST(MisbehavingDevice, NullBufferWithALengthIsRefusedBeforeThePortOpens) {
         {"probe stub", [&] { return esp_probe_partition_table(path.c_str(), nullptr, 140); }, -1,
          ""},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.buffer);
-        auto untouched = [&] {
-            bool empty = false;
-            plotter.inspect([&](const sim::Plotter& p) { empty = p.transcript().empty(); });
-            return empty;
-        };
-        EXPECT_EXIT(std::_Exit(c.call() == c.result && untouched() ? 0 : 1),
-                    ::testing::ExitedWithCode(0), "^" + c.logged + "$");
+    const auto untouched = [&] {
+        bool empty = false;
+        plotter.inspect([&](const sim::Plotter& p) { empty = p.transcript().empty(); });
+        return empty;
+    };
+    for (const auto& [buffer, call, result, logged] : cases) {
+        SCOPED_TRACE(buffer);
+        EXPECT_EXIT(std::_Exit(call() == result && untouched() ? 0 : 1),
+                    ::testing::ExitedWithCode(0), "^" + logged + "$");
     }
 }
 

@@ -4,15 +4,12 @@
 #include <QMetaObject>
 #include <QObject>
 
-// Preloaded into the application-core tests under ThreadSanitizer.
-//
-// Qt hands a queued call from the posting thread to the receiving thread through its
-// event queue, guarded by futex-based mutexes inside the uninstrumented Qt libraries.
-// ThreadSanitizer cannot see that synchronisation and would take every capture of a
-// posted functor for a race. These two hooks restate the hand-off without changing
-// what Qt does: the posting side releases before Qt queues the call, the receiving
-// side acquires before Qt delivers an event to an object whose class is ours (Qt's
-// own classes bind to their own QObject::event and never reach this one).
+// Preloaded into the application-core tests under ThreadSanitizer. Qt hands a queued
+// call to the receiving thread under futex-based mutexes inside its uninstrumented
+// libraries, so ThreadSanitizer would take every capture of a posted functor for a
+// race. These hooks restate the hand-off without changing what Qt does: release before
+// Qt queues a call, acquire before it delivers an event to an object of one of our
+// classes (Qt's own classes bind to Qt's QObject::event and never reach this one).
 namespace {
 
 char handOff;

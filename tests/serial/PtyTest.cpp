@@ -13,6 +13,7 @@
 #include <csignal>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <utility>
 
 #include "serial/PosixImpl.h"
@@ -27,20 +28,18 @@ std::atomic<bool> interruptNextWrite{false};
 extern "C" ssize_t __real_read(int fd, void* buf, size_t n);
 extern "C" ssize_t __real_write(int fd, const void* buf, size_t n);
 
+static bool interrupted(std::atomic<bool>& next) {
+    const bool now = next.exchange(false);
+    errno = now ? EINTR : errno;
+    return now;
+}
+
 extern "C" ssize_t __wrap_read(int fd, void* buf, size_t n) {
-    if (interruptNextRead.exchange(false)) {
-        errno = EINTR;
-        return -1;
-    }
-    return __real_read(fd, buf, n);
+    return interrupted(interruptNextRead) ? -1 : __real_read(fd, buf, n);
 }
 
 extern "C" ssize_t __wrap_write(int fd, const void* buf, size_t n) {
-    if (interruptNextWrite.exchange(false)) {
-        errno = EINTR;
-        return -1;
-    }
-    return __real_write(fd, buf, n);
+    return interrupted(interruptNextWrite) ? -1 : __real_write(fd, buf, n);
 }
 
 namespace {
@@ -90,16 +89,6 @@ double msSince(Clock::time_point start) {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-// What the device sent, gathered over a few reads.
-std::string readUpTo(SerialPort& port, size_t size) {
-    std::string got;
-    char chunk[256];
-    for (int i = 0; i < 5 && got.size() < size; ++i) {
-        got.append(chunk, port.read(reinterpret_cast<uint8_t*>(chunk), sizeof chunk, 200));
-    }
-    return got;
-}
-
 class PosixPort : public ::testing::Test {
   protected:
     void SetUp() override { ASSERT_TRUE(port.open(pty.path)); }
@@ -125,38 +114,32 @@ TEST(PosixPortOpen, MakesATerminalInItsDefaultDisciplineRaw) {
     EXPECT_EQ(tio.c_iflag & (ICRNL | INLCR | IGNCR | IXON | ISTRIP | BRKINT | PARMRK), 0u);
     EXPECT_EQ(tio.c_oflag & OPOST, 0u);
     EXPECT_EQ(tio.c_cflag & (CSIZE | PARENB | CLOCAL | CREAD | CRTSCTS), CS8 | CLOCAL | CREAD);
-    EXPECT_EQ(cfgetispeed(&tio), B115200);
-    EXPECT_EQ(cfgetospeed(&tio), B115200);
-    EXPECT_EQ(tio.c_cc[VMIN], 0);
-    EXPECT_EQ(tio.c_cc[VTIME], 0);
+    EXPECT_EQ(std::pair(cfgetispeed(&tio), cfgetospeed(&tio)),
+              std::pair(speed_t{B115200}, speed_t{B115200}));
+    EXPECT_EQ(std::pair(tio.c_cc[VMIN], tio.c_cc[VTIME]), std::pair(cc_t{0}, cc_t{0}));
 
     // Return, interrupt, erase, end of file: data like any other byte, none echoed.
     const std::string control = "\r\x03\x7f\x04\n";
     pty.send(control);
-    EXPECT_EQ(readUpTo(port, control.size()), control);
+    uint8_t got[16];
+    EXPECT_EQ(std::string(got, got + port.read(got, sizeof got, 1000)), control);
     EXPECT_TRUE(port.write(Bytes{'o', 'k', '\n'}));
     EXPECT_EQ(pty.received(3), "ok\n");
 }
 
 TEST(ModemLines, SettingOneLineKeepsEveryOtherBit) {
-    const struct {
-        int before;
-        int line;
-        bool level;
-        int after;
-    } rows[] = {
-        {0x000, TIOCM_DTR, true, 0x002},  {0x004, TIOCM_DTR, true, 0x006},
-        {0x006, TIOCM_DTR, false, 0x004}, {0x002, TIOCM_RTS, true, 0x006},
-        {0x006, TIOCM_RTS, false, 0x002}, {0x166, TIOCM_RTS, false, 0x162},
-        {0x164, TIOCM_DTR, true, 0x166},  {0x002, TIOCM_DTR, true, 0x002},
+    const std::tuple<int, int, bool, int> rows[] = {
+        {0x004, TIOCM_DTR, true, 0x006}, {0x006, TIOCM_DTR, false, 0x004},
+        {0x002, TIOCM_RTS, true, 0x006}, {0x166, TIOCM_RTS, false, 0x162},
+        {0x002, TIOCM_DTR, true, 0x002},
     };
-    for (const auto& r : rows) {
-        EXPECT_EQ(withModemLine(r.before, r.line, r.level), r.after)
-            << std::hex << "0x" << r.before << (r.line == TIOCM_DTR ? " DTR " : " RTS ") << r.level;
+    for (const auto& [before, line, level, after] : rows) {
+        EXPECT_EQ(withModemLine(before, line, level), after)
+            << std::hex << "0x" << before << (line == TIOCM_DTR ? " DTR " : " RTS ") << level;
     }
 }
 
-TEST_F(PosixPort, ReadsOneReadsWorthWritesAllAndRefusesModemLines) {
+TEST_F(PosixPort, ReadsOneReadsWorthWritesAllRefusesModemLinesAndClosesOnReopen) {
     pty.send("abc");
     EXPECT_EQ(port.read(buf, sizeof buf, 0), 0u);
     EXPECT_EQ(port.read(buf, sizeof buf, -1), 0u);
@@ -178,6 +161,12 @@ TEST_F(PosixPort, ReadsOneReadsWorthWritesAllAndRefusesModemLines) {
     // A pseudo-terminal has no modem-control lines: the driver refuses TIOCMGET.
     EXPECT_FALSE(port.setDTR(true));
     EXPECT_FALSE(port.setRTS(false));
+
+    ::close(std::exchange(pty.slave, -1));
+    EXPECT_FALSE(pty.poll(0) & POLLHUP);
+    EXPECT_FALSE(port.open("/dev/does-not-exist-tfu"));
+    EXPECT_TRUE(pty.poll(0) & POLLHUP) << "an open closes the device held before";
+    EXPECT_FALSE(port.isOpen() || port.write(buf, 1));
 }
 
 TEST_F(PosixPort, InterruptedReadAndWriteAreRetried) {
@@ -220,20 +209,6 @@ TEST_F(PosixPort, SignalsDuringAStalledWriteDoNotEndIt) {
     EXPECT_EQ(signalsCaught, 5);
     EXPECT_TRUE(written);
     EXPECT_EQ(got.size(), block.size());
-}
-
-TEST_F(PosixPort, ReopenClosesTheFirstDeviceAndAFailedOpenLeavesItClosed) {
-    ::close(std::exchange(pty.slave, -1));
-    EXPECT_FALSE(pty.poll(0) & POLLHUP);
-    Pty second;
-    ASSERT_TRUE(port.open(second.path));
-    EXPECT_TRUE(pty.poll(0) & POLLHUP);
-    EXPECT_FALSE(port.open("/dev/does-not-exist-tfu"));
-    EXPECT_FALSE(port.isOpen());
-    EXPECT_FALSE(port.write(buf, 1));
-    EXPECT_EQ(port.read(buf, 1, 50), 0u);
-    EXPECT_FALSE(port.setDTR(true));
-    port.flush();
 }
 
 // Closing the master hangs the slave up, as pulling the cable does to a USB port:

@@ -43,16 +43,14 @@ inline esp::FlashRequest flashRequest(const std::vector<uint8_t>& firmware,
                                       const std::vector<uint8_t>& bootloader,
                                       const std::vector<uint8_t>& partitions,
                                       const std::vector<uint8_t>& stub) {
-    esp::FlashRequest request;
-    request.firmware = firmware.data();
-    request.firmwareLen = firmware.size();
-    request.bootloader = bootloader.data();
-    request.bootloaderLen = bootloader.size();
-    request.partitions = partitions.data();
-    request.partitionsLen = partitions.size();
-    request.stub = stub.data();
-    request.stubLen = stub.size();
-    return request;
+    return {.firmware = firmware.data(),
+            .firmwareLen = firmware.size(),
+            .bootloader = bootloader.data(),
+            .bootloaderLen = bootloader.size(),
+            .partitions = partitions.data(),
+            .partitionsLen = partitions.size(),
+            .stub = stub.data(),
+            .stubLen = stub.size()};
 }
 
 }  // namespace testimg
