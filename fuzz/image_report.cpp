@@ -17,8 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     }
     for (const bool allowDevelopment : {false, true}) {
         const auto refusal = image::firmwareRefusal(report, {std::nullopt, allowDevelopment});
-        if (!refusal && (data[0] != 0xE9 || report.chipId != image::kChipIdEsp32S3 ||
-                         !report.app || (report.developmentMarker && !allowDevelopment))) {
+        if (!refusal && (data[0] != 0xE9 || report.chipId != image::kChipIdEsp32S3 || !report.app ||
+                         (report.developmentMarker && !allowDevelopment))) {
             std::abort();
         }
     }
