@@ -4,8 +4,8 @@ LocalRun::LocalRun(const Command& command, CommandContext context, Reporter& rep
     : command_(command), context_(std::move(context)), reporter_(reporter), verbose_(verbose) {}
 
 LocalRun::~LocalRun() {
-    if (worker_) {
-        worker_->wait();
+    if (worker_.joinable()) {
+        worker_.join();
     }
 }
 
@@ -16,12 +16,11 @@ void LocalRun::start() {
                 this, [this, event] { deliver(event); }, Qt::QueuedConnection);
         },
         verbose_);
-    worker_.reset(QThread::create([this, feed] {
+    worker_ = std::thread([this, feed] {
         const event::Result result = command_.run(context_, feed);
         QMetaObject::invokeMethod(
             this, [this, result] { deliver(result); }, Qt::QueuedConnection);
-    }));
-    worker_->start();
+    });
 }
 
 void LocalRun::deliver(const Event& event) {

@@ -1,8 +1,7 @@
 #pragma once
 
 #include <QObject>
-#include <QThread>
-#include <memory>
+#include <thread>
 
 #include "cli/Command.h"
 #include "cli/Reporter.h"
@@ -38,5 +37,8 @@ class LocalRun : public QObject {
     Reporter& reporter_;
     const bool verbose_;
     bool writing_ = false;
-    std::unique_ptr<QThread> worker_;
+    // Joined rather than waited for: a join also waits for the thread's exit
+    // handlers, where the crypto library frees its per-thread state. A process that
+    // ends between the two would leave that state behind.
+    std::thread worker_;
 };
