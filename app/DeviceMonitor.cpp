@@ -11,19 +11,19 @@ DeviceMonitor::DeviceMonitor(QObject* parent)
     : DeviceMonitor(Detector(esp_detect_device), parent) {}
 
 DeviceMonitor::DeviceMonitor(Detector detector, QObject* parent)
-    : QObject(parent), m_detector(std::move(detector)) {
-    m_timer.setInterval(kPollIntervalMs);
-    connect(&m_timer, &QTimer::timeout, this, &DeviceMonitor::poll);
+    : QObject(parent), detector_(std::move(detector)) {
+    timer_.setInterval(kPollIntervalMs);
+    connect(&timer_, &QTimer::timeout, this, &DeviceMonitor::poll);
 }
 
 void DeviceMonitor::startPolling() {
-    m_timer.start();
+    timer_.start();
 }
 
 void DeviceMonitor::poll() {
     // The text is owned by the posted step, so it is released whether the step
     // runs or is discarded along with a monitor that is already gone.
-    std::shared_ptr<char> found(m_detector(kVendorId, kProductId), std::free);
+    std::shared_ptr<char> found(detector_(kVendorId, kProductId), std::free);
     QPointer<DeviceMonitor> self(this);
     QMetaObject::invokeMethod(
         QCoreApplication::instance(),
@@ -38,8 +38,8 @@ void DeviceMonitor::poll() {
 }
 
 void DeviceMonitor::publish(std::optional<QString> path) {
-    m_portPath = std::move(path);
+    portPath_ = std::move(path);
     emit portPathChanged(portPath());
-    m_isConnected = m_portPath.has_value();
-    emit isConnectedChanged(m_isConnected);
+    isConnected_ = portPath_.has_value();
+    emit isConnectedChanged(isConnected_);
 }

@@ -38,12 +38,12 @@ class DeviceMonitor : public QObject {
     void startPolling();
 
     /// The port found by the last poll; empty when there is none.
-    QString portPath() const { return m_portPath.value_or(QString()); }
+    QString portPath() const { return portPath_.value_or(QString()); }
     /// True when the last poll found a port (the path may in principle be empty).
-    bool hasPort() const { return m_portPath.has_value(); }
+    bool hasPort() const { return portPath_.has_value(); }
     /// The last poll's path, or none.
-    const std::optional<QString>& port() const { return m_portPath; }
-    bool isConnected() const { return m_isConnected; }
+    const std::optional<QString>& port() const { return portPath_; }
+    bool isConnected() const { return isConnected_; }
 
   signals:
     /// Emitted on every poll, before `isConnectedChanged`.
@@ -55,8 +55,8 @@ class DeviceMonitor : public QObject {
     void poll();
     void publish(std::optional<QString> path);
 
-    Detector m_detector;
-    QTimer m_timer;
-    std::optional<QString> m_portPath;
-    bool m_isConnected = false;
+    Detector detector_;
+    QTimer timer_;
+    std::optional<QString> portPath_;
+    bool isConnected_ = false;
 };

@@ -78,15 +78,15 @@ std::optional<QString> utf8Problem(const QByteArray& text) {
 // document there, without end.
 class DocumentOutline : public YAML::EventHandler {
   public:
-    bool firstIsMapping() const { return m_firstIsMapping.value_or(false); }
+    bool firstIsMapping() const { return firstIsMapping_.value_or(false); }
     /// Where the parser stopped moving on, if it did.
-    const std::optional<YAML::Mark>& stalledAt() const { return m_stalledAt; }
+    const std::optional<YAML::Mark>& stalledAt() const { return stalledAt_; }
 
     void OnDocumentStart(const YAML::Mark& mark) override {
-        if (m_lastStart && m_lastStart->pos == mark.pos) {
-            m_stalledAt = mark;
+        if (lastStart_ && lastStart_->pos == mark.pos) {
+            stalledAt_ = mark;
         }
-        m_lastStart = mark;
+        lastStart_ = mark;
     }
     void OnDocumentEnd() override {}
     void OnNull(const YAML::Mark&, YAML::anchor_t) override { node(false); }
@@ -109,14 +109,14 @@ class DocumentOutline : public YAML::EventHandler {
   private:
     // The first node of the stream is the first document's top level.
     void node(bool mapping) {
-        if (!m_firstIsMapping) {
-            m_firstIsMapping = mapping;
+        if (!firstIsMapping_) {
+            firstIsMapping_ = mapping;
         }
     }
 
-    std::optional<bool> m_firstIsMapping;
-    std::optional<YAML::Mark> m_lastStart;
-    std::optional<YAML::Mark> m_stalledAt;
+    std::optional<bool> firstIsMapping_;
+    std::optional<YAML::Mark> lastStart_;
+    std::optional<YAML::Mark> stalledAt_;
 };
 
 QString unexpected(const QByteArray& text, const YAML::Mark& mark) {

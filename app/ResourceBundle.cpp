@@ -41,7 +41,7 @@ ResourceBundle ResourceBundle::located(const QString& folderName) {
 std::optional<QString> ResourceBundle::path(const QString& name, const QString& extension,
                                             const QString& folder) const {
     const QString fileName = extension.isEmpty() ? name : name + QLatin1Char('.') + extension;
-    const QDir dir(folder.isEmpty() ? m_root : QDir(m_root).filePath(folder));
+    const QDir dir(folder.isEmpty() ? root_ : QDir(root_).filePath(folder));
     const QString candidate = dir.filePath(fileName);
     if (!QFileInfo(candidate).isFile()) {
         return std::nullopt;

@@ -23,7 +23,7 @@ class ResourceBundle {
     /// The name of the folder of the program's own resource set.
     static constexpr const char* kFolderName = "resources";
 
-    explicit ResourceBundle(QString root) : m_root(std::move(root)) {}
+    explicit ResourceBundle(QString root) : root_(std::move(root)) {}
 
     /// The folder `folderName` for an executable in `executableDir`: beside it
     /// when that exists (build tree), else the installed folder one level up.
@@ -34,7 +34,7 @@ class ResourceBundle {
     /// `forExecutableDir` of the running program; needs a QCoreApplication.
     static ResourceBundle located(const QString& folderName = kFolderName);
 
-    const QString& root() const { return m_root; }
+    const QString& root() const { return root_; }
 
     /// Path of `name` with `extension` (none when empty) in `folder` (top level
     /// when empty), or none when no such file exists.
@@ -50,5 +50,5 @@ class ResourceBundle {
     std::optional<QByteArray> readConfig(const QString& configFile) const;
 
   private:
-    QString m_root;
+    QString root_;
 };

@@ -12,23 +12,23 @@ constexpr int kReplyTimeoutMs = 5000;
 }  // namespace
 
 SleepInhibitor::SleepInhibitor(const QDBusConnection& bus, QObject* parent)
-    : QObject(parent), m_bus(bus) {}
+    : QObject(parent), bus_(bus) {}
 
 void SleepInhibitor::setHeld(bool held) {
-    if (held == m_wanted) {
+    if (held == wanted_) {
         return;
     }
-    m_wanted = held;
-    ++m_requests;
+    wanted_ = held;
+    ++requests_;
     if (held) {
         request();
     } else {
-        m_lock = QDBusUnixFileDescriptor();
+        lock_ = QDBusUnixFileDescriptor();
     }
 }
 
 void SleepInhibitor::request() {
-    if (!m_bus.isConnected()) {
+    if (!bus_.isConnected()) {
         return;
     }
     QDBusMessage inhibit = QDBusMessage::createMethodCall(
@@ -37,17 +37,17 @@ void SleepInhibitor::request() {
     inhibit << QStringLiteral("sleep:idle") << QStringLiteral("Teskal Firmware Updater")
             << QStringLiteral("Writing firmware or a configuration to the plotter")
             << QStringLiteral("block");
-    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(inhibit, kReplyTimeoutMs), this);
+    auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(inhibit, kReplyTimeoutMs), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [this, request = m_requests](QDBusPendingCallWatcher* finished) {
+            [this, request = requests_](QDBusPendingCallWatcher* finished) {
                 finished->deleteLater();
                 const QDBusPendingReply<QDBusUnixFileDescriptor> reply = *finished;
                 if (reply.isError()) {
                     qDebug() << "No sleep inhibitor lock:" << reply.error().message();
                     return;
                 }
-                if (m_wanted && request == m_requests) {
-                    m_lock = reply.value();
+                if (wanted_ && request == requests_) {
+                    lock_ = reply.value();
                 }
             });
 }

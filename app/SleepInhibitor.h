@@ -20,7 +20,7 @@ class SleepInhibitor : public QObject {
                             QObject* parent = nullptr);
 
     /// True while logind's lock is held.
-    bool isHeld() const { return m_lock.isValid(); }
+    bool isHeld() const { return lock_.isValid(); }
 
   public slots:
     /// Asks for the lock (true) or releases it (false); repeating a value does nothing.
@@ -29,10 +29,10 @@ class SleepInhibitor : public QObject {
   private:
     void request();
 
-    QDBusConnection m_bus;
-    bool m_wanted = false;
+    QDBusConnection bus_;
+    bool wanted_ = false;
     // Counts requests, so an answer that arrives after a release, or after a
     // newer request, is dropped (and its descriptor closed with it).
-    quint64 m_requests = 0;
-    QDBusUnixFileDescriptor m_lock;
+    quint64 requests_ = 0;
+    QDBusUnixFileDescriptor lock_;
 };

@@ -19,29 +19,29 @@ UpdateController::UpdateController(QObject* parent)
 UpdateController::UpdateController(ResourceBundle resources, DeviceMonitor::Detector detector,
                                    DevelopmentImages developmentImages, QObject* parent)
     : QObject(parent),
-      m_resources(std::move(resources)),
-      m_developmentImages(developmentImages),
-      m_monitor(new DeviceMonitor(std::move(detector), this)),
-      m_statusMessage(QStringLiteral("Waiting for device…")) {
-    m_worker.setMaxThreadCount(1);
-    m_monitor->startPolling();
-    connect(m_monitor, &DeviceMonitor::isConnectedChanged, this,
-            &UpdateController::followConnection, Qt::QueuedConnection);
+      resources_(std::move(resources)),
+      developmentImages_(developmentImages),
+      monitor_(new DeviceMonitor(std::move(detector), this)),
+      statusMessage_(QStringLiteral("Waiting for device…")) {
+    worker_.setMaxThreadCount(1);
+    monitor_->startPolling();
+    connect(monitor_, &DeviceMonitor::isConnectedChanged, this, &UpdateController::followConnection,
+            Qt::QueuedConnection);
 }
 
 UpdateController::~UpdateController() {
-    m_worker.waitForDone();
+    worker_.waitForDone();
 }
 
 QUrl UpdateController::customFirmwareURL() const {
-    const QMutexLocker lock(&m_customFirmwareMutex);
-    return m_customFirmwareURL;
+    const QMutexLocker lock(&customFirmwareMutex_);
+    return customFirmwareURL_;
 }
 
 void UpdateController::setCustomFirmwareURL(const QUrl& location) {
     {
-        const QMutexLocker lock(&m_customFirmwareMutex);
-        m_customFirmwareURL = location;
+        const QMutexLocker lock(&customFirmwareMutex_);
+        customFirmwareURL_ = location;
     }
     emit customFirmwareURLChanged(location);
 }
@@ -70,8 +70,8 @@ void UpdateController::uploadConfig(const QString& configFile, const QString& pr
     }
     clearLog();
     submit([port = *port, product = ProductConfig{productName, configFile},
-            backUp = m_backupBeforeUpload](UpdateController& controller) {
-        controller.performConfigUpload(port, ConfigUploadJob(port, controller.m_resources, product),
+            backUp = backupBeforeUpload_](UpdateController& controller) {
+        controller.performConfigUpload(port, ConfigUploadJob(port, controller.resources_, product),
                                        backUp);
     });
 }
@@ -89,7 +89,7 @@ void UpdateController::uploadConfigFromFile(const QString& path) {
     clearLog();
     log(config.announcement);
     submit([port = *port, configData = *config.bytes,
-            backUp = m_backupBeforeUpload](UpdateController& controller) {
+            backUp = backupBeforeUpload_](UpdateController& controller) {
         controller.performConfigUpload(port, ConfigUploadJob(port, configData), backUp);
     });
 }
@@ -130,7 +130,7 @@ void UpdateController::compareWithMachine(const ConfigChoice& choice) {
 }
 
 std::optional<ConfigText> UpdateController::readChoice(const ConfigChoice& choice) {
-    ChosenConfig chosen = readChosenConfig(m_resources, choice);
+    ChosenConfig chosen = readChosenConfig(resources_, choice);
     if (!chosen.text) {
         log(QStringLiteral("ERROR: ") + chosen.refusal);
     }
@@ -153,7 +153,7 @@ void UpdateController::chooseCustomFirmware(const std::optional<QString>& path) 
         return;
     }
     const image::ImageReport report = inspectFirmware(*firmware);
-    if (const auto refusal = firmwareRefusal(report, m_resources, m_developmentImages)) {
+    if (const auto refusal = firmwareRefusal(report, resources_, developmentImages_)) {
         log(refused + *refusal);
         return;
     }
@@ -163,13 +163,13 @@ void UpdateController::chooseCustomFirmware(const std::optional<QString>& path) 
 }
 
 std::optional<QString> UpdateController::portForNewJob() {
-    const auto port = m_monitor->port();
+    const auto port = monitor_->port();
     if (!port) {
         log(QStringLiteral("ERROR: No device connected"));
         return std::nullopt;
     }
     // The bridge's handler slots serve one library call at a time.
-    if (m_jobRunning) {
+    if (jobRunning_) {
         log(QStringLiteral("ERROR: Another operation is already running"));
         return std::nullopt;
     }
@@ -179,7 +179,7 @@ std::optional<QString> UpdateController::portForNewJob() {
 void UpdateController::submit(std::function<void(UpdateController&)> job) {
     assignJobRunning(true);
     QPointer<UpdateController> self(this);
-    m_worker.start([self, job = std::move(job)] {
+    worker_.start([self, job = std::move(job)] {
         if (self.isNull()) {
             return;
         }
@@ -197,10 +197,10 @@ void UpdateController::performFlash(const QString& port) {
     if (!custom.isEmpty()) {
         options.customFirmware = custom.toLocalFile();
     }
-    options.writeBootPartitions = m_writeBootPartitions;
-    options.eraseAll = m_eraseAllFlash;
-    options.developmentImages = m_developmentImages;
-    const FirmwareUpdateJob job(port, m_resources, options);
+    options.writeBootPartitions = writeBootPartitions_;
+    options.eraseAll = eraseAllFlash_;
+    options.developmentImages = developmentImages_;
+    const FirmwareUpdateJob job(port, resources_, options);
     finish(job.run(jobSink(flashProgressHandler(), UpdateState::flashing(0.0f),
                            UpdateState::flashComplete())));
 }
@@ -256,7 +256,7 @@ FlasherBridge::ProgressHandler UpdateController::configProgressHandler() {
             if (message.isEmpty()) {
                 return;
             }
-            if (message != controller.m_statusMessage) {
+            if (message != controller.statusMessage_) {
                 controller.appendLog(message);
             }
             controller.assignStatus(message);
@@ -298,7 +298,7 @@ void UpdateController::finishDownload(const std::optional<QString>& failure, con
 FlasherBridge::LogHandler UpdateController::libraryLogHandler() {
     return [self = QPointer(this)](const QString& line) {
         postStep(self, [line](UpdateController& controller) {
-            if (controller.m_detailedLogging) {
+            if (controller.detailedLogging_) {
                 controller.appendLog(line);
             }
         });
@@ -315,7 +315,7 @@ void UpdateController::postStep(const QPointer<UpdateController>& self,
 }
 
 void UpdateController::followConnection(bool connected) {
-    if (m_state.isBusy()) {
+    if (state_.isBusy()) {
         return;
     }
     if (connected) {
@@ -349,31 +349,31 @@ void UpdateController::setState(const UpdateState& state) {
 }
 
 void UpdateController::assignState(const UpdateState& state) {
-    m_state = state;
-    emit stateChanged(m_state);
+    state_ = state;
+    emit stateChanged(state_);
 }
 
 void UpdateController::assignProgress(float progress) {
-    m_progress = progress;
-    emit progressChanged(m_progress);
+    progress_ = progress;
+    emit progressChanged(progress_);
 }
 
 void UpdateController::assignStatus(const QString& message) {
-    m_statusMessage = message;
-    emit statusMessageChanged(m_statusMessage);
+    statusMessage_ = message;
+    emit statusMessageChanged(statusMessage_);
 }
 
 void UpdateController::appendLog(const QString& line) {
-    m_logMessages.append(line);
-    emit logMessagesChanged(m_logMessages);
+    logMessages_.append(line);
+    emit logMessagesChanged(logMessages_);
 }
 
 void UpdateController::assignJobRunning(bool running) {
-    m_jobRunning = running;
-    emit jobRunningChanged(m_jobRunning);
+    jobRunning_ = running;
+    emit jobRunningChanged(jobRunning_);
 }
 
 void UpdateController::clearLog() {
-    m_logMessages.clear();
-    emit logMessagesChanged(m_logMessages);
+    logMessages_.clear();
+    emit logMessagesChanged(logMessages_);
 }

@@ -68,12 +68,12 @@ class UpdateController : public QObject {
                      QObject* parent = nullptr);
     ~UpdateController() override;
 
-    UpdateState state() const { return m_state; }
+    UpdateState state() const { return state_; }
     /// Latest progress fraction reported by a job, as reported.
-    float progress() const { return m_progress; }
-    QString statusMessage() const { return m_statusMessage; }
+    float progress() const { return progress_; }
+    QString statusMessage() const { return statusMessage_; }
     /// The log, oldest line first; emptied when a job starts.
-    QStringList logMessages() const { return m_logMessages; }
+    QStringList logMessages() const { return logMessages_; }
 
     /// The firmware file chosen by the user; empty means the shipped image.
     QUrl customFirmwareURL() const;
@@ -83,26 +83,26 @@ class UpdateController : public QObject {
     QString firmwareLabel() const;
 
     /// When set, every log line of the flasher library is added to the log.
-    bool detailedLogging() const { return m_detailedLogging; }
-    void setDetailedLogging(bool enabled) { m_detailedLogging = enabled; }
+    bool detailedLogging() const { return detailedLogging_; }
+    void setDetailedLogging(bool enabled) { detailedLogging_ = enabled; }
     /// When set, a firmware update always writes all four regions.
-    bool writeBootPartitionsEnabled() const { return m_writeBootPartitions; }
-    void setWriteBootPartitionsEnabled(bool enabled) { m_writeBootPartitions = enabled; }
+    bool writeBootPartitionsEnabled() const { return writeBootPartitions_; }
+    void setWriteBootPartitionsEnabled(bool enabled) { writeBootPartitions_ = enabled; }
     /// When set, the firmware update is a full flash that erases the whole chip first.
-    bool eraseAllFlashEnabled() const { return m_eraseAllFlash; }
-    void setEraseAllFlashEnabled(bool enabled) { m_eraseAllFlash = enabled; }
+    bool eraseAllFlashEnabled() const { return eraseAllFlash_; }
+    void setEraseAllFlashEnabled(bool enabled) { eraseAllFlash_ = enabled; }
     /// When set, every configuration upload first saves the machine's config.yaml
     /// in `MachineConfigBackup::folder()` and does not start when that fails. Read
     /// when the upload is started.
-    bool backupBeforeUploadEnabled() const { return m_backupBeforeUpload; }
-    void setBackupBeforeUploadEnabled(bool enabled) { m_backupBeforeUpload = enabled; }
+    bool backupBeforeUploadEnabled() const { return backupBeforeUpload_; }
+    void setBackupBeforeUploadEnabled(bool enabled) { backupBeforeUpload_ = enabled; }
 
     /// Owned by the controller for its whole life.
-    DeviceMonitor* deviceMonitor() const { return m_monitor; }
+    DeviceMonitor* deviceMonitor() const { return monitor_; }
 
     /// True from the moment a job is accepted (before its state leaves `ready`)
     /// until its last posted step has arrived on the GUI thread.
-    bool jobRunning() const { return m_jobRunning; }
+    bool jobRunning() const { return jobRunning_; }
 
     /// Takes the firmware file chosen in the file dialog after checking it as the
     /// job will: a file that cannot be firmware leaves the choice as it was and
@@ -197,21 +197,21 @@ class UpdateController : public QObject {
     void clearLog();
     void assignJobRunning(bool running);
 
-    const ResourceBundle m_resources;
-    const DevelopmentImages m_developmentImages;
-    DeviceMonitor* m_monitor;
-    UpdateState m_state = UpdateState::idle();
-    float m_progress = 0.0f;
-    QString m_statusMessage;
-    QStringList m_logMessages;
-    mutable QMutex m_customFirmwareMutex;
-    QUrl m_customFirmwareURL;
-    std::atomic<bool> m_detailedLogging = false;
-    std::atomic<bool> m_writeBootPartitions = false;
-    std::atomic<bool> m_eraseAllFlash = false;
-    bool m_backupBeforeUpload = false;
-    bool m_jobRunning = false;
+    const ResourceBundle resources_;
+    const DevelopmentImages developmentImages_;
+    DeviceMonitor* monitor_;
+    UpdateState state_ = UpdateState::idle();
+    float progress_ = 0.0f;
+    QString statusMessage_;
+    QStringList logMessages_;
+    mutable QMutex customFirmwareMutex_;
+    QUrl customFirmwareURL_;
+    std::atomic<bool> detailedLogging_ = false;
+    std::atomic<bool> writeBootPartitions_ = false;
+    std::atomic<bool> eraseAllFlash_ = false;
+    bool backupBeforeUpload_ = false;
+    bool jobRunning_ = false;
     // Last member: destroyed first, so a running job finishes while the rest of
     // the controller still exists.
-    QThreadPool m_worker;
+    QThreadPool worker_;
 };

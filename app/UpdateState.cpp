@@ -3,7 +3,7 @@
 #include <QMetaEnum>
 
 bool UpdateState::isBusy() const {
-    switch (m_kind) {
+    switch (kind_) {
         case Kind::error:
         case Kind::idle:
         case Kind::ready:
@@ -16,14 +16,14 @@ bool UpdateState::isBusy() const {
 }
 
 QString UpdateState::toString() const {
-    const QString name = QString::fromLatin1(QMetaEnum::fromType<Kind>().valueToKey(int(m_kind)));
-    switch (m_kind) {
+    const QString name = QString::fromLatin1(QMetaEnum::fromType<Kind>().valueToKey(int(kind_)));
+    switch (kind_) {
         case Kind::flashing:
         case Kind::uploadingConfig:
             // Nine digits tell every two floats apart, so a failing test shows the difference.
-            return name + QStringLiteral("(%1)").arg(double(m_progress), 0, 'g', 9);
+            return name + QStringLiteral("(%1)").arg(double(progress_), 0, 'g', 9);
         case Kind::error:
-            return name + QStringLiteral("(") + m_message + QStringLiteral(")");
+            return name + QStringLiteral("(") + message_ + QStringLiteral(")");
         default:
             return name;
     }

@@ -44,11 +44,11 @@ class UpdateState {
     static UpdateState flashComplete() { return {Kind::flashComplete, 0.0f, {}}; }
     static UpdateState configComplete() { return {Kind::configComplete, 0.0f, {}}; }
 
-    Kind kind() const { return m_kind; }
+    Kind kind() const { return kind_; }
     /// Payload of `flashing` and `uploadingConfig`, 0..1; 0 for the other cases.
-    float progress() const { return m_progress; }
+    float progress() const { return progress_; }
     /// Payload of `error`; empty for the other cases.
-    const QString& message() const { return m_message; }
+    const QString& message() const { return message_; }
 
     /// True for every case except `error`, `idle`, `ready`, `flashComplete` and
     /// `configComplete`.
@@ -60,16 +60,16 @@ class UpdateState {
 
     /// Equal when the cases and their payloads are equal.
     friend bool operator==(const UpdateState& a, const UpdateState& b) {
-        return a.m_kind == b.m_kind && a.m_progress == b.m_progress && a.m_message == b.m_message;
+        return a.kind_ == b.kind_ && a.progress_ == b.progress_ && a.message_ == b.message_;
     }
 
   private:
     UpdateState(Kind kind, float progress, QString message)
-        : m_kind(kind), m_progress(progress), m_message(std::move(message)) {}
+        : kind_(kind), progress_(progress), message_(std::move(message)) {}
 
-    Kind m_kind = Kind::idle;
-    float m_progress = 0.0f;
-    QString m_message;
+    Kind kind_ = Kind::idle;
+    float progress_ = 0.0f;
+    QString message_;
 };
 
 Q_DECLARE_METATYPE(UpdateState)

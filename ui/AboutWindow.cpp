@@ -45,14 +45,14 @@ AboutWindow::AboutWindow(const QList<ProductConfig>& products, const QString& bu
                          const QPixmap& icon, QWidget* parent)
     : QWidget(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                           Qt::WindowCloseButtonHint),
-      m_title(makeLabel(QStringLiteral("Corvane\nTeskal Firmware Updater"), 18, true,
-                        labelTint(1.0), this)),
-      m_version(makeLabel(QStringLiteral("Firmware v") + BuildConfig::firmwareVersion() +
-                              QStringLiteral(" (build ") + buildDate + QLatin1Char(')'),
-                          12, false, labelTint(0.5), this)),
-      m_information(new QTextBrowser(this)),
-      m_footer(makeLabel(QStringLiteral("© 2026 Corvane. All rights reserved."), 10, false,
-                         labelTint(0.26), this)) {
+      title_(makeLabel(QStringLiteral("Corvane\nTeskal Firmware Updater"), 18, true, labelTint(1.0),
+                       this)),
+      version_(makeLabel(QStringLiteral("Firmware v") + BuildConfig::firmwareVersion() +
+                             QStringLiteral(" (build ") + buildDate + QLatin1Char(')'),
+                         12, false, labelTint(0.5), this)),
+      information_(new QTextBrowser(this)),
+      footer_(makeLabel(QStringLiteral("© 2026 Corvane. All rights reserved."), 10, false,
+                        labelTint(0.26), this)) {
     setWindowTitle(QStringLiteral("About Teskal Firmware Updater"));
     setFixedSize(kWidth, kHeight);
     placeContent(icon);
@@ -70,33 +70,33 @@ QString AboutWindow::stubSourceUrl() {
 void AboutWindow::placeContent(const QPixmap& icon) {
     int top = kHeight - 30;
     if (!icon.isNull()) {
-        m_icon = new QLabel(this);
-        m_icon->setPixmap(icon.scaled(64, 64, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-        m_icon->setAlignment(Qt::AlignCenter);
-        m_icon->setGeometry(fromBottomLeft(178, top - 64, 64, 64));
+        icon_ = new QLabel(this);
+        icon_->setPixmap(icon.scaled(64, 64, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        icon_->setAlignment(Qt::AlignCenter);
+        icon_->setGeometry(fromBottomLeft(178, top - 64, 64, 64));
         top -= 80;
     }
-    m_title->setGeometry(fromBottomLeft(20, top - 44, 380, 48));
-    m_version->setGeometry(fromBottomLeft(20, top - 72, 380, 18));
-    m_information->setGeometry(fromBottomLeft(30, 50, 360, top - 146));
-    m_footer->setGeometry(fromBottomLeft(20, 16, 380, 18));
+    title_->setGeometry(fromBottomLeft(20, top - 44, 380, 48));
+    version_->setGeometry(fromBottomLeft(20, top - 72, 380, 18));
+    information_->setGeometry(fromBottomLeft(30, 50, 360, top - 146));
+    footer_->setGeometry(fromBottomLeft(20, 16, 380, 18));
 }
 
 void AboutWindow::fillInformation(const QList<ProductConfig>& products) {
-    m_information->setReadOnly(true);
-    m_information->setOpenExternalLinks(true);
-    m_information->setFrameShape(QFrame::NoFrame);
-    QPalette clear = m_information->palette();
+    information_->setReadOnly(true);
+    information_->setOpenExternalLinks(true);
+    information_->setFrameShape(QFrame::NoFrame);
+    QPalette clear = information_->palette();
     clear.setColor(QPalette::Base, Qt::transparent);
-    m_information->setPalette(clear);
-    m_information->viewport()->setAutoFillBackground(false);
-    m_information->document()->setDocumentMargin(0);
+    information_->setPalette(clear);
+    information_->viewport()->setAutoFillBackground(false);
+    information_->document()->setDocumentMargin(0);
 
     // Links are long unbroken words; they move to a line of their own rather than
     // break inside.
-    m_information->setWordWrapMode(QTextOption::WordWrap);
+    information_->setWordWrapMode(QTextOption::WordWrap);
 
-    QFont font = m_information->font();
+    QFont font = information_->font();
     font.setPixelSize(11);
     QTextCharFormat body;
     body.setFont(font);
@@ -109,7 +109,7 @@ void AboutWindow::fillInformation(const QList<ProductConfig>& products) {
     for (const ProductConfig& product : products) {
         names.append(QStringLiteral("  ") + product.name);
     }
-    QTextCursor cursor(m_information->document());
+    QTextCursor cursor(information_->document());
     const auto addLink = [&](const QString& address) {
         link.setAnchorHref(address);
         cursor.insertText(address, link);
@@ -125,16 +125,16 @@ void AboutWindow::fillInformation(const QList<ProductConfig>& products) {
     cursor.insertText(QStringLiteral("  Source: "), body);
     addLink(stubSourceUrl());
     cursor.insertText(QStringLiteral("\n"), body);
-    m_information->moveCursor(QTextCursor::Start);
+    information_->moveCursor(QTextCursor::Start);
 }
 
-EscapeCloser::EscapeCloser(QWidget* window, QObject* parent) : QObject(parent), m_window(window) {}
+EscapeCloser::EscapeCloser(QWidget* window, QObject* parent) : QObject(parent), window_(window) {}
 
 bool EscapeCloser::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && m_window &&
-        QApplication::activeWindow() == m_window) {
-        m_window->close();
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && window_ &&
+        QApplication::activeWindow() == window_) {
+        window_->close();
         return true;
     }
     return QObject::eventFilter(watched, event);

@@ -28,21 +28,21 @@ class AboutWindow : public QWidget {
     /// Address of the flasher stub's public source repository.
     static QString stubSourceUrl();
 
-    QLabel* iconLabel() const { return m_icon; }
-    QLabel* titleLabel() const { return m_title; }
-    QLabel* versionLabel() const { return m_version; }
-    QTextBrowser* information() const { return m_information; }
-    QLabel* footerLabel() const { return m_footer; }
+    QLabel* iconLabel() const { return icon_; }
+    QLabel* titleLabel() const { return title_; }
+    QLabel* versionLabel() const { return version_; }
+    QTextBrowser* information() const { return information_; }
+    QLabel* footerLabel() const { return footer_; }
 
   private:
     void placeContent(const QPixmap& icon);
     void fillInformation(const QList<ProductConfig>& products);
 
-    QLabel* m_icon = nullptr;
-    QLabel* m_title;
-    QLabel* m_version;
-    QTextBrowser* m_information;
-    QLabel* m_footer;
+    QLabel* icon_ = nullptr;
+    QLabel* title_;
+    QLabel* version_;
+    QTextBrowser* information_;
+    QLabel* footer_;
 };
 
 /// Closes a window when Escape is pressed while it is the active window and
@@ -58,5 +58,5 @@ class EscapeCloser : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    QPointer<QWidget> m_window;
+    QPointer<QWidget> window_;
 };

@@ -51,12 +51,12 @@ class AppDelegate : public QObject {
     void applicationDidFinishLaunching();
 
     /// The main window; null until launch has finished.
-    QMainWindow* window() const { return m_window.get(); }
-    UpdateController& updateController() const { return *m_updateController; }
+    QMainWindow* window() const { return window_.get(); }
+    UpdateController& updateController() const { return *updateController_; }
     /// The About window; null until it was first shown.
-    AboutWindow* aboutWindow() const { return m_aboutWindow.get(); }
+    AboutWindow* aboutWindow() const { return aboutWindow_.get(); }
     /// The window of the last comparison; null until one ended.
-    CompareWindow* compareWindow() const { return m_compareWindow.get(); }
+    CompareWindow* compareWindow() const { return compareWindow_.get(); }
 
   public slots:
     void showAbout();
@@ -98,12 +98,12 @@ class AppDelegate : public QObject {
     QAction* addToggle(QMenu* menu, const QString& title, bool checked,
                        void (AppDelegate::*toggle)(QAction*));
 
-    Options m_options;
-    std::unique_ptr<QMainWindow> m_window;
-    std::unique_ptr<UpdateController> m_updateController;
-    std::unique_ptr<AboutWindow> m_aboutWindow;
-    std::unique_ptr<CompareWindow> m_compareWindow;
-    EscapeCloser* m_escapeCloser = nullptr;
-    QuitGuard* m_quitGuard = nullptr;
-    SleepInhibitor* m_sleepInhibitor;
+    Options options_;
+    std::unique_ptr<QMainWindow> window_;
+    std::unique_ptr<UpdateController> updateController_;
+    std::unique_ptr<AboutWindow> aboutWindow_;
+    std::unique_ptr<CompareWindow> compareWindow_;
+    EscapeCloser* escapeCloser_ = nullptr;
+    QuitGuard* quitGuard_ = nullptr;
+    SleepInhibitor* sleepInhibitor_;
 };

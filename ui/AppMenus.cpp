@@ -21,8 +21,8 @@ void setKey(QAction* action, const QKeySequence& key) {
 }  // namespace
 
 void AppDelegate::setupMenus() {
-    auto* bar = new QMenuBar(m_window.get());
-    m_window->setMenuBar(bar);
+    auto* bar = new QMenuBar(window_.get());
+    window_->setMenuBar(bar);
     addApplicationMenu();
     addFileMenu();
     addOptionsMenu();
@@ -32,19 +32,19 @@ void AppDelegate::setupMenus() {
 QMenu* AppDelegate::addApplicationMenu() {
     // macOS moves the two items into its application menu by their roles; elsewhere
     // this menu stands in for it.
-    QMenu* menu = m_window->menuBar()->addMenu(QStringLiteral("Teskal Firmware Updater"));
+    QMenu* menu = window_->menuBar()->addMenu(QStringLiteral("Teskal Firmware Updater"));
     QAction* about = menu->addAction(QStringLiteral("About Teskal Firmware Updater"), this,
                                      &AppDelegate::showAbout);
     about->setMenuRole(QAction::AboutRole);
     menu->addSeparator();
-    QAction* quit = menu->addAction(QStringLiteral("Quit"), m_quitGuard, &QuitGuard::requestQuit);
+    QAction* quit = menu->addAction(QStringLiteral("Quit"), quitGuard_, &QuitGuard::requestQuit);
     quit->setMenuRole(QAction::QuitRole);
     setKey(quit, QKeySequence(Qt::CTRL | Qt::Key_Q));
     return menu;
 }
 
 QMenu* AppDelegate::addFileMenu() {
-    QMenu* menu = m_window->menuBar()->addMenu(QStringLiteral("File"));
+    QMenu* menu = window_->menuBar()->addMenu(QStringLiteral("File"));
     QAction* open = menu->addAction(QStringLiteral("Open Firmware File\u2026"), this,
                                     &AppDelegate::openFirmwareFile);
     setKey(open, QKeySequence(Qt::CTRL | Qt::Key_O));
@@ -52,23 +52,23 @@ QMenu* AppDelegate::addFileMenu() {
     menu->addSeparator();
     QAction* save = menu->addAction(QStringLiteral("Save Log\u2026"), this, &AppDelegate::saveLog);
     setKey(save, QKeySequence(Qt::CTRL | Qt::Key_S));
-    qobject_cast<UpdaterView*>(m_window->centralWidget())->logPanel()->addAction(save);
+    qobject_cast<UpdaterView*>(window_->centralWidget())->logPanel()->addAction(save);
     return menu;
 }
 
 QMenu* AppDelegate::addOptionsMenu() {
-    QMenu* menu = m_window->menuBar()->addMenu(QStringLiteral("Options"));
-    addToggle(menu, QStringLiteral("Detailed Logging"), m_updateController->detailedLogging(),
+    QMenu* menu = window_->menuBar()->addMenu(QStringLiteral("Options"));
+    addToggle(menu, QStringLiteral("Detailed Logging"), updateController_->detailedLogging(),
               &AppDelegate::toggleDetailedLogging);
     menu->addSeparator();
     addToggle(menu, QStringLiteral("Write Boot Partitions"),
-              m_updateController->writeBootPartitionsEnabled(),
+              updateController_->writeBootPartitionsEnabled(),
               &AppDelegate::toggleWriteBootPartitions);
-    addToggle(menu, QStringLiteral("Erase All Flash"), m_updateController->eraseAllFlashEnabled(),
+    addToggle(menu, QStringLiteral("Erase All Flash"), updateController_->eraseAllFlashEnabled(),
               &AppDelegate::toggleEraseAllFlash);
     menu->addSeparator();
     addToggle(menu, QStringLiteral("Back Up Machine Config Before Upload"),
-              m_updateController->backupBeforeUploadEnabled(),
+              updateController_->backupBeforeUploadEnabled(),
               &AppDelegate::toggleBackupBeforeUpload);
     return menu;
 }
@@ -83,8 +83,8 @@ QAction* AppDelegate::addToggle(QMenu* menu, const QString& title, bool checked,
 }
 
 QMenu* AppDelegate::addConfigMenu() {
-    QMenu* menu = m_window->menuBar()->addMenu(QStringLiteral("Config"));
-    if (m_options.products.isEmpty()) {
+    QMenu* menu = window_->menuBar()->addMenu(QStringLiteral("Config"));
+    if (options_.products.isEmpty()) {
         menu->addAction(QStringLiteral("No products configured"))->setEnabled(false);
     } else {
         addProductItems(menu->addMenu(QStringLiteral("Update Config")),
@@ -98,7 +98,7 @@ QMenu* AppDelegate::addConfigMenu() {
                     &AppDelegate::saveMachineConfig);
     QMenu* compare = menu->addMenu(QStringLiteral("Compare With Machine\u2026"));
     addProductItems(compare, &AppDelegate::compareWithProduct);
-    if (!m_options.products.isEmpty()) {
+    if (!options_.products.isEmpty()) {
         compare->addSeparator();
     }
     compare->addAction(QStringLiteral("Choose File\u2026"), this, &AppDelegate::compareWithFile);
@@ -107,8 +107,8 @@ QMenu* AppDelegate::addConfigMenu() {
 
 // One item per product, in table order, each carrying its row's index.
 void AppDelegate::addProductItems(QMenu* menu, void (AppDelegate::*action)(QAction*)) {
-    for (qsizetype index = 0; index < m_options.products.size(); ++index) {
-        QAction* item = menu->addAction(m_options.products[index].name);
+    for (qsizetype index = 0; index < options_.products.size(); ++index) {
+        QAction* item = menu->addAction(options_.products[index].name);
         item->setData(static_cast<int>(index));
         connect(item, &QAction::triggered, this, [this, item, action] { (this->*action)(item); });
     }

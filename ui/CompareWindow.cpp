@@ -41,23 +41,23 @@ CompareWindow::CompareWindow(const ConfigComparison& comparison, const QString& 
                              QWidget* parent)
     : QWidget(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                           Qt::WindowCloseButtonHint),
-      m_summary(new QLabel(summary(comparison, chosenLabel), this)),
-      m_tabs(new QTabWidget(this)),
-      m_keys(makeTextView(keyText(comparison), this)),
-      m_lines(makeTextView(lineText(comparison), this)),
-      m_upload(new QPushButton(QStringLiteral("Upload This Configuration"), this)),
-      m_close(new QPushButton(QStringLiteral("Close"), this)) {
+      summary_(new QLabel(summary(comparison, chosenLabel), this)),
+      tabs_(new QTabWidget(this)),
+      keys_(makeTextView(keyText(comparison), this)),
+      lines_(makeTextView(lineText(comparison), this)),
+      upload_(new QPushButton(QStringLiteral("Upload This Configuration"), this)),
+      close_(new QPushButton(QStringLiteral("Close"), this)) {
     setWindowTitle(QStringLiteral("Compare With Machine \u2014 ") + chosenLabel);
     resize(560, 440);
     setMinimumSize(480, 320);
     buildLayout();
-    connect(m_upload, &QPushButton::clicked, this, [this] {
+    connect(upload_, &QPushButton::clicked, this, [this] {
         close();
         emit uploadRequested();
     });
-    connect(m_close, &QPushButton::clicked, this, &QWidget::close);
-    m_close->setShortcut(QKeySequence(Qt::Key_Escape));
-    m_close->setDefault(true);
+    connect(close_, &QPushButton::clicked, this, &QWidget::close);
+    close_->setShortcut(QKeySequence(Qt::Key_Escape));
+    close_->setDefault(true);
 }
 
 QString CompareWindow::summary(const ConfigComparison& comparison, const QString& chosenLabel) {
@@ -87,19 +87,19 @@ void CompareWindow::buildLayout() {
     column->setContentsMargins(20, 20, 20, 20);
     column->setSpacing(12);
 
-    m_summary->setTextFormat(Qt::PlainText);
-    m_summary->setWordWrap(true);
-    m_summary->setFont(Fonts::system(13));
-    column->addWidget(m_summary);
+    summary_->setTextFormat(Qt::PlainText);
+    summary_->setWordWrap(true);
+    summary_->setFont(Fonts::system(13));
+    column->addWidget(summary_);
 
-    m_tabs->setFont(Fonts::system(12));
-    m_tabs->addTab(m_keys, QStringLiteral("By Key"));
-    m_tabs->addTab(m_lines, QStringLiteral("By Line"));
-    column->addWidget(m_tabs, 1);
+    tabs_->setFont(Fonts::system(12));
+    tabs_->addTab(keys_, QStringLiteral("By Key"));
+    tabs_->addTab(lines_, QStringLiteral("By Line"));
+    column->addWidget(tabs_, 1);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
-    for (QPushButton* button : {m_upload, m_close}) {
+    for (QPushButton* button : {upload_, close_}) {
         button->setFont(Fonts::system(13));
         buttons->addWidget(button);
     }

@@ -28,11 +28,11 @@ class CompareWindow : public QWidget {
     /// the machine's config and Corvane Halcot." followed by how to read them.
     static QString summary(const ConfigComparison& comparison, const QString& chosenLabel);
 
-    QLabel* summaryLabel() const { return m_summary; }
-    QTabWidget* tabs() const { return m_tabs; }
-    QPlainTextEdit* keyView() const { return m_keys; }
-    QPlainTextEdit* lineView() const { return m_lines; }
-    QPushButton* uploadButton() const { return m_upload; }
+    QLabel* summaryLabel() const { return summary_; }
+    QTabWidget* tabs() const { return tabs_; }
+    QPlainTextEdit* keyView() const { return keys_; }
+    QPlainTextEdit* lineView() const { return lines_; }
+    QPushButton* uploadButton() const { return upload_; }
 
   signals:
     /// "Upload This Configuration" was pressed; the window closes itself.
@@ -41,10 +41,10 @@ class CompareWindow : public QWidget {
   private:
     void buildLayout();
 
-    QLabel* m_summary;
-    QTabWidget* m_tabs;
-    QPlainTextEdit* m_keys;
-    QPlainTextEdit* m_lines;
-    QPushButton* m_upload;
-    QPushButton* m_close;
+    QLabel* summary_;
+    QTabWidget* tabs_;
+    QPlainTextEdit* keys_;
+    QPlainTextEdit* lines_;
+    QPushButton* upload_;
+    QPushButton* close_;
 };

@@ -10,13 +10,13 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
 }
 
 void ElidedLabel::setFullText(const QString& text) {
-    m_fullText = text;
+    fullText_ = text;
     updateGeometry();
     elide();
 }
 
 QSize ElidedLabel::sizeHint() const {
-    return lineSize(m_fullText);
+    return lineSize(fullText_);
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
@@ -30,9 +30,9 @@ void ElidedLabel::resizeEvent(QResizeEvent* event) {
 
 void ElidedLabel::elide() {
     const QString shown =
-        fontMetrics().elidedText(m_fullText, Qt::ElideRight, contentsRect().width());
+        fontMetrics().elidedText(fullText_, Qt::ElideRight, contentsRect().width());
     setText(shown);
-    setToolTip(shown == m_fullText ? QString() : m_fullText);
+    setToolTip(shown == fullText_ ? QString() : fullText_);
 }
 
 // Rounded up: a width rounded down would make the whole text elide itself.

@@ -15,7 +15,7 @@ class ElidedLabel : public QLabel {
 
     /// Shows `text`, elided to the current width. Use this, not `setText`.
     void setFullText(const QString& text);
-    const QString& fullText() const { return m_fullText; }
+    const QString& fullText() const { return fullText_; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -27,5 +27,5 @@ class ElidedLabel : public QLabel {
     void elide();
     QSize lineSize(const QString& text) const;
 
-    QString m_fullText;
+    QString fullText_;
 };

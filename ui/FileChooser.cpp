@@ -5,12 +5,12 @@
 #include <algorithm>
 
 ExtensionFileDialog::ExtensionFileDialog(QWidget* parent, const FileRequest& request)
-    : QFileDialog(parent, request.message), m_extensions(request.extensions) {
+    : QFileDialog(parent, request.message), extensions_(request.extensions) {
     setOption(QFileDialog::DontUseNativeDialog);
     setAcceptMode(QFileDialog::AcceptOpen);
     setFileMode(QFileDialog::ExistingFile);
     QStringList patterns;
-    for (const QString& extension : m_extensions) {
+    for (const QString& extension : extensions_) {
         patterns.append(QStringLiteral("*.") + extension);
     }
     setNameFilter(patterns.join(QLatin1Char(' ')));
@@ -18,7 +18,7 @@ ExtensionFileDialog::ExtensionFileDialog(QWidget* parent, const FileRequest& req
 
 QString ExtensionFileDialog::refusal() const {
     QStringList names;
-    for (const QString& extension : m_extensions) {
+    for (const QString& extension : extensions_) {
         names.append(QLatin1Char('.') + extension);
     }
     const QString last = names.takeLast();
@@ -32,7 +32,7 @@ void ExtensionFileDialog::accept() {
     // A folder name opens the folder; that is the base dialog's to do.
     const bool refused = std::any_of(files.begin(), files.end(), [this](const QString& file) {
         const QFileInfo info(file);
-        return !info.isDir() && !m_extensions.contains(info.suffix(), Qt::CaseInsensitive);
+        return !info.isDir() && !extensions_.contains(info.suffix(), Qt::CaseInsensitive);
     });
     if (refused) {
         QMessageBox::warning(this, windowTitle(), refusal());

@@ -37,7 +37,7 @@ class ExtensionFileDialog : public QFileDialog {
     void accept() override;
 
   private:
-    QStringList m_extensions;
+    QStringList extensions_;
 };
 
 /// Asks with an `ExtensionFileDialog`.

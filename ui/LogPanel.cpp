@@ -39,37 +39,37 @@ QIcon copyIcon(int size) {
 }  // namespace
 
 LogPanel::LogPanel(QWidget* parent)
-    : QWidget(parent), m_view(new LogView(this)), m_copyButton(new QToolButton(this)) {
+    : QWidget(parent), view_(new LogView(this)), copyButton_(new QToolButton(this)) {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(kPadding, kPadding, kPadding + kCopyRoom, kPadding);
-    layout->addWidget(m_view);
+    layout->addWidget(view_);
 
     const int iconSize = QFontMetrics(Fonts::system(12)).height();
-    m_copyButton->setAutoRaise(true);
-    m_copyButton->setIcon(copyIcon(iconSize));
-    m_copyButton->setIconSize(QSize(iconSize, iconSize));
-    m_copyButton->setFixedSize(iconSize + 2 * kButtonPadding, iconSize + 2 * kButtonPadding);
-    m_copyButton->setToolTip(QStringLiteral("Copy log to clipboard"));
-    m_copyButton->setCursor(Qt::PointingHandCursor);
-    m_copyButton->hide();
-    connect(m_copyButton, &QToolButton::clicked, this, &LogPanel::copyToClipboard);
+    copyButton_->setAutoRaise(true);
+    copyButton_->setIcon(copyIcon(iconSize));
+    copyButton_->setIconSize(QSize(iconSize, iconSize));
+    copyButton_->setFixedSize(iconSize + 2 * kButtonPadding, iconSize + 2 * kButtonPadding);
+    copyButton_->setToolTip(QStringLiteral("Copy log to clipboard"));
+    copyButton_->setCursor(Qt::PointingHandCursor);
+    copyButton_->hide();
+    connect(copyButton_, &QToolButton::clicked, this, &LogPanel::copyToClipboard);
 
     setContextMenuPolicy(Qt::ActionsContextMenu);
     addAction(QStringLiteral("Copy"), this, &LogPanel::copyToClipboard);
 }
 
 void LogPanel::setLines(const QStringList& lines) {
-    m_view->setLines(lines);
-    if (lines.isEmpty() != m_copyButton->isHidden()) {
-        m_copyButton->setVisible(!lines.isEmpty());
-        m_copyButton->raise();
+    view_->setLines(lines);
+    if (lines.isEmpty() != copyButton_->isHidden()) {
+        copyButton_->setVisible(!lines.isEmpty());
+        copyButton_->raise();
     }
 }
 
 void LogPanel::copyToClipboard() {
     QClipboard* clipboard = QGuiApplication::clipboard();
     clipboard->clear();
-    clipboard->setText(m_view->lines().join(QLatin1Char('\n')));
+    clipboard->setText(view_->lines().join(QLatin1Char('\n')));
 }
 
 void LogPanel::paintEvent(QPaintEvent*) {
@@ -86,5 +86,5 @@ void LogPanel::resizeEvent(QResizeEvent* event) {
 }
 
 void LogPanel::placeCopyButton() {
-    m_copyButton->move(width() - m_copyButton->width(), 0);
+    copyButton_->move(width() - copyButton_->width(), 0);
 }

@@ -19,8 +19,8 @@ class LogPanel : public QWidget {
     /// Shows `lines` (see `LogView::setLines`) and the copy button while there are any.
     void setLines(const QStringList& lines);
 
-    LogView* view() const { return m_view; }
-    QToolButton* copyButton() const { return m_copyButton; }
+    LogView* view() const { return view_; }
+    QToolButton* copyButton() const { return copyButton_; }
 
   public slots:
     /// Replaces the clipboard's content with the lines joined by "\n" (no newline
@@ -34,6 +34,6 @@ class LogPanel : public QWidget {
   private:
     void placeCopyButton();
 
-    LogView* m_view;
-    QToolButton* m_copyButton;
+    LogView* view_;
+    QToolButton* copyButton_;
 };

@@ -46,17 +46,17 @@ QTextOption wrapOption() {
 
 LogView::LogView(QWidget* parent)
     : QAbstractScrollArea(parent),
-      m_regular(Fonts::monospace(11)),
-      m_bold(Fonts::monospace(11, true)),
-      m_regularHeight(QFontMetrics(m_regular).height()),
-      m_boldHeight(QFontMetrics(m_bold).height()),
-      m_cellWidth(cellWidth(m_regular, m_bold)),
-      m_spacing(2) {
+      regular_(Fonts::monospace(11)),
+      bold_(Fonts::monospace(11, true)),
+      regularHeight_(QFontMetrics(regular_).height()),
+      boldHeight_(QFontMetrics(bold_).height()),
+      cellWidth_(cellWidth(regular_, bold_)),
+      spacing_(2) {
     // Lines may arrive far faster than a screen refreshes; the scroll bar and the
     // lines are redrawn at most once per frame.
-    m_refresh.setSingleShot(true);
-    m_refresh.setInterval(16);
-    connect(&m_refresh, &QTimer::timeout, this, &LogView::refresh);
+    refresh_.setSingleShot(true);
+    refresh_.setInterval(16);
+    connect(&refresh_, &QTimer::timeout, this, &LogView::refresh);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -69,12 +69,12 @@ bool LogView::isErrorLine(const QString& line) {
 }
 
 QFont LogView::fontFor(const QString& line) const {
-    return isErrorLine(line) ? m_bold : m_regular;
+    return isErrorLine(line) ? bold_ : regular_;
 }
 
 void LogView::setLines(const QStringList& lines) {
-    const qsizetype shown = m_lines.size();
-    const bool extends = lines.size() > shown && (shown == 0 || lines[shown - 1] == m_lines.last());
+    const qsizetype shown = lines_.size();
+    const bool extends = lines.size() > shown && (shown == 0 || lines[shown - 1] == lines_.last());
     if (extends) {
         for (qsizetype i = shown; i < lines.size(); ++i) {
             appendLine(lines[i]);
@@ -82,41 +82,41 @@ void LogView::setLines(const QStringList& lines) {
     } else {
         // Rebuilt from a fresh list so the controller's list is never shared with
         // ours: sharing would make its next append copy the whole log.
-        m_lines.clear();
-        m_tops.clear();
-        m_contentHeight = 0;
+        lines_.clear();
+        tops_.clear();
+        contentHeight_ = 0;
         for (const QString& line : lines) {
             appendLine(line);
         }
     }
     if (lines.size() != shown) {
-        m_scrollPending = !lines.isEmpty();
+        scrollPending_ = !lines.isEmpty();
     }
-    if (!m_refresh.isActive()) {
-        m_refresh.start();
+    if (!refresh_.isActive()) {
+        refresh_.start();
     }
 }
 
 void LogView::refresh() {
     updateScrollRange();
-    if (m_scrollPending) {
+    if (scrollPending_) {
         scrollToBottom();
-        m_scrollPending = false;
+        scrollPending_ = false;
     }
     viewport()->update();
 }
 
 void LogView::appendLine(const QString& line) {
-    const int top = m_lines.isEmpty() ? 0 : m_contentHeight + m_spacing;
-    m_lines.append(line);
-    m_tops.push_back(top);
-    m_contentHeight = top + measure(line);
+    const int top = lines_.isEmpty() ? 0 : contentHeight_ + spacing_;
+    lines_.append(line);
+    tops_.push_back(top);
+    contentHeight_ = top + measure(line);
 }
 
 int LogView::measure(const QString& line) const {
     const int width = std::max(1, viewport()->width());
     if (fitsOnOneLine(line, width)) {
-        return isErrorLine(line) ? m_boldHeight : m_regularHeight;
+        return isErrorLine(line) ? boldHeight_ : regularHeight_;
     }
     QTextLayout layout(line, fontFor(line));
     layout.setTextOption(wrapOption());
@@ -133,17 +133,17 @@ int LogView::measure(const QString& line) const {
 // Shaping a line costs far more than the rest of an append, so lines whose width
 // follows from their length are not shaped.
 bool LogView::fitsOnOneLine(const QString& line, int width) const {
-    if (m_cellWidth > 0 && isCellText(line)) {
-        return line.size() * m_cellWidth <= width;
+    if (cellWidth_ > 0 && isCellText(line)) {
+        return line.size() * cellWidth_ <= width;
     }
     return QFontMetricsF(fontFor(line)).horizontalAdvance(line) <= width;
 }
 
 void LogView::remeasure() {
-    const QStringList lines = m_lines;
-    m_lines.clear();
-    m_tops.clear();
-    m_contentHeight = 0;
+    const QStringList lines = lines_;
+    lines_.clear();
+    tops_.clear();
+    contentHeight_ = 0;
     for (const QString& line : lines) {
         appendLine(line);
     }
@@ -153,10 +153,10 @@ void LogView::remeasure() {
 void LogView::updateScrollRange() {
     const int visible = viewport()->height();
     QScrollBar* bar = verticalScrollBar();
-    bar->setRange(0, std::max(0, m_contentHeight - visible));
+    bar->setRange(0, std::max(0, contentHeight_ - visible));
     if (bar->pageStep() != visible) {
         bar->setPageStep(visible);
-        bar->setSingleStep(m_regularHeight + m_spacing);
+        bar->setSingleStep(regularHeight_ + spacing_);
     }
 }
 
@@ -179,7 +179,7 @@ void LogView::scrollContentsBy(int, int) {
 }
 
 void LogView::paintEvent(QPaintEvent* event) {
-    if (m_lines.isEmpty()) {
+    if (lines_.isEmpty()) {
         return;
     }
     QPainter painter(viewport());
@@ -190,13 +190,13 @@ void LogView::paintEvent(QPaintEvent* event) {
     const QTextOption option = wrapOption();
     // The first line whose bottom may reach into the area: the one before the first
     // line that starts below the area's top.
-    auto first = std::upper_bound(m_tops.begin(), m_tops.end(), area.top());
-    qsizetype index = std::max<qsizetype>(0, (first - m_tops.begin()) - 1);
-    for (; index < m_lines.size() && m_tops[index] <= area.bottom(); ++index) {
-        const QString& line = m_lines[index];
-        const int next = index + 1 < m_lines.size() ? m_tops[index + 1] : m_contentHeight;
+    auto first = std::upper_bound(tops_.begin(), tops_.end(), area.top());
+    qsizetype index = std::max<qsizetype>(0, (first - tops_.begin()) - 1);
+    for (; index < lines_.size() && tops_[index] <= area.bottom(); ++index) {
+        const QString& line = lines_[index];
+        const int next = index + 1 < lines_.size() ? tops_[index + 1] : contentHeight_;
         painter.setFont(fontFor(line));
-        painter.drawText(QRectF(0, m_tops[index] - offset, width, next - m_tops[index]), line,
+        painter.drawText(QRectF(0, tops_[index] - offset, width, next - tops_[index]), line,
                          option);
     }
 }

@@ -25,7 +25,7 @@ class LogView : public QAbstractScrollArea {
     void setLines(const QStringList& lines);
 
     /// The lines shown, oldest first.
-    const QStringList& lines() const { return m_lines; }
+    const QStringList& lines() const { return lines_; }
 
     /// True when `line` is shown in bold: it begins with the six characters "ERROR:".
     static bool isErrorLine(const QString& line);
@@ -47,18 +47,18 @@ class LogView : public QAbstractScrollArea {
     void updateScrollRange();
     void scrollToBottom();
 
-    QFont m_regular;
-    QFont m_bold;
-    int m_regularHeight;
-    int m_boldHeight;
+    QFont regular_;
+    QFont bold_;
+    int regularHeight_;
+    int boldHeight_;
     // Advance of one character cell; 0 when the font is not fixed-pitch.
-    qreal m_cellWidth;
-    int m_spacing;
-    QStringList m_lines;
+    qreal cellWidth_;
+    int spacing_;
+    QStringList lines_;
     // Top edge of each line in content coordinates; the content's height follows
     // the last line.
-    std::vector<int> m_tops;
-    int m_contentHeight = 0;
-    bool m_scrollPending = false;
-    QTimer m_refresh;
+    std::vector<int> tops_;
+    int contentHeight_ = 0;
+    bool scrollPending_ = false;
+    QTimer refresh_;
 };

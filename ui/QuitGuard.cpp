@@ -33,10 +33,10 @@ void exitAtOnce() {
 QuitGuard::QuitGuard(QWidget* window, std::function<bool()> jobRunning, Question askToQuit,
                      std::function<void()> exitNow, QObject* parent)
     : QObject(parent),
-      m_window(window),
-      m_jobRunning(std::move(jobRunning)),
-      m_askToQuit(std::move(askToQuit)),
-      m_exitNow(std::move(exitNow)) {
+      window_(window),
+      jobRunning_(std::move(jobRunning)),
+      askToQuit_(std::move(askToQuit)),
+      exitNow_(std::move(exitNow)) {
     window->installEventFilter(this);
 }
 
@@ -47,7 +47,7 @@ void QuitGuard::requestQuit() {
 }
 
 bool QuitGuard::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == m_window && event->type() == QEvent::Close && !mayEnd()) {
+    if (watched == window_ && event->type() == QEvent::Close && !mayEnd()) {
         event->ignore();
         return true;
     }
@@ -55,11 +55,11 @@ bool QuitGuard::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool QuitGuard::mayEnd() {
-    if (!m_jobRunning()) {
+    if (!jobRunning_()) {
         return true;
     }
-    if (m_askToQuit(m_window)) {
-        m_exitNow();
+    if (askToQuit_(window_)) {
+        exitNow_();
     }
     return false;
 }

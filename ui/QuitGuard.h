@@ -48,8 +48,8 @@ class QuitGuard : public QObject {
     /// True when the program may end the orderly way.
     bool mayEnd();
 
-    QPointer<QWidget> m_window;
-    std::function<bool()> m_jobRunning;
-    Question m_askToQuit;
-    std::function<void()> m_exitNow;
+    QPointer<QWidget> window_;
+    std::function<bool()> jobRunning_;
+    Question askToQuit_;
+    std::function<void()> exitNow_;
 };

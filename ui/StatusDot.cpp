@@ -7,7 +7,7 @@ StatusDot::StatusDot(QWidget* parent) : QWidget(parent) {
 }
 
 void StatusDot::setColor(const QColor& color) {
-    m_color = color;
+    color_ = color;
     update();
 }
 
@@ -15,6 +15,6 @@ void StatusDot::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(m_color);
+    painter.setBrush(color_);
     painter.drawEllipse(QRectF(rect()));
 }

@@ -11,11 +11,11 @@ class StatusDot : public QWidget {
     explicit StatusDot(QWidget* parent = nullptr);
 
     void setColor(const QColor& color);
-    const QColor& color() const { return m_color; }
+    const QColor& color() const { return color_; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    QColor m_color;
+    QColor color_;
 };

@@ -31,13 +31,13 @@ QLabel* makeLabel(int pixelSize, const QColor& color, QWidget* parent) {
 
 UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
     : QWidget(parent),
-      m_dot(new StatusDot(this)),
-      m_status(new ElidedLabel(this)),
-      m_port(makeLabel(12, AppColors::secondaryText(), this)),
-      m_firmware(makeLabel(13, AppColors::secondaryText(), this)),
-      m_progress(new QProgressBar(this)),
-      m_button(new QPushButton(QStringLiteral("Update Firmware"), this)),
-      m_log(new LogPanel(this)) {
+      dot_(new StatusDot(this)),
+      status_(new ElidedLabel(this)),
+      port_(makeLabel(12, AppColors::secondaryText(), this)),
+      firmware_(makeLabel(13, AppColors::secondaryText(), this)),
+      progress_(new QProgressBar(this)),
+      button_(new QPushButton(QStringLiteral("Update Firmware"), this)),
+      log_(new LogPanel(this)) {
     setFixedSize(480, 420);
     buildLayout();
     connectTo(controller);
@@ -50,35 +50,35 @@ void UpdaterView::buildLayout() {
 
     auto* statusRow = new QHBoxLayout;
     statusRow->setSpacing(8);
-    m_status->setFont(Fonts::system(14));
-    m_port->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-    statusRow->addWidget(m_dot, 0, Qt::AlignVCenter);
-    statusRow->addWidget(m_status, 0, Qt::AlignVCenter);
-    statusRow->addWidget(m_port, 0, Qt::AlignVCenter);
+    status_->setFont(Fonts::system(14));
+    port_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    statusRow->addWidget(dot_, 0, Qt::AlignVCenter);
+    statusRow->addWidget(status_, 0, Qt::AlignVCenter);
+    statusRow->addWidget(port_, 0, Qt::AlignVCenter);
     statusRow->addStretch(1);
     column->addLayout(statusRow);
 
-    m_firmware->setWordWrap(true);
-    m_firmware->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    column->addWidget(m_firmware);
+    firmware_->setWordWrap(true);
+    firmware_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    column->addWidget(firmware_);
 
-    m_progress->setTextVisible(false);
-    m_progress->hide();
-    column->addWidget(m_progress);
+    progress_->setTextVisible(false);
+    progress_->hide();
+    column->addWidget(progress_);
 
-    m_button->setFont(Fonts::system(15, QFont::Medium));
-    m_button->setMinimumHeight(m_button->fontMetrics().height() + 2 * 8);
-    m_button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    column->addWidget(m_button);
+    button_->setFont(Fonts::system(15, QFont::Medium));
+    button_->setMinimumHeight(button_->fontMetrics().height() + 2 * 8);
+    button_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    column->addWidget(button_);
 
-    column->addWidget(m_log, 1);
+    column->addWidget(log_, 1);
 }
 
 void UpdaterView::connectTo(UpdateController& controller) {
     DeviceMonitor* monitor = controller.deviceMonitor();
     // The state leaves "ready" only once the worker has begun, so a quick second
     // click would otherwise reach the controller and be refused as an error.
-    connect(m_button, &QPushButton::clicked, &controller, [&controller] {
+    connect(button_, &QPushButton::clicked, &controller, [&controller] {
         if (!controller.jobRunning()) {
             controller.updateFirmware();
         }
@@ -103,26 +103,26 @@ void UpdaterView::connectTo(UpdateController& controller) {
 }
 
 void UpdaterView::showState(const UpdateState& state) {
-    m_state = state;
+    state_ = state;
     using Kind = UpdateState::Kind;
     switch (state.kind()) {
         case Kind::flashing:
         case Kind::uploadingConfig: {
-            QPalette tinted = m_progress->palette();
+            QPalette tinted = progress_->palette();
             tinted.setColor(QPalette::Highlight, AppColors::accent());
-            m_progress->setPalette(tinted);
-            m_progress->setRange(0, kProgressSteps);
-            m_progress->setValue(qRound(qBound(0.0f, state.progress(), 1.0f) * kProgressSteps));
-            m_progress->show();
+            progress_->setPalette(tinted);
+            progress_->setRange(0, kProgressSteps);
+            progress_->setValue(qRound(qBound(0.0f, state.progress(), 1.0f) * kProgressSteps));
+            progress_->show();
             break;
         }
         case Kind::enteringBootloader:
         case Kind::syncing:
         case Kind::uploadingStub:
         case Kind::probing:
-            m_progress->setPalette(QPalette());
-            m_progress->setRange(0, 0);
-            m_progress->show();
+            progress_->setPalette(QPalette());
+            progress_->setRange(0, 0);
+            progress_->show();
             break;
         case Kind::idle:
         case Kind::ready:
@@ -130,32 +130,32 @@ void UpdaterView::showState(const UpdateState& state) {
         case Kind::flashComplete:
         case Kind::configComplete:
         case Kind::error:
-            m_progress->hide();
+            progress_->hide();
             break;
     }
     updateButtonEnabled();
 }
 
 void UpdaterView::showConnection(bool isConnected, const std::optional<QString>& portPath) {
-    m_isConnected = isConnected;
-    m_dot->setColor(isConnected ? AppColors::connected() : AppColors::disconnected());
-    m_port->setVisible(portPath.has_value());
-    m_port->setText(portPath ? QLatin1Char('(') + *portPath + QLatin1Char(')') : QString());
+    isConnected_ = isConnected;
+    dot_->setColor(isConnected ? AppColors::connected() : AppColors::disconnected());
+    port_->setVisible(portPath.has_value());
+    port_->setText(portPath ? QLatin1Char('(') + *portPath + QLatin1Char(')') : QString());
     updateButtonEnabled();
 }
 
 void UpdaterView::showStatusMessage(const QString& message) {
-    m_status->setFullText(message);
+    status_->setFullText(message);
 }
 
 void UpdaterView::showFirmwareLabel(const QString& label) {
-    m_firmware->setText(label);
+    firmware_->setText(label);
 }
 
 void UpdaterView::showLog(const QStringList& lines) {
-    m_log->setLines(lines);
+    log_->setLines(lines);
 }
 
 void UpdaterView::updateButtonEnabled() {
-    m_button->setEnabled(m_isConnected && !m_state.isBusy());
+    button_->setEnabled(isConnected_ && !state_.isBusy());
 }

@@ -38,26 +38,26 @@ class UpdaterView : public QWidget {
     /// The log lines; see `LogView::setLines` for scrolling.
     void showLog(const QStringList& lines);
 
-    StatusDot* statusDot() const { return m_dot; }
-    ElidedLabel* statusLabel() const { return m_status; }
-    QLabel* portLabel() const { return m_port; }
-    QLabel* firmwareLabel() const { return m_firmware; }
-    QProgressBar* progressBar() const { return m_progress; }
-    QPushButton* updateButton() const { return m_button; }
-    LogPanel* logPanel() const { return m_log; }
+    StatusDot* statusDot() const { return dot_; }
+    ElidedLabel* statusLabel() const { return status_; }
+    QLabel* portLabel() const { return port_; }
+    QLabel* firmwareLabel() const { return firmware_; }
+    QProgressBar* progressBar() const { return progress_; }
+    QPushButton* updateButton() const { return button_; }
+    LogPanel* logPanel() const { return log_; }
 
   private:
     void buildLayout();
     void connectTo(UpdateController& controller);
     void updateButtonEnabled();
 
-    StatusDot* m_dot;
-    ElidedLabel* m_status;
-    QLabel* m_port;
-    QLabel* m_firmware;
-    QProgressBar* m_progress;
-    QPushButton* m_button;
-    LogPanel* m_log;
-    bool m_isConnected = false;
-    UpdateState m_state;
+    StatusDot* dot_;
+    ElidedLabel* status_;
+    QLabel* port_;
+    QLabel* firmware_;
+    QProgressBar* progress_;
+    QPushButton* button_;
+    LogPanel* log_;
+    bool isConnected_ = false;
+    UpdateState state_;
 };

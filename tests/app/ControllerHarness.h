@@ -34,7 +34,7 @@ inline QByteArray readFile(const QString& path) {
 /// told otherwise.
 class ControllerHarness : public QObject {
     // Declared first: the controller's detector shares it.
-    std::shared_ptr<QByteArray> m_port = std::make_shared<QByteArray>();
+    std::shared_ptr<QByteArray> port_ = std::make_shared<QByteArray>();
 
   public:
     explicit ControllerHarness(const QString& resourcesRoot = TFU_DEV_RESOURCES_DIR,
@@ -42,7 +42,7 @@ class ControllerHarness : public QObject {
                                    UpdateController::DevelopmentImages::accept)
         : controller(
               ResourceBundle(resourcesRoot),
-              [port = m_port](uint16_t, uint16_t) -> char* {
+              [port = port_](uint16_t, uint16_t) -> char* {
                   return port->isEmpty() ? nullptr : strdup(port->constData());
               },
               developmentImages) {
@@ -57,7 +57,7 @@ class ControllerHarness : public QObject {
     /// Plugs in `path` (empty: unplugs), waits until a poll has made the controller
     /// ready (or idle), then forgets the history.
     bool plug(const QString& path) {
-        *m_port = path.toUtf8();
+        *port_ = path.toUtf8();
         states.clear();
         const UpdateState wanted = path.isEmpty() ? UpdateState::idle() : UpdateState::ready();
         const bool followed = QTest::qWaitFor([&] { return states.contains(wanted); }, 2000);

@@ -48,36 +48,36 @@ class AppDelegateTest : public QObject {
     void launch(QList<ProductConfig> products);
     QStringList menus() const {
         QStringList out;
-        describe(m_delegate->window()->menuBar()->actions(), {}, out);
+        describe(delegate_->window()->menuBar()->actions(), {}, out);
         return out;
     }
-    QAction* action(const QString& title) const { return menuItem(m_delegate->window(), title); }
+    QAction* action(const QString& title) const { return menuItem(delegate_->window(), title); }
 
-    QTemporaryDir m_resources;
-    std::unique_ptr<AppDelegate> m_delegate;
+    QTemporaryDir resources_;
+    std::unique_ptr<AppDelegate> delegate_;
     // What the file dialogs were asked; the save dialog's answer and proposed name.
-    QList<FileRequest> m_fileRequests;
-    std::optional<QString> m_savePath;
-    QString m_suggestedName;
+    QList<FileRequest> fileRequests_;
+    std::optional<QString> savePath_;
+    QString suggestedName_;
 };
 
 void AppDelegateTest::launch(QList<ProductConfig> products) {
-    m_delegate.reset();
+    delegate_.reset();
     AppDelegate::Options options;
     options.products = std::move(products);
     options.chooseFile = [this](QWidget*, const FileRequest& request) {
-        m_fileRequests.append(request);
+        fileRequests_.append(request);
         return std::optional<QString>();
     };
     options.chooseSaveFile = [this](QWidget*, const SaveRequest& request) {
-        m_suggestedName = request.suggestedName;
-        return m_savePath;
+        suggestedName_ = request.suggestedName;
+        return savePath_;
     };
-    m_delegate = std::make_unique<AppDelegate>(
-        std::make_unique<UpdateController>(ResourceBundle(m_resources.path()), noDevice),
+    delegate_ = std::make_unique<AppDelegate>(
+        std::make_unique<UpdateController>(ResourceBundle(resources_.path()), noDevice),
         std::move(options));
-    m_delegate->applicationDidFinishLaunching();
-    QVERIFY(QTest::qWaitForWindowExposed(m_delegate->window()));
+    delegate_->applicationDidFinishLaunching();
+    QVERIFY(QTest::qWaitForWindowExposed(delegate_->window()));
 }
 
 void AppDelegateTest::menuBarMatchesTheTableAndProductItemsUploadByTag() {
@@ -122,9 +122,9 @@ void AppDelegateTest::menuBarMatchesTheTableAndProductItemsUploadByTag() {
     for (const QVariant& tag :
          {QVariant(-1), QVariant(2), QVariant(), QVariant("x"), QVariant(1)}) {
         probe.setData(tag);
-        m_delegate->uploadConfigAction(&probe);
+        delegate_->uploadConfigAction(&probe);
     }
-    QTRY_COMPARE(m_delegate->updateController().logMessages(),
+    QTRY_COMPARE(delegate_->updateController().logMessages(),
                  QStringList{"ERROR: No device connected"});
 
     launch({});
@@ -142,16 +142,16 @@ void AppDelegateTest::togglesFlipTheFlagAndTheCheckMark() {
           std::pair{"Back Up Machine Config Before Upload", "backupBeforeUploadEnabled"}}) {
         for (const bool on : {true, false}) {
             action(title)->trigger();
-            QVERIFY2(m_delegate->updateController().property(flag).toBool() == on, title);
+            QVERIFY2(delegate_->updateController().property(flag).toBool() == on, title);
             QVERIFY2(action(title)->isChecked() == on, title);
         }
     }
 }
 
 void AppDelegateTest::aboutWindowIsReusedEscapeClosesItAndWindowsHaveOnlyTheirButtons() {
-    QVERIFY(m_delegate->aboutWindow() == nullptr);
+    QVERIFY(delegate_->aboutWindow() == nullptr);
     action("About Teskal Firmware Updater")->trigger();
-    AboutWindow* about = m_delegate->aboutWindow();
+    AboutWindow* about = delegate_->aboutWindow();
     QVERIFY(QTest::qWaitForWindowExposed(about));
     QVERIFY(
         about->information()->toPlainText().startsWith("Supported products:\n  Alpha\n  Beta\n"));
@@ -159,11 +159,11 @@ void AppDelegateTest::aboutWindowIsReusedEscapeClosesItAndWindowsHaveOnlyTheirBu
              "Firmware v2.10.6 (build " + BuildConfig::buildDate() + ")");
 
     about->close();
-    m_delegate->showAbout();
-    QCOMPARE(m_delegate->aboutWindow(), about);
+    delegate_->showAbout();
+    QCOMPARE(delegate_->aboutWindow(), about);
     QVERIFY(about->isVisible());
 
-    QMainWindow* window = m_delegate->window();
+    QMainWindow* window = delegate_->window();
     window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(window));
     QTest::keyClick(window, Qt::Key_Escape);
@@ -190,20 +190,20 @@ void AppDelegateTest::aboutWindowIsReusedEscapeClosesItAndWindowsHaveOnlyTheirBu
 }
 
 void AppDelegateTest::saveLogWritesHeaderAndLinesOrLogsWhyNot() {
-    UpdateController& controller = m_delegate->updateController();
+    UpdateController& controller = delegate_->updateController();
     controller.log(QStringLiteral("first"));
     controller.log(QStringLiteral("Device running firmware v3.7.8 — updating firmware only."));
     QTRY_COMPARE(controller.logMessages().size(), 2);
 
     // The log area's context menu offers the same item as the File menu.
-    auto* view = qobject_cast<UpdaterView*>(m_delegate->window()->centralWidget());
+    auto* view = qobject_cast<UpdaterView*>(delegate_->window()->centralWidget());
     QAction* save = action(QStringLiteral("Save Log\u2026"));
     QVERIFY(view->logPanel()->actions().contains(save));
 
     QTemporaryDir folder;
-    m_savePath = folder.filePath(QStringLiteral("support.txt"));
+    savePath_ = folder.filePath(QStringLiteral("support.txt"));
     save->trigger();
-    QVERIFY(m_suggestedName.startsWith("teskal-updater-log-"));
+    QVERIFY(suggestedName_.startsWith("teskal-updater-log-"));
     // The header, a blank line, then one log line a line, in UTF-8.
     const QRegularExpression expected(QRegularExpression::anchoredPattern(QString::fromUtf8(
         R"(Teskal Firmware Updater log
@@ -218,10 +218,10 @@ Port: none
 first
 Device running firmware v3\.7\.8 — updating firmware only\.
 )")));
-    const QString written = QString::fromUtf8(readFile(*m_savePath));
+    const QString written = QString::fromUtf8(readFile(*savePath_));
     QVERIFY2(expected.match(written).hasMatch(), qPrintable(written));
 
-    m_savePath = folder.filePath(QStringLiteral("missing/support.txt"));
+    savePath_ = folder.filePath(QStringLiteral("missing/support.txt"));
     save->trigger();
     QTRY_VERIFY(
         controller.logMessages().last().startsWith(QStringLiteral("ERROR: Could not save log: ")));
@@ -230,7 +230,7 @@ Device running firmware v3\.7\.8 — updating firmware only\.
 void AppDelegateTest::fileDialogsTakeOnlyTheirExtensions() {
     action("Open Firmware File\u2026")->trigger();
     action("Select from Disk...")->trigger();
-    QCOMPARE(m_fileRequests.size(), 2);
+    QCOMPARE(fileRequests_.size(), 2);
     QTemporaryDir dir;
     writeFile(dir, "machine.yml", {});
     writeFile(dir, "FIRMWARE.BIN", {});
@@ -242,8 +242,8 @@ void AppDelegateTest::fileDialogsTakeOnlyTheirExtensions() {
     };
     for (qsizetype i = 0; i < 2; ++i) {
         const auto& [message, typed, refusal, taken] = rows[i];
-        QCOMPARE(m_fileRequests[i].message, message);
-        ExtensionFileDialog dialog(m_delegate->window(), m_fileRequests[i]);
+        QCOMPARE(fileRequests_[i].message, message);
+        ExtensionFileDialog dialog(delegate_->window(), fileRequests_[i]);
         auto* files = dialog.findChild<QFileSystemModel*>();
         QVERIFY(files != nullptr);
         QSignalSpy loaded(files, &QFileSystemModel::directoryLoaded);

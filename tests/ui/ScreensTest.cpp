@@ -21,7 +21,7 @@ class ScreensTest : public QObject {
 
   private slots:
     void initTestCase() {
-        QVERIFY(m_screens.mkpath(QStringLiteral(".")));
+        QVERIFY(screens_.mkpath(QStringLiteral(".")));
         QApplication::setWindowIcon(QIcon(QStringLiteral(TFU_ICON_PNG)));
     }
     void mainWindowStates();
@@ -32,10 +32,10 @@ class ScreensTest : public QObject {
     void save(QWidget* window, const QString& name) {
         // Layouts settle through posted events; the monitor is quiet, so nothing else runs.
         QTest::qWait(50);
-        QVERIFY(window->grab().toImage().save(m_screens.filePath(name + QStringLiteral(".png"))));
+        QVERIFY(window->grab().toImage().save(screens_.filePath(name + QStringLiteral(".png"))));
     }
 
-    QDir m_screens{qEnvironmentVariable("TFU_SCREENS_DIR")};
+    QDir screens_{qEnvironmentVariable("TFU_SCREENS_DIR")};
 };
 
 void ScreensTest::mainWindowStates() {

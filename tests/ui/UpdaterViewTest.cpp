@@ -18,9 +18,9 @@ class UpdaterViewTest : public QObject {
 
   private slots:
     void init() {
-        m_view = std::make_unique<UpdaterView>(m_controller);
-        m_view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_view.get()));
+        view_ = std::make_unique<UpdaterView>(controller_);
+        view_->show();
+        QVERIFY(QTest::qWaitForWindowExposed(view_.get()));
     }
 
     void buttonProgressAndStatusRowFollowStateAndConnection_data();
@@ -32,9 +32,9 @@ class UpdaterViewTest : public QObject {
   private:
     // The monitor stays silent, so states shown by a test are not replaced by
     // "ready" or "idle" at the next poll.
-    UpdateController m_controller{ResourceBundle(QString()), noDevice};
-    QSignalBlocker m_quietMonitor{m_controller.deviceMonitor()};
-    std::unique_ptr<UpdaterView> m_view;
+    UpdateController controller_{ResourceBundle(QString()), noDevice};
+    QSignalBlocker quietMonitor_{controller_.deviceMonitor()};
+    std::unique_ptr<UpdaterView> view_;
 };
 
 void UpdaterViewTest::buttonProgressAndStatusRowFollowStateAndConnection_data() {
@@ -71,21 +71,21 @@ void UpdaterViewTest::buttonProgressAndStatusRowFollowStateAndConnection() {
 
     // Arrive from the opposite connection and a busy state, so nothing is left over.
     const auto path = connected ? std::optional(QStringLiteral("/dev/ttyACM0")) : std::nullopt;
-    m_view->showConnection(!connected, std::nullopt);
-    m_view->showState(UpdateState::syncing());
-    m_view->showConnection(connected, path);
-    m_view->showState(state);
-    QCOMPARE(m_view->updateButton()->isEnabled(), enabled);
-    m_view->showConnection(connected, path);  // the monitor publishes on every poll
+    view_->showConnection(!connected, std::nullopt);
+    view_->showState(UpdateState::syncing());
+    view_->showConnection(connected, path);
+    view_->showState(state);
+    QCOMPARE(view_->updateButton()->isEnabled(), enabled);
+    view_->showConnection(connected, path);  // the monitor publishes on every poll
 
-    QCOMPARE(m_view->portLabel()->isVisibleTo(m_view.get()), connected);
-    QVERIFY(!connected || m_view->portLabel()->text() == QStringLiteral("(/dev/ttyACM0)"));
-    QCOMPARE(m_view->statusDot()->color(),
+    QCOMPARE(view_->portLabel()->isVisibleTo(view_.get()), connected);
+    QVERIFY(!connected || view_->portLabel()->text() == QStringLiteral("(/dev/ttyACM0)"));
+    QCOMPARE(view_->statusDot()->color(),
              connected ? AppColors::connected() : AppColors::disconnected());
 
-    QCOMPARE(m_view->updateButton()->isEnabled(), enabled);
-    const QProgressBar* progress = m_view->progressBar();
-    QCOMPARE(progress->isVisibleTo(m_view.get()), bar != "hidden");
+    QCOMPARE(view_->updateButton()->isEnabled(), enabled);
+    const QProgressBar* progress = view_->progressBar();
+    QCOMPARE(progress->isVisibleTo(view_.get()), bar != "hidden");
     if (bar == "determinate") {
         QVERIFY(qAbs(double(progress->value()) / progress->maximum() - state.progress()) < 0.01);
         QCOMPARE(progress->palette().color(QPalette::Highlight), AppColors::accent());
@@ -95,69 +95,69 @@ void UpdaterViewTest::buttonProgressAndStatusRowFollowStateAndConnection() {
 }
 
 void UpdaterViewTest::statusLineStaysOneLineEllipsisAndTooltipWhenTooLong() {
-    m_view->showConnection(true, QStringLiteral("/dev/ttyACM0"));
-    m_view->layout()->activate();
-    const QRect firmwareBefore = m_view->firmwareLabel()->geometry();
-    const ElidedLabel* status = m_view->statusLabel();
+    view_->showConnection(true, QStringLiteral("/dev/ttyACM0"));
+    view_->layout()->activate();
+    const QRect firmwareBefore = view_->firmwareLabel()->geometry();
+    const ElidedLabel* status = view_->statusLabel();
     for (const auto& [message, elided] :
          {std::pair{QStringLiteral("Device connected"), false},
           std::pair{QStringLiteral("Failed to sync with device. Try unplugging and reconnecting."),
                     true}}) {
-        m_view->showStatusMessage(message);
-        m_view->layout()->activate();
+        view_->showStatusMessage(message);
+        view_->layout()->activate();
         QCOMPARE(status->text() == message, !elided);
         QCOMPARE(status->text().endsWith(QStringLiteral("…")), elided);
         QCOMPARE(status->toolTip(), elided ? message : QString());
-        QVERIFY(status->geometry().right() < m_view->portLabel()->geometry().left());
-        QCOMPARE(m_view->firmwareLabel()->geometry(), firmwareBefore);
+        QVERIFY(status->geometry().right() < view_->portLabel()->geometry().left());
+        QCOMPARE(view_->firmwareLabel()->geometry(), firmwareBefore);
     }
 }
 
 void UpdaterViewTest::errorLinesAreBoldAndTheCopyButtonCopiesAll() {
-    const LogView* log = m_view->logPanel()->view();
+    const LogView* log = view_->logPanel()->view();
     for (const auto& [line, bold] :
          {std::pair{"ERROR: Flash write failed.", true}, std::pair{"error: no", false},
           std::pair{" ERROR: no", false}, std::pair{"ERROR no", false}}) {
         QVERIFY2(log->fontFor(QString::fromUtf8(line)).bold() == bold, line);
     }
 
-    const QToolButton* copy = m_view->logPanel()->copyButton();
-    QVERIFY(!copy->isVisibleTo(m_view.get()));
-    m_view->showLog({QStringLiteral("old")});  // replaced, though the new list is longer
-    m_view->showLog({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
-    QVERIFY(copy->isVisibleTo(m_view.get()));
+    const QToolButton* copy = view_->logPanel()->copyButton();
+    QVERIFY(!copy->isVisibleTo(view_.get()));
+    view_->showLog({QStringLiteral("old")});  // replaced, though the new list is longer
+    view_->showLog({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+    QVERIFY(copy->isVisibleTo(view_.get()));
     QGuiApplication::clipboard()->setText(QStringLiteral("previous content"));
-    QTest::mouseClick(m_view->logPanel()->copyButton(), Qt::LeftButton);
+    QTest::mouseClick(view_->logPanel()->copyButton(), Qt::LeftButton);
     QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("a\nb\nc"));
-    m_view->showLog({});
-    QVERIFY(!copy->isVisibleTo(m_view.get()));
+    view_->showLog({});
+    QVERIFY(!copy->isVisibleTo(view_.get()));
 }
 
 void UpdaterViewTest::scrollsToTheLastLineWhenTheCountChanges() {
-    LogView* log = m_view->logPanel()->view();
+    LogView* log = view_->logPanel()->view();
     QScrollBar* bar = log->verticalScrollBar();
     QStringList lines(60, QStringLiteral("line"));
-    m_view->showLog(lines);
+    view_->showLog(lines);
     QTRY_VERIFY(bar->maximum() > 0);
     QTRY_COMPARE(bar->value(), bar->maximum());
 
     // The same number of lines with new text does not scroll.
     bar->setValue(0);
     lines.last() = QStringLiteral("changed");
-    m_view->showLog(lines);
+    view_->showLog(lines);
     QTest::qWait(50);
     QCOMPARE(bar->value(), 0);
     QCOMPARE(log->lines().last(), QStringLiteral("changed"));
 
     lines.append(QStringLiteral("one more"));
-    m_view->showLog(lines);
+    view_->showLog(lines);
     QTRY_COMPARE(bar->value(), bar->maximum());
 
     // Emptying the log, even straight after a line arrived, does not scroll.
     bar->setValue(0);
     lines.append(QStringLiteral("last"));
-    m_view->showLog(lines);
-    m_view->showLog({});
+    view_->showLog(lines);
+    view_->showLog({});
     QTRY_COMPARE(bar->maximum(), 0);
     QCOMPARE(bar->value(), 0);
 }
