@@ -1,19 +1,22 @@
 #include "app/ConfigChoice.h"
 
-#include "app/ConfigUploadJob.h"
+#include "app/Texts.h"
+#include "app/operations/CheckConfigFile.h"
 
-ChosenConfig readChosenConfig(const ResourceBundle& resources, const ConfigChoice& choice) {
+std::variant<ConfigText, Outcome> readChosenConfig(const ResourceBundle& resources,
+                                                   const ConfigChoice& choice) {
     if (choice.product) {
         const auto bytes = resources.readConfig(choice.product->configFile);
         if (!bytes) {
-            return {std::nullopt, QStringLiteral("Config file not found in bundle: ") +
-                                      choice.product->configFile};
+            return Outcome::make(Outcome::Kind::missingResource,
+                                 Texts::configMissing(choice.product->configFile));
         }
-        return {ConfigText{choice.label(), *bytes}, {}};
+        return ConfigText{choice.label(), *bytes};
     }
-    const ConfigFile file = readConfigFile(choice.path);
-    if (!file.bytes) {
-        return {std::nullopt, file.refusal};
+    CheckConfigFile check(choice.path);
+    const Outcome checked = check.run({});
+    if (checked.isFailure()) {
+        return checked;
     }
-    return {ConfigText{choice.label(), *file.bytes}, {}};
+    return ConfigText{choice.label(), *check.bytes()};
 }

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <memory>
 
-#include "app/UserText.h"
+#include "app/VersionText.h"
 #include "esp_flasher.h"
 
 namespace DeviceQueries {
@@ -14,7 +14,7 @@ std::optional<QString> firmwareVersion(const QString& port) {
     if (!reply) {
         return std::nullopt;
     }
-    return UserText::cleanFirmwareVersion(QString::fromUtf8(reply.get()));
+    return VersionText::cleanFirmwareVersion(QString::fromUtf8(reply.get()));
 }
 
 PartitionTable partitionTable(const QString& port, const QByteArray& stub) {

@@ -1,5 +1,6 @@
 #include "app/FirmwareCheck.h"
 
+#include "app/Texts.h"
 #include "image/FirmwareCheck.h"
 #include "image/Partitions.h"
 
@@ -48,8 +49,7 @@ std::optional<QString> bundledImageRefusal(const ResourceBundle& resources, cons
         QByteArray::fromRawData(image::kDevelopmentMarker.data(), image::kDevelopmentMarker.size());
     const auto bundled = resources.read(name, QStringLiteral("bin"));
     if (bundled && bundled->contains(marker)) {
-        return QStringLiteral("Bundled %1.bin refused: a development image, not firmware")
-            .arg(name);
+        return Texts::shippedImageRefused(name);
     }
     return std::nullopt;
 }
@@ -69,13 +69,13 @@ std::optional<QString> imagesRefusal(const QByteArray& firmware, const ResourceB
                                      DevelopmentImages developmentImages) {
     if (const auto refusal =
             firmwareRefusal(inspectFirmware(firmware), resources, developmentImages)) {
-        return QStringLiteral("Firmware image refused: ") + *refusal;
+        return Texts::imageRefused(*refusal);
     }
     return bundledImagesRefusal(resources, developmentImages);
 }
 
 QString describeFirmware(const image::AppDescription& app) {
-    return QStringLiteral("Firmware image: version ") + QString::fromStdString(app.version) +
-           QStringLiteral(", project ") + QString::fromStdString(app.projectName) +
-           QStringLiteral(", built ") + QString::fromStdString(app.date + ' ' + app.time);
+    return Texts::imageDescription(QString::fromStdString(app.version),
+                                   QString::fromStdString(app.projectName),
+                                   QString::fromStdString(app.date + ' ' + app.time));
 }

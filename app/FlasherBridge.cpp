@@ -89,8 +89,9 @@ Download downloadFile(const QString& port, const QString& name, ProgressHandler 
     uint8_t* data = nullptr;
     size_t length = 0;
     Download download;
-    download.result = esp_download_file(portText.constData(), nameText.constData(), &data, &length,
-                                        detail::progressTrampoline, detail::logTrampoline);
+    download.result =
+        esp_download_file(portText.constData(), nameText.constData(), &data, &length,
+                          detail::progressTrampoline, detail::logTrampoline, &download.status);
     const std::unique_ptr<uint8_t, decltype(&std::free)> owned(data, &std::free);
     if (download.result == 0 && data != nullptr) {
         download.data =

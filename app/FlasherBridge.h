@@ -40,7 +40,8 @@ esp_error_t uploadConfig(const QString& port, const QByteArray& configData,
 /// A file downloaded from the firmware, with the library's result.
 struct Download {
     esp_error_t result = 0;
-    QByteArray data;  ///< the file's bytes when `result` is 0, else empty
+    QByteArray data;               ///< the file's bytes when `result` is 0, else empty
+    esp_download_status status{};  ///< why it failed, as the library tells it
 };
 
 /// Downloads the file `name` (for example "config.yaml") from the firmware's file

@@ -3,7 +3,7 @@
 #include <QMetaType>
 #include <QString>
 
-/// The update controller's state: one of twelve cases, two of which carry a
+/// The update controller's state: one of eight cases, two of which carry a
 /// progress fraction and one an error message. A plain value, copied freely.
 class UpdateState {
     Q_GADGET
@@ -16,11 +16,7 @@ class UpdateState {
         error,
         idle,
         ready,
-        enteringBootloader,
-        syncing,
-        uploadingStub,
-        probing,
-        verifying,
+        downloadingConfig,  ///< the machine's config.yaml is being read
         flashComplete,
         configComplete,
     };
@@ -36,11 +32,7 @@ class UpdateState {
     static UpdateState error(const QString& message) { return {Kind::error, 0.0f, message}; }
     static UpdateState idle() { return {Kind::idle, 0.0f, {}}; }
     static UpdateState ready() { return {Kind::ready, 0.0f, {}}; }
-    static UpdateState enteringBootloader() { return {Kind::enteringBootloader, 0.0f, {}}; }
-    static UpdateState syncing() { return {Kind::syncing, 0.0f, {}}; }
-    static UpdateState uploadingStub() { return {Kind::uploadingStub, 0.0f, {}}; }
-    static UpdateState probing() { return {Kind::probing, 0.0f, {}}; }
-    static UpdateState verifying() { return {Kind::verifying, 0.0f, {}}; }
+    static UpdateState downloadingConfig() { return {Kind::downloadingConfig, 0.0f, {}}; }
     static UpdateState flashComplete() { return {Kind::flashComplete, 0.0f, {}}; }
     static UpdateState configComplete() { return {Kind::configComplete, 0.0f, {}}; }
 

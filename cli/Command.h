@@ -1,17 +1,17 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <QList>
 #include <QString>
 #include <QStringList>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "app/FirmwareCheck.h"
-#include "app/JobOutcome.h"
 #include "app/ResourceBundle.h"
-#include "cli/Event.h"
-#include "cli/ExitCode.h"
-#include "cli/Feed.h"
+#include "app/operations/Operation.h"
+#include "cli/ExitStatus.h"
 
 /// The options every subcommand shares, as the command line gave them.
 struct CommonOptions {
@@ -40,8 +40,9 @@ struct CommandContext {
     }
 };
 
-/// One subcommand of teskal-flash. Adding one means a class like this in a file
-/// of its own and a line in `makeCommands`.
+/// One subcommand of teskal-flash: it parses its own options, builds the
+/// application's operation, and says which exit statuses it can end with. Adding
+/// one means a class like this in a file of its own and a line in `makeCommands`.
 class Command {
   public:
     enum class Ports {
@@ -54,19 +55,18 @@ class Command {
 
     /// Adds the subcommand, its description and its own options to `parent`.
     virtual CLI::App* define(CLI::App& parent) = 0;
-    /// Its own exit statuses for --help, one "N  meaning" text each.
-    virtual QStringList exitCodes() const = 0;
+    /// What exit status 0 means for it ("written and verified").
+    virtual QString successMeaning() const = 0;
+    /// The other statuses it can end with, for --help, in the order listed.
+    virtual QList<int> failureStatuses() const = 0;
     virtual Ports ports() const { return Ports::one; }
-    /// The exit status when no plotter is connected.
-    virtual int noDeviceCode() const { return ExitCode::noDevice; }
+    virtual ExitStatus::Convention convention() const { return ExitStatus::Convention::table; }
     /// Whether it writes firmware, so that Ctrl+C asks to be pressed twice.
     virtual bool writesFirmware() const { return false; }
 
-    /// Runs for the plotter of `context` (or none), on a worker thread, and
-    /// blocks for as long as that takes. Only one command runs per process.
-    virtual event::Result run(const CommandContext& context, const Feed& feed) const = 0;
-};
+    /// The operation for the plotter of `context` (or for none).
+    virtual std::shared_ptr<Operation> operation(const CommandContext& context) const = 0;
 
-/// The exit status and message for a job's outcome: 0 and `success`, the
-/// library's code, 11 for a refusal, 12 for a missing resource.
-event::Result resultOf(const JobOutcome& outcome, const QString& success);
+    /// The --help lines of its exit statuses, from the one table.
+    QStringList exitStatusHelp() const;
+};

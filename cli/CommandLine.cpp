@@ -2,6 +2,8 @@
 
 #include <sstream>
 
+#include "app/BuildConfig.h"
+#include "app/Texts.h"
 #include "cli/Commands.h"
 
 namespace {
@@ -53,11 +55,8 @@ class HelpFormatter : public CLI::Formatter {
 
 std::string exitStatusFooter(const Command& command) {
     QString footer = QStringLiteral("Exit status:\n");
-    QStringList codes = command.exitCodes();
-    codes << QStringLiteral("64 the command line could not be understood")
-          << QStringLiteral("130 stopped with Ctrl+C");
-    for (const QString& code : codes) {
-        footer += QStringLiteral("  ") + code + QLatin1Char('\n');
+    for (const QString& line : command.exitStatusHelp()) {
+        footer += QStringLiteral("  ") + line + QLatin1Char('\n');
     }
     return footer.toStdString();
 }
@@ -71,6 +70,13 @@ CommandLine::CommandLine()
           "teskal-flash"),
       commands_(makeCommands()) {
     app_.formatter(std::make_shared<HelpFormatter>());
+    app_.set_version_flag(
+        "--version",
+        Texts::programVersion(QStringLiteral("teskal-flash"), BuildConfig::programVersion(),
+                              BuildConfig::buildDate(), BuildConfig::firmwareVersion())
+            .toStdString(),
+        "Print the program's version, its build date and the bundled firmware's "
+        "version");
     app_.require_subcommand(1);
     for (const auto& command : commands_) {
         CLI::App* subcommand = command->define(app_);
@@ -144,12 +150,12 @@ std::variant<const Command*, int> CommandLine::parse(int argc, char** argv) {
         app_.parse(static_cast<int>(pointers.size()), pointers.data());
     } catch (const CLI::ParseError& error) {
         const int status = app_.exit(error);
-        return status == 0 ? 0 : ExitCode::usage;
+        return status == 0 ? 0 : ExitStatus::usage;
     }
     for (const auto& [subcommand, command] : subcommands_) {
         if (subcommand->parsed()) {
             return command;
         }
     }
-    return ExitCode::usage;
+    return ExitStatus::usage;
 }

@@ -1,4 +1,4 @@
-#include "app/UserText.h"
+#include "app/operations/ListPlotters.h"
 #include "cli/Commands.h"
 
 namespace {
@@ -13,25 +13,14 @@ class DetectCommand : public Command {
             "simN.");
     }
 
-    QStringList exitCodes() const override {
-        return {QStringLiteral("0  at least one plotter is connected"),
-                QStringLiteral("1  none is")};
+    QString successMeaning() const override {
+        return QStringLiteral("at least one plotter is connected");
     }
-
+    QList<int> failureStatuses() const override { return {1}; }
     Ports ports() const override { return Ports::none; }
 
-    event::Result run(const CommandContext& context, const Feed& feed) const override {
-        for (const QString& port : context.connected) {
-            feed.log(port);
-        }
-        const qsizetype count = context.connected.size();
-        if (count == 0) {
-            return {ExitCode::noDevice, UserText::errorMessage(ExitCode::noDevice), true};
-        }
-        return {ExitCode::success,
-                count == 1 ? QStringLiteral("1 plotter connected")
-                           : QStringLiteral("%1 plotters connected").arg(count),
-                false};
+    std::shared_ptr<Operation> operation(const CommandContext& context) const override {
+        return std::make_shared<ListPlotters>(context.connected);
     }
 };
 

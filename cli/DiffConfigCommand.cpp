@@ -1,10 +1,8 @@
-#include "app/CompareMachineConfigJob.h"
+#include "app/operations/CompareWithMachine.h"
 #include "cli/Commands.h"
 #include "cli/ConfigSource.h"
 
 namespace {
-
-constexpr int kDifferent = 1;
 
 class DiffConfigCommand : public Command {
   public:
@@ -19,35 +17,13 @@ class DiffConfigCommand : public Command {
         return command;
     }
 
-    QStringList exitCodes() const override {
-        return {QStringLiteral("0  equal by key"), QStringLiteral("1  different"),
-                QStringLiteral("8  the machine's configuration could not be read (also when no "
-                               "plotter is connected)"),
-                QStringLiteral("11 the file was refused (not a valid machine configuration)"),
-                QStringLiteral("12 the product's configuration is missing from the resources")};
-    }
+    QString successMeaning() const override { return QStringLiteral("equal by key"); }
+    QList<int> failureStatuses() const override { return {1, 2, 8, 11, 12}; }
+    ExitStatus::Convention convention() const override { return ExitStatus::Convention::diff; }
 
-    int noDeviceCode() const override { return ExitCode::downloadFailed; }
-
-    event::Result run(const CommandContext& context, const Feed& feed) const override {
-        const ConfigChoice choice = source_.choice();
-        const ChosenConfig chosen = readChosenConfig(context.resources, choice);
-        if (!chosen.text) {
-            return {choice.product ? ExitCode::missingResource : ExitCode::refused, chosen.refusal,
-                    true};
-        }
-        CompareMachineConfigJob job(context.portPath, *chosen.text);
-        if (const auto failure = job.run(feed.jobSink())) {
-            return {ExitCode::downloadFailed, *failure, true};
-        }
-        const ConfigComparison& comparison = job.comparison();
-        for (const QString& line : comparison.keyDifferences) {
-            feed.log(line);
-        }
-        if (comparison.equalByKey()) {
-            return {ExitCode::success, QStringLiteral("Equal by key"), false};
-        }
-        return {kDifferent, QStringLiteral("Different"), false};
+    std::shared_ptr<Operation> operation(const CommandContext& context) const override {
+        return std::make_shared<CompareWithMachine>(context.portPath, context.resources,
+                                                    source_.choice());
     }
 
   private:

@@ -4,32 +4,24 @@
 #include <QtGlobal>
 #include <variant>
 
+#include "app/LogEntry.h"
+#include "app/Outcome.h"
+
 /// What a command reports for one plotter, in the order it happens.
 namespace event {
-
-/// A line of the log, as the window's log shows it.
-struct Log {
-    QString line;
-};
-
-/// A refusal or failure along the way, in the window's words, without "ERROR: ".
-struct Error {
-    QString message;
-};
 
 struct Progress {
     float fraction = 0.0f;  ///< as the library reports it, 0..1
     QString stage;          ///< the library's stage text; empty when it gave none
-    qint64 bytes = 0;       ///< bytes written to the machine so far; -1 when not told
+    qint64 bytes = 0;       ///< bytes transferred so far; -1 when not told
 };
 
-/// The last event of every command.
+/// The last event of every command: its outcome and the status it ends with.
 struct Result {
-    int code = 0;     ///< the exit status
-    QString message;  ///< what it came to; the error message when `failed`
-    bool failed = false;
+    int status = 0;
+    Outcome outcome;
 };
 
 }  // namespace event
 
-using Event = std::variant<event::Log, event::Error, event::Progress, event::Result>;
+using Event = std::variant<LogEntry, event::Progress, event::Result>;

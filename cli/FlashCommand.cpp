@@ -1,4 +1,4 @@
-#include "app/FirmwareUpdateJob.h"
+#include "app/operations/FlashFirmware.h"
 #include "cli/Commands.h"
 
 namespace {
@@ -24,33 +24,20 @@ class FlashCommand : public Command {
         return command;
     }
 
-    QStringList exitCodes() const override {
-        return {QStringLiteral("0  written and verified"),
-                QStringLiteral("1  no plotter is connected"),
-                QStringLiteral("2  the port could not be opened"),
-                QStringLiteral("3  no sync with the bootloader"),
-                QStringLiteral("4  unexpected chip, or secure boot or flash encryption enabled"),
-                QStringLiteral("5  the flasher stub did not start"),
-                QStringLiteral("6  erasing or writing failed"),
-                QStringLiteral("7  verification failed"),
-                QStringLiteral("11 the image was refused before anything was sent"),
-                QStringLiteral("12 an image is missing from the resources")};
-    }
-
+    QString successMeaning() const override { return QStringLiteral("written and verified"); }
+    QList<int> failureStatuses() const override { return {1, 2, 3, 4, 5, 6, 7, 11, 12}; }
     Ports ports() const override { return Ports::several; }
     bool writesFirmware() const override { return true; }
 
-    event::Result run(const CommandContext& context, const Feed& feed) const override {
-        FirmwareUpdateJob::Options options;
+    std::shared_ptr<Operation> operation(const CommandContext& context) const override {
+        FlashFirmware::Options options;
         if (!firmware_.empty()) {
             options.customFirmware = QString::fromStdString(firmware_);
         }
         options.writeBootPartitions = full_;
         options.eraseAll = eraseAll_;
         options.developmentImages = context.developmentImages();
-        const FirmwareUpdateJob job(context.portPath, context.resources, options);
-        return resultOf(job.run(feed.jobSink(&FirmwareUpdateJob::writtenShare)),
-                        QStringLiteral("Firmware update complete."));
+        return std::make_shared<FlashFirmware>(context.portPath, context.resources, options);
     }
 
   private:

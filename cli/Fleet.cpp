@@ -5,7 +5,8 @@
 #include <QCoreApplication>
 #include <algorithm>
 
-#include "cli/ExitCode.h"
+#include "app/Texts.h"
+#include "cli/ExitStatus.h"
 #include "cli/Json.h"
 
 QStringList childArguments(const QStringList& arguments, const QString& port) {
@@ -56,7 +57,7 @@ void Fleet::start() {
                 [this, raw](QProcess::ProcessError error) {
                     if (error == QProcess::FailedToStart) {
                         raw->errors = raw->process->errorString().toUtf8();
-                        childEnded(*raw, ExitCode::crashed, QProcess::CrashExit);
+                        childEnded(*raw, ExitStatus::crashed, QProcess::CrashExit);
                     }
                 });
         connect(&process, &QProcess::finished, this,
@@ -105,26 +106,23 @@ void Fleet::readOutput(Child& child) {
 void Fleet::childEnded(Child& child, int exitCode, QProcess::ExitStatus status) {
     readOutput(child);
     child.writing = false;
-    child.exitCode = status == QProcess::NormalExit ? exitCode : ExitCode::crashed;
+    child.exitCode = status == QProcess::NormalExit ? exitCode : ExitStatus::crashed;
     const QString why = QString::fromUtf8(child.errors).trimmed();
     if (!child.reported) {
-        reporter_.report(
-            child.port,
-            event::Result{*child.exitCode,
-                          why.isEmpty() ? QStringLiteral("ended without a result") : why, true});
+        const QString message = why.isEmpty() ? Texts::endedWithoutResult() : why;
+        reporter_.report(child.port, event::Result{*child.exitCode,
+                                                   Outcome::make(Outcome::Kind::failed, message)});
     } else if (status != QProcess::NormalExit) {
-        reporter_.report(child.port,
-                         event::Error{QStringLiteral("ended abnormally after its result") +
-                                      (why.isEmpty() ? QString() : QStringLiteral(": ") + why)});
+        reporter_.report(child.port, LogEntry::error(Texts::endedAbnormally(why)));
     }
     const bool allEnded = std::all_of(children_.begin(), children_.end(),
                                       [](const auto& c) { return c->exitCode.has_value(); });
     if (!allEnded) {
         return;
     }
-    int firstFailure = ExitCode::success;
+    int firstFailure = ExitStatus::success;
     for (const auto& c : children_) {
-        if (*c->exitCode != ExitCode::success) {
+        if (*c->exitCode != ExitStatus::success) {
             firstFailure = *c->exitCode;
             break;
         }

@@ -1,34 +1,65 @@
 #include "cli/Json.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <cstdio>
 
 namespace {
 
-const QString kErrorPrefix = QStringLiteral("ERROR: ");
+QJsonObject logObject(const LogEntry& entry) {
+    QJsonObject object{{"type", "log"}, {"line", entry.line()}};
+    if (entry.isError()) {
+        object.insert(QStringLiteral("severity"), QStringLiteral("error"));
+    }
+    return object;
+}
+
+QJsonObject progressObject(const event::Progress& progress) {
+    QJsonObject object{{"type", "progress"},
+                       {"fraction", static_cast<double>(progress.fraction)},
+                       {"stage", progress.stage}};
+    if (progress.bytes >= 0) {
+        object.insert(QStringLiteral("bytes"), progress.bytes);
+    }
+    return object;
+}
+
+QJsonObject resultObject(const event::Result& result) {
+    QJsonObject object{
+        {"type", "result"}, {"code", result.status}, {"message", result.outcome.message}};
+    if (!result.outcome.evidence.isEmpty()) {
+        object.insert(QStringLiteral("evidence"),
+                      QJsonArray::fromStringList(result.outcome.evidence));
+    }
+    return object;
+}
 
 QJsonObject objectFor(const Event& event) {
-    return std::visit(
-        [](const auto& e) -> QJsonObject {
-            using T = std::decay_t<decltype(e)>;
-            if constexpr (std::is_same_v<T, event::Log>) {
-                return {{"type", "log"}, {"line", e.line}};
-            } else if constexpr (std::is_same_v<T, event::Error>) {
-                return {{"type", "log"}, {"line", kErrorPrefix + e.message}};
-            } else if constexpr (std::is_same_v<T, event::Progress>) {
-                QJsonObject progress{{"type", "progress"},
-                                     {"fraction", static_cast<double>(e.fraction)},
-                                     {"stage", e.stage}};
-                if (e.bytes >= 0) {
-                    progress.insert(QStringLiteral("bytes"), e.bytes);
-                }
-                return progress;
-            } else {
-                return {{"type", "result"}, {"code", e.code}, {"message", e.message}};
-            }
-        },
-        event);
+    if (const auto* entry = std::get_if<LogEntry>(&event)) {
+        return logObject(*entry);
+    }
+    if (const auto* progress = std::get_if<event::Progress>(&event)) {
+        return progressObject(*progress);
+    }
+    return resultObject(std::get<event::Result>(event));
+}
+
+LogEntry entryFrom(const QJsonObject& object) {
+    const bool error =
+        object.value(QStringLiteral("severity")).toString() == QLatin1String("error");
+    return LogEntry::fromLine(error ? LogEntry::Severity::error : LogEntry::Severity::info,
+                              object.value(QStringLiteral("line")).toString());
+}
+
+event::Result resultFrom(const QJsonObject& object) {
+    const int status = object.value(QStringLiteral("code")).toInt();
+    Outcome outcome = Outcome::make(status == 0 ? Outcome::Kind::succeeded : Outcome::Kind::failed,
+                                    object.value(QStringLiteral("message")).toString());
+    for (const auto& line : object.value(QStringLiteral("evidence")).toArray()) {
+        outcome.evidence << line.toString();
+    }
+    return {status, outcome};
 }
 
 }  // namespace
@@ -45,11 +76,7 @@ std::optional<Event> eventFromJsonLine(const QByteArray& line) {
     const QJsonObject object = QJsonDocument::fromJson(line).object();
     const QString type = object.value(QStringLiteral("type")).toString();
     if (type == QLatin1String("log")) {
-        const QString text = object.value(QStringLiteral("line")).toString();
-        if (text.startsWith(kErrorPrefix)) {
-            return event::Error{text.mid(kErrorPrefix.size())};
-        }
-        return event::Log{text};
+        return entryFrom(object);
     }
     if (type == QLatin1String("progress")) {
         return event::Progress{
@@ -58,8 +85,7 @@ std::optional<Event> eventFromJsonLine(const QByteArray& line) {
             object.value(QStringLiteral("bytes")).toInteger(-1)};
     }
     if (type == QLatin1String("result")) {
-        const int code = object.value(QStringLiteral("code")).toInt();
-        return event::Result{code, object.value(QStringLiteral("message")).toString(), code != 0};
+        return resultFrom(object);
     }
     return std::nullopt;
 }

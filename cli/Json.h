@@ -8,9 +8,10 @@
 #include "cli/Reporter.h"
 
 /// One compact JSON object for `event`, without a line break: {"type":"log",
-/// "line":…}, {"type":"progress","fraction":…,"stage":…,"bytes":…} or
-/// {"type":"result","code":…,"message":…}, with "port" when `port` is not empty.
-/// An error is the log line the window shows for it, "ERROR: " and the message.
+/// "line":…} (with "severity":"error" for an error, whose line is the one the
+/// window shows, "ERROR: " and the message), {"type":"progress","fraction":…,
+/// "stage":…,"bytes":…} or {"type":"result","code":…,"message":…} (with
+/// "evidence":[…] when the outcome has any), and "port" when `port` is not empty.
 QByteArray toJsonLine(const QString& port, const Event& event);
 
 /// The event of one such line; none for anything else.

@@ -1,14 +1,15 @@
 #pragma once
 
 #include <QObject>
-#include <thread>
+#include <memory>
 
+#include "app/operations/OperationRunner.h"
 #include "cli/Command.h"
 #include "cli/Reporter.h"
 
-/// Runs one command in this process, for the plotter of its context or for none.
-/// The command runs on a worker thread; its events reach the reporter on the main
-/// thread in the order they happened.
+/// Runs one command's operation in this process, for the plotter of its context or
+/// for none, on the application's runner; its reports reach the reporter on the
+/// main thread in the order they happened, the result last.
 class LocalRun : public QObject {
     Q_OBJECT
 
@@ -16,9 +17,8 @@ class LocalRun : public QObject {
     /// `command` and `reporter` must outlive the run. With `verbose`, the library's
     /// own log lines are reported too.
     LocalRun(const Command& command, CommandContext context, Reporter& reporter, bool verbose);
-    /// Waits for the command to end.
-    ~LocalRun() override;
 
+    /// Starts the operation, or ends at once with its refusal.
     void start();
 
     /// True while a command that writes firmware is writing: from its first
@@ -27,18 +27,20 @@ class LocalRun : public QObject {
 
   signals:
     /// After the result has been reported.
-    void finished(int exitCode);
+    void finished(int exitStatus);
 
   private:
+    void enter(Phase phase, qint64 bytes);
+    void progress(float fraction, const QString& stage);
     void deliver(const Event& event);
+    void conclude(const Outcome& outcome);
 
     const Command& command_;
     const CommandContext context_;
     Reporter& reporter_;
     const bool verbose_;
     bool writing_ = false;
-    // Joined rather than waited for: a join also waits for the thread's exit
-    // handlers, where the crypto library frees its per-thread state. A process that
-    // ends between the two would leave that state behind.
-    std::thread worker_;
+    Phase phase_ = Phase::readingConfig;
+    qint64 phaseBytes_ = -1;
+    OperationRunner runner_;
 };

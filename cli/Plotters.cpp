@@ -7,22 +7,8 @@ namespace {
 
 constexpr unsigned short kVendorId = 0x303A;
 constexpr unsigned short kProductId = 0x1001;
-constexpr uint32_t kPartitionTableOffset = 0x8000;
 
 const QString kSimPrefix = QStringLiteral("sim");
-
-sim::Config simulatedTiming() {
-    sim::Config config;
-    config.flashBeginDelayMs = 50;
-    config.flashBlockDelayMs = 5;
-    config.eraseDelayMs = 500;
-    config.md5DelayMs = 20;
-    config.bootMs = 100;
-    config.consoleDelayMs = 5;
-    config.handshakeFirstMs = 200;
-    config.handshakeIntervalMs = 200;
-    return config;
-}
 
 }  // namespace
 
@@ -48,15 +34,6 @@ bool isSimulated(const QString& name, int simulated) {
     const int index = name.mid(kSimPrefix.size()).toInt(&number);
     return number && index >= 1 && index <= simulated &&
            name == kSimPrefix + QString::number(index);
-}
-
-std::unique_ptr<sim::PtyPlotter> startSimulated(const ResourceBundle& resources) {
-    auto plotter = std::make_unique<sim::PtyPlotter>(simulatedTiming());
-    if (const auto table = resources.read(QStringLiteral("partitions"), QStringLiteral("bin"))) {
-        const std::vector<uint8_t> bytes(table->begin(), table->end());
-        plotter->modify([&](sim::Plotter& p) { p.loadFlash(kPartitionTableOffset, bytes); });
-    }
-    return plotter;
 }
 
 }  // namespace Plotters

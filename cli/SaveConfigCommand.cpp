@@ -1,4 +1,4 @@
-#include "app/SaveMachineConfigJob.h"
+#include "app/operations/SaveMachineConfig.h"
 #include "cli/Commands.h"
 
 namespace {
@@ -17,20 +17,11 @@ class SaveConfigCommand : public Command {
         return command;
     }
 
-    QStringList exitCodes() const override {
-        return {QStringLiteral("0  saved"),
-                QStringLiteral("8  the machine's configuration could not be read or saved "
-                               "(also when no plotter is connected)")};
-    }
+    QString successMeaning() const override { return QStringLiteral("saved"); }
+    QList<int> failureStatuses() const override { return {1, 2, 8, 17}; }
 
-    int noDeviceCode() const override { return ExitCode::downloadFailed; }
-
-    event::Result run(const CommandContext& context, const Feed& feed) const override {
-        const SaveMachineConfigJob job(context.portPath, QString::fromStdString(file_));
-        if (const auto failure = job.run(feed.jobSink())) {
-            return {ExitCode::downloadFailed, *failure, true};
-        }
-        return {ExitCode::success, QStringLiteral("Machine config saved"), false};
+    std::shared_ptr<Operation> operation(const CommandContext& context) const override {
+        return std::make_shared<SaveMachineConfig>(context.portPath, QString::fromStdString(file_));
     }
 
   private:

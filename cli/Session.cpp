@@ -10,7 +10,8 @@
 #include <memory>
 #include <system_error>
 
-#include "app/UserText.h"
+#include "app/SimulatedPlotter.h"
+#include "app/Texts.h"
 #include "cli/Fleet.h"
 #include "cli/Interrupts.h"
 #include "cli/Json.h"
@@ -76,7 +77,7 @@ class Single {
         context.simulated =
             port.isEmpty() ? options.simulated > 0 : Plotters::isSimulated(port, options.simulated);
         if (!port.isEmpty() && context.simulated) {
-            plotter_ = Plotters::startSimulated(context.resources);
+            plotter_ = startSimulatedPlotter(context.resources, SimulatedPace::brisk);
             context.portPath = QString::fromStdString(plotter_->path());
         }
         run_ = std::make_unique<LocalRun>(command, std::move(context), reporter, options.verbose);
@@ -96,11 +97,9 @@ std::unique_ptr<Single> startSingle(const Command& command, const CommonOptions&
     try {
         return std::make_unique<Single>(command, options, port, connected, reporter);
     } catch (const std::system_error& error) {
-        reporter.report(port, event::Result{ExitCode::portNotOpened,
-                                            QStringLiteral("Could not start the simulated "
-                                                           "plotter: ") +
-                                                QString::fromLocal8Bit(error.what()),
-                                            true});
+        Outcome outcome = Outcome::library(2);
+        outcome.message = Texts::simulatorNotStarted(QString::fromLocal8Bit(error.what()));
+        reporter.report(port, event::Result{ExitStatus::of(outcome), outcome});
         return nullptr;
     }
 }
@@ -122,7 +121,7 @@ void stopOnInterrupts(const Interrupts& interrupts, Reporter& reporter,
         reporter.close();
         std::fflush(nullptr);
         // The job may be blocked inside the library; nothing would join its thread.
-        std::_Exit(ExitCode::stopped);
+        std::_Exit(ExitStatus::stopped);
     });
 }
 
@@ -137,10 +136,10 @@ int runSession(const Command& command, const CommonOptions& options, const QStri
     const QStringList ports = chosenPorts(command, options, connected);
     const std::unique_ptr<Reporter> reporter = makeReporter(options, ports.size() > 1);
     if (ports.isEmpty()) {
-        reporter->report(QString(),
-                         event::Result{command.noDeviceCode(),
-                                       UserText::errorMessage(ExitCode::noDevice), true});
-        return command.noDeviceCode();
+        const Outcome none = Outcome::make(Outcome::Kind::noDevice, Texts::errorMessage(1));
+        const int status = ExitStatus::of(none, command.convention());
+        reporter->report(QString(), event::Result{status, none});
+        return status;
     }
 
     QEventLoop loop;
@@ -157,7 +156,7 @@ int runSession(const Command& command, const CommonOptions& options, const QStri
     }
     const auto single = startSingle(command, options, ports.first(), connected, *reporter);
     if (!single) {
-        return ExitCode::portNotOpened;
+        return ExitStatus::of(Outcome::library(2));
     }
     LocalRun& run = single->run();
     QObject::connect(&run, &LocalRun::finished, &loop, &QEventLoop::exit);

@@ -35,12 +35,12 @@ TextReporter::TextReporter(Style style) : style_(style) {
 
 void TextReporter::report(const QString& port, const Event& event) {
     Row& target = row(port);
-    if (const auto* log = std::get_if<event::Log>(&event)) {
-        if (style_.showLog) {
-            printLine(stdout, prefixed(port, log->line));
+    if (const auto* entry = std::get_if<LogEntry>(&event)) {
+        if (entry->isError()) {
+            printLine(stderr, prefixed(port, entry->line()));
+        } else if (style_.showLog) {
+            printLine(stdout, prefixed(port, entry->line()));
         }
-    } else if (const auto* error = std::get_if<event::Error>(&event)) {
-        printLine(stderr, prefixed(port, QStringLiteral("ERROR: ") + error->message));
     } else if (const auto* progress = std::get_if<event::Progress>(&event)) {
         onProgress(target, *progress);
     } else {
@@ -91,15 +91,22 @@ void TextReporter::onProgress(Row& row, const event::Progress& progress) {
                                              : row.meter.stage() + QLatin1Char(' ') + figures));
 }
 
+// A failure goes to standard error in the window's words; with several plotters
+// a success gets a line of its own. The evidence follows the message.
 void TextReporter::onResult(Row& row, const event::Result& result) {
+    const Outcome& outcome = result.outcome;
     if (row.meter.active()) {
-        row.meter.finish(!result.failed);
+        row.meter.finish(!outcome.isFailure());
         scheduleDraw();
     }
-    if (result.failed) {
-        printLine(stderr, prefixed(row.port, QStringLiteral("ERROR: ") + result.message));
+    std::FILE* stream = outcome.isFailure() ? stderr : stdout;
+    if (outcome.isFailure()) {
+        printLine(stream, prefixed(row.port, LogEntry::error(outcome.message).line()));
     } else if (style_.withPorts) {
-        printLine(stdout, prefixed(row.port, result.message));
+        printLine(stream, prefixed(row.port, outcome.message));
+    }
+    for (const QString& line : outcome.evidence) {
+        printLine(stream, prefixed(row.port, line));
     }
 }
 

@@ -1,14 +1,8 @@
-#include "app/ConfigUploadJob.h"
+#include "app/operations/UploadConfig.h"
 #include "cli/Commands.h"
 #include "cli/ConfigSource.h"
 
 namespace {
-
-const QString kUploaded = QStringLiteral("Upload successful; restarting machine.");
-
-double uploadedShare(float fraction) {
-    return static_cast<double>(fraction);
-}
 
 class UploadConfigCommand : public Command {
   public:
@@ -23,38 +17,18 @@ class UploadConfigCommand : public Command {
         return command;
     }
 
-    QStringList exitCodes() const override {
-        return {QStringLiteral("0  uploaded; the machine restarts"),
-                QStringLiteral("1  no plotter is connected"),
-                QStringLiteral("2  the port could not be opened"),
-                QStringLiteral("8  the upload failed"),
-                QStringLiteral("11 the configuration was refused before anything was sent"),
-                QStringLiteral("12 the product's configuration is missing from the resources")};
+    QString successMeaning() const override {
+        return QStringLiteral("uploaded; the machine restarts");
     }
-
+    QList<int> failureStatuses() const override { return {1, 2, 8, 11, 12}; }
     Ports ports() const override { return Ports::several; }
 
-    event::Result run(const CommandContext& context, const Feed& feed) const override {
-        const JobSink sink = feed.jobSink(&uploadedShare);
-        const ConfigChoice choice = source_.choice();
-        if (choice.product) {
-            // The development set's configurations describe no real machine.
-            if (context.developmentSet && !context.simulated) {
-                return {ExitCode::refused,
-                        QStringLiteral("The development set's configurations are only for "
-                                       "simulated plotters"),
-                        true};
-            }
-            const ConfigUploadJob job(context.portPath, context.resources, *choice.product);
-            return resultOf(job.run(sink), kUploaded);
-        }
-        const ConfigFile config = readConfigFile(choice.path);
-        if (!config.bytes) {
-            return {ExitCode::refused, config.refusal, true};
-        }
-        feed.log(config.announcement);
-        const ConfigUploadJob job(context.portPath, *config.bytes);
-        return resultOf(job.run(sink), kUploaded);
+    std::shared_ptr<Operation> operation(const CommandContext& context) const override {
+        UploadConfig::Options options;
+        // The development set's configurations describe no real machine.
+        options.developmentConfigsRefused = context.developmentSet && !context.simulated;
+        return std::make_shared<UploadConfig>(context.portPath, context.resources, source_.choice(),
+                                              options);
     }
 
   private:

@@ -1,5 +1,4 @@
-#include "app/DeviceQueries.h"
-#include "app/UserText.h"
+#include "app/operations/QueryVersion.h"
 #include "cli/Commands.h"
 
 namespace {
@@ -13,20 +12,11 @@ class VersionCommand : public Command {
             "window shows it: \"FluidNC v3.7.8 (main)\" prints v3.7.8.");
     }
 
-    QStringList exitCodes() const override {
-        return {QStringLiteral("0  the firmware answered"),
-                QStringLiteral("9  it did not answer, or no plotter is connected")};
-    }
+    QString successMeaning() const override { return QStringLiteral("the firmware answered"); }
+    QList<int> failureStatuses() const override { return {1, 9}; }
 
-    int noDeviceCode() const override { return ExitCode::noAnswer; }
-
-    event::Result run(const CommandContext& context, const Feed& feed) const override {
-        const auto version = DeviceQueries::firmwareVersion(context.portPath);
-        if (!version) {
-            return {ExitCode::noAnswer, UserText::errorMessage(ExitCode::noAnswer), true};
-        }
-        feed.log(*version);
-        return {ExitCode::success, *version, false};
+    std::shared_ptr<Operation> operation(const CommandContext& context) const override {
+        return std::make_shared<QueryVersion>(context.portPath);
     }
 };
 

@@ -9,9 +9,10 @@
 #include <QUrl>
 
 #include "app/LogExport.h"
-#include "app/SaveMachineConfigJob.h"
 #include "app/SleepInhibitor.h"
+#include "app/Texts.h"
 #include "app/UpdateController.h"
+#include "app/operations/SaveMachineConfig.h"
 #include "ui/AboutWindow.h"
 #include "ui/CompareWindow.h"
 #include "ui/UpdaterView.h"
@@ -96,7 +97,7 @@ void AppDelegate::openFirmwareFile() {
 
 void AppDelegate::useBundledFirmware() {
     updateController_->setCustomFirmwareURL(QUrl());
-    updateController_->log(QStringLiteral("Using bundled firmware"));
+    updateController_->log(Texts::usingShipped());
 }
 
 void AppDelegate::saveLog() {
@@ -104,13 +105,8 @@ void AppDelegate::saveLog() {
     const auto path = options_.chooseSaveFile(
         window_.get(), {QStringLiteral("Save Log"), LogExport::defaultFileName(now),
                         QStringLiteral("Text files (*.txt)")});
-    if (!path) {
-        return;
-    }
-    const QString text = LogExport::document(updateController_->logMessages(),
-                                             updateController_->deviceMonitor()->port(), now);
-    if (const auto failure = LogExport::save(*path, text)) {
-        updateController_->log(QStringLiteral("ERROR: Could not save log: ") + *failure);
+    if (path) {
+        updateController_->saveLog(*path);
     }
 }
 
@@ -140,20 +136,20 @@ void AppDelegate::toggleBackupBeforeUpload(QAction* item) {
 
 void AppDelegate::uploadConfigAction(QAction* item) {
     if (const auto product = productOf(item)) {
-        uploadChoice(ConfigChoice::ofProduct(*product));
+        updateController_->uploadChoice(ConfigChoice::ofProduct(*product));
     }
 }
 
 void AppDelegate::uploadConfigFromDisk() {
     if (const auto path = chooseConfigFile()) {
-        uploadChoice(ConfigChoice::ofFile(*path));
+        updateController_->uploadChoice(ConfigChoice::ofFile(*path));
     }
 }
 
 void AppDelegate::saveMachineConfig() {
     const auto path = options_.chooseSaveFile(
         window_.get(), {QStringLiteral("Save Machine Config"),
-                        SaveMachineConfigJob::defaultFileName(QDateTime::currentDateTime()),
+                        SaveMachineConfig::defaultFileName(QDateTime::currentDateTime()),
                         QStringLiteral("YAML files (*.yaml *.yml)")});
     if (path) {
         updateController_->saveMachineConfig(*path);
@@ -175,7 +171,7 @@ void AppDelegate::compareWithFile() {
 void AppDelegate::showComparison(const ConfigComparison& comparison, const ConfigChoice& chosen) {
     compareWindow_ = std::make_unique<CompareWindow>(comparison, chosen.label());
     connect(compareWindow_.get(), &CompareWindow::uploadRequested, this,
-            [this, chosen] { uploadChoice(chosen); });
+            [this, chosen] { updateController_->uploadChoice(chosen); });
     centreOnScreen(compareWindow_.get());
     bringToFront(compareWindow_.get());
 }
@@ -193,12 +189,4 @@ std::optional<QString> AppDelegate::chooseConfigFile() {
     return options_.chooseFile(window_.get(),
                                {QStringLiteral("Select a configuration file (.yaml)"),
                                 {QStringLiteral("yaml"), QStringLiteral("yml")}});
-}
-
-void AppDelegate::uploadChoice(const ConfigChoice& choice) {
-    if (choice.product) {
-        updateController_->uploadConfig(choice.product->configFile, choice.product->name);
-    } else {
-        updateController_->uploadConfigFromFile(choice.path);
-    }
 }

@@ -62,8 +62,7 @@ class AppDelegate : public QObject {
     void showAbout();
     void openFirmwareFile();
     void useBundledFirmware();
-    /// Asks where to save the log and writes it there with its header; a file that
-    /// cannot be written adds an "ERROR: Could not save log: " line to the log.
+    /// Asks where to save the log and has the controller write it there.
     void saveLog();
     void toggleDetailedLogging(QAction* item);
     void toggleWriteBootPartitions(QAction* item);
@@ -94,7 +93,6 @@ class AppDelegate : public QObject {
     void addProductItems(QMenu* menu, void (AppDelegate::*action)(QAction*));
     std::optional<ProductConfig> productOf(const QAction* item) const;
     std::optional<QString> chooseConfigFile();
-    void uploadChoice(const ConfigChoice& choice);
     QAction* addToggle(QMenu* menu, const QString& title, bool checked,
                        void (AppDelegate::*toggle)(QAction*));
 

@@ -58,10 +58,10 @@ LogPanel::LogPanel(QWidget* parent)
     addAction(QStringLiteral("Copy"), this, &LogPanel::copyToClipboard);
 }
 
-void LogPanel::setLines(const QStringList& lines) {
-    view_->setLines(lines);
-    if (lines.isEmpty() != copyButton_->isHidden()) {
-        copyButton_->setVisible(!lines.isEmpty());
+void LogPanel::setEntries(const LogEntries& entries) {
+    view_->setEntries(entries);
+    if (entries.isEmpty() != copyButton_->isHidden()) {
+        copyButton_->setVisible(!entries.isEmpty());
         copyButton_->raise();
     }
 }

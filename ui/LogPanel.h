@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QStringList>
 #include <QWidget>
+
+#include "app/LogEntry.h"
 
 class LogView;
 class QToolButton;
@@ -16,8 +17,9 @@ class LogPanel : public QWidget {
   public:
     explicit LogPanel(QWidget* parent = nullptr);
 
-    /// Shows `lines` (see `LogView::setLines`) and the copy button while there are any.
-    void setLines(const QStringList& lines);
+    /// Shows `entries` (see `LogView::setEntries`) and the copy button while there
+    /// are any.
+    void setEntries(const LogEntries& entries);
 
     LogView* view() const { return view_; }
     QToolButton* copyButton() const { return copyButton_; }

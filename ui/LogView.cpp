@@ -64,33 +64,31 @@ LogView::LogView(QWidget* parent)
     setAutoFillBackground(false);
 }
 
-bool LogView::isErrorLine(const QString& line) {
-    return line.startsWith(QLatin1String("ERROR:"));
+QFont LogView::fontFor(const LogEntry& entry) const {
+    return entry.isError() ? bold_ : regular_;
 }
 
-QFont LogView::fontFor(const QString& line) const {
-    return isErrorLine(line) ? bold_ : regular_;
-}
-
-void LogView::setLines(const QStringList& lines) {
-    const qsizetype shown = lines_.size();
-    const bool extends = lines.size() > shown && (shown == 0 || lines[shown - 1] == lines_.last());
+void LogView::setEntries(const LogEntries& entries) {
+    const qsizetype shown = entries_.size();
+    const bool extends =
+        entries.size() > shown && (shown == 0 || entries[shown - 1] == entries_.last());
     if (extends) {
-        for (qsizetype i = shown; i < lines.size(); ++i) {
-            appendLine(lines[i]);
+        for (qsizetype i = shown; i < entries.size(); ++i) {
+            append(entries[i]);
         }
     } else {
         // Rebuilt from a fresh list so the controller's list is never shared with
         // ours: sharing would make its next append copy the whole log.
+        entries_.clear();
         lines_.clear();
         tops_.clear();
         contentHeight_ = 0;
-        for (const QString& line : lines) {
-            appendLine(line);
+        for (const LogEntry& entry : entries) {
+            append(entry);
         }
     }
-    if (lines.size() != shown) {
-        scrollPending_ = !lines.isEmpty();
+    if (entries.size() != shown) {
+        scrollPending_ = !entries.isEmpty();
     }
     if (!refresh_.isActive()) {
         refresh_.start();
@@ -106,19 +104,22 @@ void LogView::refresh() {
     viewport()->update();
 }
 
-void LogView::appendLine(const QString& line) {
-    const int top = lines_.isEmpty() ? 0 : contentHeight_ + spacing_;
-    lines_.append(line);
+void LogView::append(const LogEntry& entry) {
+    const int top = entries_.isEmpty() ? 0 : contentHeight_ + spacing_;
+    entries_.append(entry);
+    lines_.append(entry.line());
     tops_.push_back(top);
-    contentHeight_ = top + measure(line);
+    contentHeight_ = top + measure(entry);
 }
 
-int LogView::measure(const QString& line) const {
+int LogView::measure(const LogEntry& entry) const {
     const int width = std::max(1, viewport()->width());
-    if (fitsOnOneLine(line, width)) {
-        return isErrorLine(line) ? boldHeight_ : regularHeight_;
+    const QString line = entry.line();
+    const QFont font = fontFor(entry);
+    if (fitsOnOneLine(line, font, width)) {
+        return entry.isError() ? boldHeight_ : regularHeight_;
     }
-    QTextLayout layout(line, fontFor(line));
+    QTextLayout layout(line, font);
     layout.setTextOption(wrapOption());
     layout.beginLayout();
     qreal height = 0;
@@ -132,20 +133,21 @@ int LogView::measure(const QString& line) const {
 
 // Shaping a line costs far more than the rest of an append, so lines whose width
 // follows from their length are not shaped.
-bool LogView::fitsOnOneLine(const QString& line, int width) const {
+bool LogView::fitsOnOneLine(const QString& line, const QFont& font, int width) const {
     if (cellWidth_ > 0 && isCellText(line)) {
         return line.size() * cellWidth_ <= width;
     }
-    return QFontMetricsF(fontFor(line)).horizontalAdvance(line) <= width;
+    return QFontMetricsF(font).horizontalAdvance(line) <= width;
 }
 
 void LogView::remeasure() {
-    const QStringList lines = lines_;
+    const LogEntries entries = entries_;
+    entries_.clear();
     lines_.clear();
     tops_.clear();
     contentHeight_ = 0;
-    for (const QString& line : lines) {
-        appendLine(line);
+    for (const LogEntry& entry : entries) {
+        append(entry);
     }
     updateScrollRange();
 }
@@ -195,7 +197,7 @@ void LogView::paintEvent(QPaintEvent* event) {
     for (; index < lines_.size() && tops_[index] <= area.bottom(); ++index) {
         const QString& line = lines_[index];
         const int next = index + 1 < lines_.size() ? tops_[index + 1] : contentHeight_;
-        painter.setFont(fontFor(line));
+        painter.setFont(fontFor(entries_[index]));
         painter.drawText(QRectF(0, tops_[index] - offset, width, next - tops_[index]), line,
                          option);
     }

@@ -2,12 +2,13 @@
 
 #include <QAbstractScrollArea>
 #include <QFont>
-#include <QStringList>
 #include <QTimer>
 #include <vector>
 
+#include "app/LogEntry.h"
+
 /// The log's lines, one wrapped text per entry, 2 px apart, in the fixed-pitch
-/// system font at 11 px (bold for lines that begin with "ERROR:").
+/// system font at 11 px (errors in bold, after "ERROR:").
 ///
 /// Lines are measured once when they arrive and painted only while visible, so a
 /// line appended to a log of any length costs the same. GUI thread only.
@@ -17,21 +18,21 @@ class LogView : public QAbstractScrollArea {
   public:
     explicit LogView(QWidget* parent = nullptr);
 
-    /// Shows `lines`. A list that extends the one shown (same count up to its last
-    /// shown line) only measures the new lines; any other list replaces them all.
-    /// When the count changed and is not zero, scrolls so that the last line lies at
-    /// the bottom edge of the visible area. The lines are taken at once; scroll bar
-    /// and drawing follow within one frame (16 ms), once for any number of calls.
-    void setLines(const QStringList& lines);
+    /// Shows `entries`. A list that extends the one shown (same count up to its
+    /// last shown entry) only measures the new ones; any other list replaces them
+    /// all. When the count changed and is not zero, scrolls so that the last line
+    /// lies at the bottom edge of the visible area. The entries are taken at once;
+    /// scroll bar and drawing follow within one frame (16 ms), once for any number
+    /// of calls.
+    void setEntries(const LogEntries& entries);
 
-    /// The lines shown, oldest first.
+    /// The entries shown, oldest first.
+    const LogEntries& entries() const { return entries_; }
+    /// The lines shown, as `LogEntry::line` renders them.
     const QStringList& lines() const { return lines_; }
 
-    /// True when `line` is shown in bold: it begins with the six characters "ERROR:".
-    static bool isErrorLine(const QString& line);
-
-    /// The font `line` is drawn with.
-    QFont fontFor(const QString& line) const;
+    /// The font `entry` is drawn with: bold for an error.
+    QFont fontFor(const LogEntry& entry) const;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -39,10 +40,10 @@ class LogView : public QAbstractScrollArea {
     void scrollContentsBy(int dx, int dy) override;
 
   private:
-    void appendLine(const QString& line);
+    void append(const LogEntry& entry);
     void remeasure();
-    int measure(const QString& line) const;
-    bool fitsOnOneLine(const QString& line, int width) const;
+    int measure(const LogEntry& entry) const;
+    bool fitsOnOneLine(const QString& line, const QFont& font, int width) const;
     void refresh();
     void updateScrollRange();
     void scrollToBottom();
@@ -54,7 +55,8 @@ class LogView : public QAbstractScrollArea {
     // Advance of one character cell; 0 when the font is not fixed-pitch.
     qreal cellWidth_;
     int spacing_;
-    QStringList lines_;
+    LogEntries entries_;
+    QStringList lines_;  // entries_ as shown, rendered once
     // Top edge of each line in content coordinates; the content's height follows
     // the last line.
     std::vector<int> tops_;

@@ -86,7 +86,7 @@ void UpdaterView::connectTo(UpdateController& controller) {
     connect(&controller, &UpdateController::stateChanged, this, &UpdaterView::showState);
     connect(&controller, &UpdateController::statusMessageChanged, this,
             &UpdaterView::showStatusMessage);
-    connect(&controller, &UpdateController::logMessagesChanged, this, &UpdaterView::showLog);
+    connect(&controller, &UpdateController::logChanged, this, &UpdaterView::showLog);
     connect(&controller, &UpdateController::customFirmwareURLChanged, this,
             [this, &controller] { showFirmwareLabel(controller.firmwareLabel()); });
     const auto followMonitor = [this, monitor] {
@@ -98,7 +98,7 @@ void UpdaterView::connectTo(UpdateController& controller) {
     showState(controller.state());
     showStatusMessage(controller.statusMessage());
     showFirmwareLabel(controller.firmwareLabel());
-    showLog(controller.logMessages());
+    showLog(controller.log());
     followMonitor();
 }
 
@@ -116,17 +116,13 @@ void UpdaterView::showState(const UpdateState& state) {
             progress_->show();
             break;
         }
-        case Kind::enteringBootloader:
-        case Kind::syncing:
-        case Kind::uploadingStub:
-        case Kind::probing:
+        case Kind::downloadingConfig:
             progress_->setPalette(QPalette());
             progress_->setRange(0, 0);
             progress_->show();
             break;
         case Kind::idle:
         case Kind::ready:
-        case Kind::verifying:
         case Kind::flashComplete:
         case Kind::configComplete:
         case Kind::error:
@@ -152,8 +148,8 @@ void UpdaterView::showFirmwareLabel(const QString& label) {
     firmware_->setText(label);
 }
 
-void UpdaterView::showLog(const QStringList& lines) {
-    log_->setLines(lines);
+void UpdaterView::showLog(const LogEntries& entries) {
+    log_->setEntries(entries);
 }
 
 void UpdaterView::updateButtonEnabled() {

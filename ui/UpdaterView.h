@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <optional>
 
+#include "app/LogEntry.h"
 #include "app/UpdateState.h"
 #include "ui/ElidedLabel.h"
 
@@ -35,8 +36,8 @@ class UpdaterView : public QWidget {
     /// One line; a message too long for it is elided, whole in the tooltip.
     void showStatusMessage(const QString& message);
     void showFirmwareLabel(const QString& label);
-    /// The log lines; see `LogView::setLines` for scrolling.
-    void showLog(const QStringList& lines);
+    /// The log; see `LogView::setEntries` for scrolling.
+    void showLog(const LogEntries& entries);
 
     StatusDot* statusDot() const { return dot_; }
     ElidedLabel* statusLabel() const { return status_; }

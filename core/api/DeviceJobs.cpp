@@ -48,9 +48,10 @@ esp_error_t runUploadConfigJob(SerialPort& port, const uint8_t* data, size_t len
 }
 
 std::optional<std::vector<uint8_t>> runDownloadFileJob(SerialPort& port, const std::string& name,
-                                                       esp_progress_cb progress, esp_log_cb log) {
+                                                       esp_progress_cb progress, esp_log_cb log,
+                                                       fluidnc::DownloadFailure* failure) {
     settleConsole(port);
-    return fluidnc::downloadFile(port, name, progress, log);
+    return fluidnc::downloadFile(port, name, progress, log, failure);
 }
 
 std::optional<std::string> runQueryVersionJob(SerialPort& port) {

@@ -74,6 +74,29 @@ bool openPort(SerialPort& serial, const char* path, esp_log_cb log, bool logOpen
     return true;
 }
 
+int downloadFailure(fluidnc::DownloadFailure::Reason reason) {
+    using Reason = fluidnc::DownloadFailure::Reason;
+    switch (reason) {
+        case Reason::none:
+            return ESP_DOWNLOAD_OK;
+        case Reason::invalidName:
+            return ESP_DOWNLOAD_INVALID_NAME;
+        case Reason::commandNotSent:
+            return ESP_DOWNLOAD_COMMAND_NOT_SENT;
+        case Reason::noBlock:
+            return ESP_DOWNLOAD_NO_BLOCK;
+        case Reason::cancelled:
+            return ESP_DOWNLOAD_CANCELLED;
+        case Reason::tooLarge:
+            return ESP_DOWNLOAD_TOO_LARGE;
+        case Reason::blockFailed:
+            return ESP_DOWNLOAD_BLOCK_FAILED;
+        case Reason::answerNotSent:
+            return ESP_DOWNLOAD_ANSWER_NOT_SENT;
+    }
+    return ESP_DOWNLOAD_OK;
+}
+
 }  // namespace
 
 extern "C" {
@@ -141,25 +164,34 @@ int esp_probe_partition_table(const char* port, const uint8_t* stub, size_t stub
 }
 
 esp_error_t esp_download_file(const char* port, const char* name, uint8_t** data, size_t* length,
-                              esp_progress_cb progress, esp_log_cb log) {
+                              esp_progress_cb progress, esp_log_cb log,
+                              esp_download_status* status) {
+    esp_download_status ignored{};
+    esp_download_status& outcome = status != nullptr ? *status : ignored;
+    outcome = {ESP_DOWNLOAD_OK, 0};
     if (data == nullptr || length == nullptr || name == nullptr) {
         logLine(log, "XModem download: invalid arguments");
+        outcome.failure = ESP_DOWNLOAD_INVALID_ARGUMENTS;
         return esp::result::DownloadFailed;
     }
     *data = nullptr;
     *length = 0;
     SerialPort serial;
     if (!openPort(serial, port, log, true)) {
+        outcome.failure = ESP_DOWNLOAD_PORT_NOT_OPENED;
         return esp::result::PortOpenFailed;
     }
-    const auto file = esp::runDownloadFileJob(serial, name, progress, log);
+    fluidnc::DownloadFailure failure;
+    const auto file = esp::runDownloadFileJob(serial, name, progress, log, &failure);
     if (!file) {
+        outcome = {downloadFailure(failure.reason), static_cast<uint32_t>(failure.block)};
         return esp::result::DownloadFailed;
     }
     if (!file->empty()) {
         *data = static_cast<uint8_t*>(std::malloc(file->size()));
         if (*data == nullptr) {
             logLine(log, "XModem download: out of memory");
+            outcome.failure = ESP_DOWNLOAD_OUT_OF_MEMORY;
             return esp::result::DownloadFailed;
         }
         std::memcpy(*data, file->data(), file->size());

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "api/esp_flasher.h"
+#include "fluidnc/Download.h"
 #include "serial/SerialPort.h"
 
 /// The bodies of the library's jobs, run on a port that is already open. The
@@ -54,9 +55,10 @@ esp_error_t runUploadConfigJob(SerialPort& port, const uint8_t* data, size_t len
 
 /// The file download after the port has been opened: the console is first left
 /// idle as for the upload, then `name` is received. Absent on failure, which has
-/// written one line to `log`.
+/// written one line to `log` and, when `failure` is not null, set `*failure`.
 std::optional<std::vector<uint8_t>> runDownloadFileJob(SerialPort& port, const std::string& name,
-                                                       esp_progress_cb progress, esp_log_cb log);
+                                                       esp_progress_cb progress, esp_log_cb log,
+                                                       fluidnc::DownloadFailure* failure = nullptr);
 
 /// The version query after the port has been opened.
 std::optional<std::string> runQueryVersionJob(SerialPort& port);

@@ -61,14 +61,36 @@ char* esp_detect_device(uint16_t vendorId, uint16_t productId);
  * -1 could not be read. */
 int esp_probe_partition_table(const char* port, const uint8_t* stub, size_t stubLen);
 
+/* Why esp_download_file ended without a file: the cause its log line names, as data. */
+enum esp_download_failure {
+    ESP_DOWNLOAD_OK = 0,
+    ESP_DOWNLOAD_INVALID_ARGUMENTS = 1, /* a null name or output pointer */
+    ESP_DOWNLOAD_PORT_NOT_OPENED = 2,
+    ESP_DOWNLOAD_INVALID_NAME = 3, /* empty, or holds a line break */
+    ESP_DOWNLOAD_COMMAND_NOT_SENT = 4,
+    ESP_DOWNLOAD_NO_BLOCK = 5,        /* the firmware never started sending */
+    ESP_DOWNLOAD_CANCELLED = 6,       /* the firmware cancelled the transfer */
+    ESP_DOWNLOAD_TOO_LARGE = 7,       /* more than 16 MiB arrived */
+    ESP_DOWNLOAD_BLOCK_FAILED = 8,    /* one block failed 25 times */
+    ESP_DOWNLOAD_ANSWER_NOT_SENT = 9, /* an acknowledgement could not be written */
+    ESP_DOWNLOAD_OUT_OF_MEMORY = 10
+};
+
+typedef struct esp_download_status {
+    int failure;    /* enum esp_download_failure */
+    uint32_t block; /* for ESP_DOWNLOAD_BLOCK_FAILED: the block, counted from 1; else 0 */
+} esp_download_status;
+
 /* Downloads the file `name` (for example "config.yaml") from the firmware's file
  * system over XModem. On 0, *data holds a malloc'd copy of the file that the
  * caller releases with free(), and *length its size; an empty file gives length 0
- * and may give a null pointer. On failure *data is null, *length 0, and one log
- * line names the cause. Returns 0, 2 (port not opened) or 8 (download failed,
- * also for a missing name or null output pointers). */
+ * and may give a null pointer. On failure *data is null, *length 0, one log line
+ * names the cause, and so does *status when status is not null. Returns 0, 2
+ * (port not opened) or 8 (download failed, also for a missing name or null output
+ * pointers). */
 esp_error_t esp_download_file(const char* port, const char* name, uint8_t** data, size_t* length,
-                              esp_progress_cb progress, esp_log_cb log);
+                              esp_progress_cb progress, esp_log_cb log,
+                              esp_download_status* status);
 
 #ifdef __cplusplus
 }

@@ -33,8 +33,8 @@ enum class Outcome { Stored, Repeated, Refused, Ended, Cancelled, TooLarge };
 class Receiver {
   public:
     Receiver(SerialPort& port, const std::string& name, void (*progress)(float, const char*),
-             void (*log)(const char*))
-        : port_(port), name_(name), progress_(progress), log_(log) {}
+             void (*log)(const char*), DownloadFailure* failure)
+        : port_(port), name_(name), progress_(progress), log_(log), failure_(failure) {}
 
     std::optional<std::vector<uint8_t>> run();
 
@@ -47,12 +47,13 @@ class Receiver {
     bool checkPasses(const uint8_t* body, size_t len, const uint8_t* trailer) const;
     std::vector<uint8_t> finish();
     void reportSize(float fraction);
-    std::nullopt_t fail(const std::string& cause);
+    std::nullopt_t fail(DownloadFailure::Reason reason, const std::string& cause);
 
     SerialPort& port_;
     const std::string& name_;
     void (*progress_)(float, const char*);
     void (*log_)(const char*);
+    DownloadFailure* failure_;
     Mode mode_ = Mode::Crc;
     std::vector<uint8_t> file_;
     uint8_t expected_ = 1;  // block number on the wire, wraps after 255
@@ -61,34 +62,35 @@ class Receiver {
 
 std::optional<std::vector<uint8_t>> Receiver::run() {
     if (name_.empty() || name_.find_first_of("\r\n") != std::string::npos) {
-        return fail("invalid file name");
+        return fail(DownloadFailure::Reason::invalidName, "invalid file name");
     }
     if (!startTransfer(port_, "$Xmodem/Send=" + name_ + "\n")) {
-        return fail("could not send the command");
+        return fail(DownloadFailure::Reason::commandNotSent, "could not send the command");
     }
     std::optional<uint8_t> header = requestTransfer();
     if (!header) {
-        return fail("no block received");
+        return fail(DownloadFailure::Reason::noBlock, "no block received");
     }
     int failures = 0;
     for (;;) {
         const Outcome outcome = handle(header);
         if (outcome == Outcome::Cancelled) {
-            return fail("cancelled by the device");
+            return fail(DownloadFailure::Reason::cancelled, "cancelled by the device");
         }
         if (outcome == Outcome::TooLarge) {
-            return fail("file larger than 16 MiB");
+            return fail(DownloadFailure::Reason::tooLarge, "file larger than 16 MiB");
         }
         failures = outcome == Outcome::Stored || outcome == Outcome::Ended ? 0 : failures + 1;
         if (failures >= kMaxTransmissions) {
-            return fail("block " + std::to_string(ordinal_) + " failed 25 times");
+            return fail(DownloadFailure::Reason::blockFailed,
+                        "block " + std::to_string(ordinal_) + " failed 25 times");
         }
         if (outcome == Outcome::Refused) {
             // Whatever is left of a broken block must not be read as the next one.
             drainInput(port_, 256, kPurgeSliceMs);
         }
         if (!port_.write(outcome == Outcome::Refused ? &NAK : &ACK, 1)) {
-            return fail("could not answer the device");
+            return fail(DownloadFailure::Reason::answerNotSent, "could not answer the device");
         }
         if (outcome == Outcome::Ended) {
             return finish();
@@ -204,7 +206,10 @@ void Receiver::reportSize(float fraction) {
     report(progress_, fraction, stage.c_str());
 }
 
-std::nullopt_t Receiver::fail(const std::string& cause) {
+std::nullopt_t Receiver::fail(DownloadFailure::Reason reason, const std::string& cause) {
+    if (failure_ != nullptr) {
+        *failure_ = {reason, reason == DownloadFailure::Reason::blockFailed ? ordinal_ : 0};
+    }
     if (log_ != nullptr) {
         log_(("XModem download: " + cause).c_str());
     }
@@ -215,8 +220,9 @@ std::nullopt_t Receiver::fail(const std::string& cause) {
 
 std::optional<std::vector<uint8_t>> downloadFile(SerialPort& port, const std::string& name,
                                                  void (*progress)(float, const char*),
-                                                 void (*log)(const char*)) {
-    return Receiver(port, name, progress, log).run();
+                                                 void (*log)(const char*),
+                                                 DownloadFailure* failure) {
+    return Receiver(port, name, progress, log, failure).run();
 }
 
 }  // namespace fluidnc

@@ -147,20 +147,26 @@ TEST_F(DeviceJobsTest, DownloadGivesBackTheUploadedBytes) {
 
 TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
     const auto file = configFile(5000);
-    // `failure` null: the file arrives whole.
+    using Reason = fluidnc::DownloadFailure::Reason;
+    // `failure` null: the file arrives whole. A failure is told by its log line and as data.
     const auto expectDownload = [&](const std::function<void(sim::Config&)>& fault,
-                                    const char* failure, int row = __builtin_LINE()) {
+                                    const char* failure, fluidnc::DownloadFailure cause = {},
+                                    int row = __builtin_LINE()) {
         const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
         clearRecords();
         const auto& watched = device([&](auto& d) {
             d.plotter.config().machineConfig = std::string(file.begin(), file.end());
             fault(d.plotter.config());
         });
-        const auto downloaded = esp::runDownloadFileJob(port, "config.yaml", nullptr, recordLog);
+        fluidnc::DownloadFailure told;
+        const auto downloaded =
+            esp::runDownloadFileJob(port, "config.yaml", nullptr, recordLog, &told);
         EXPECT_EQ(watched.writes.front().second, "$I") << "after the settle and a drain";
         EXPECT_NEAR(watched.writes.front().first, 550, 5);
         EXPECT_EQ(downloaded, failure ? std::nullopt : std::optional(file));
         EXPECT_EQ(logLines, failure ? Lines{failure} : Lines{});
+        EXPECT_EQ(told.reason, cause.reason);
+        EXPECT_EQ(told.block, cause.block);
     };
     expectDownload([](auto& c) { c.xmodemSendCorruptBlock = 2; }, nullptr);
     expectDownload([](auto& c) { c.xmodemSendDropBlock = 3; }, nullptr);
@@ -170,11 +176,11 @@ TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
             c.xmodemSendCorruptBlock = 2;
             c.xmodemSendCorruptTimes = 100;
         },
-        "XModem download: block 2 failed 25 times");
+        "XModem download: block 2 failed 25 times", {Reason::blockFailed, 2});
     expectDownload([](auto& c) { c.xmodemSendCanBlock = 2; },
-                   "XModem download: cancelled by the device");
-    expectDownload([](auto& c) { c.xmodemSendSilent = true; },
-                   "XModem download: no block received");
+                   "XModem download: cancelled by the device", {Reason::cancelled});
+    expectDownload([](auto& c) { c.xmodemSendSilent = true; }, "XModem download: no block received",
+                   {Reason::noBlock});
 }
 
 TEST(PartitionTable, NeedsAReachableApplicationEntryAt0x10000) {

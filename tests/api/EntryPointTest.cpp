@@ -58,15 +58,20 @@ TEST(EntryPoint, EveryJobAgainstOnePlotter) {
     ASSERT_EQ(esp_upload_config(path.c_str(), file.data(), file.size(), nullptr, nullptr), 0u);
     uint8_t* data = nullptr;
     size_t length = 0;
-    ASSERT_EQ(esp_download_file(path.c_str(), "config.yaml", &data, &length, nullptr, nullptr), 0u);
+    ASSERT_EQ(
+        esp_download_file(path.c_str(), "config.yaml", &data, &length, nullptr, nullptr, nullptr),
+        0u);
     EXPECT_EQ(Bytes(data, data + length), file);
     std::free(data);
     device.modify([](sim::Plotter& p) { p.config().xmodemSendCanBlock = 1; });
     clearRecords();
-    EXPECT_EQ(esp_download_file(path.c_str(), "config.yaml", &data, &length, nullptr, recordLog),
-              8u);
+    esp_download_status status{};
+    EXPECT_EQ(
+        esp_download_file(path.c_str(), "config.yaml", &data, &length, nullptr, recordLog, &status),
+        8u);
     EXPECT_EQ(data, nullptr);
     EXPECT_EQ(logLines, Lines{"XModem download: cancelled by the device"});
+    EXPECT_EQ(status.failure, ESP_DOWNLOAD_CANCELLED);
     // Last: the probe leaves the chip in its loader.
     EXPECT_EQ(esp_probe_partition_table(path.c_str(), stub.data(), stub.size()), 1);
     EXPECT_EQ(fdcheck::openDescriptorCount(), descriptors);
@@ -97,9 +102,11 @@ TEST(EntryPoint, PortsThatCannotBeOpenedFailEveryCallAndLeaveNoDescriptor) {
             ASSERT_EQ(logLines.size(), 2u);
             uint8_t* data = nullptr;
             size_t length = 1;
+            esp_download_status status{};
             ASSERT_EQ(esp_download_file(path.c_str(), "config.yaml", &data, &length, recordProgress,
-                                        recordLog),
+                                        recordLog, &status),
                       2u);
+            ASSERT_EQ(status.failure, ESP_DOWNLOAD_PORT_NOT_OPENED);
             ASSERT_EQ(length, 0u);
             ASSERT_EQ(logLines.back(), "Failed to open port");
             ASSERT_TRUE(progressCalls.empty());

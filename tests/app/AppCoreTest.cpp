@@ -1,7 +1,8 @@
 #include "ControllerHarness.h"
 #include "app/LogExport.h"
 #include "app/MachineConfigCheck.h"
-#include "app/SaveMachineConfigJob.h"
+#include "app/VersionText.h"
+#include "app/operations/SaveMachineConfig.h"
 
 namespace {
 
@@ -82,10 +83,10 @@ void AppCoreTest::errorMessagesVersionCleanUpAndFileNames() {
              std::pair{"v1 (a) (b)", "v1"},          // cut at the first " ("
              std::pair{"v1(a)", "v1(a)"},
          }) {
-        QCOMPARE(UpdateController::cleanFirmwareVersion(reply), QString(version));
+        QCOMPARE(VersionText::cleanFirmwareVersion(reply), QString(version));
     }
     const QDateTime when(QDate(2025, 3, 7), QTime(9, 5, 4));
-    QCOMPARE(SaveMachineConfigJob::defaultFileName(when), "machine-config-20250307-0905.yaml");
+    QCOMPARE(SaveMachineConfig::defaultFileName(when), "machine-config-20250307-0905.yaml");
     QCOMPARE(LogExport::defaultFileName(when), "teskal-updater-log-20250307-090504.txt");
 }
 

@@ -113,9 +113,9 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
              QStringList({"ERROR: Another operation is already running", savedTo(saved)}));
     QCOMPARE(readFile(saved), tuned);
     QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{"saved.yaml"});
-    // The download holds "probing" through every poll; only its end brings "ready".
+    // The download holds its state through every poll; only its end brings "ready".
     const QStringList published = harness.publishedByJob();
-    QCOMPARE(published.first(), "probing");
+    QCOMPARE(published.first(), "downloadingConfig");
     QCOMPARE(published.mid(published.indexOf("ready"), 2),
              QStringList({"ready", "status: Machine config saved"}));
     QVERIFY(published.contains(
@@ -145,7 +145,7 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     QCOMPARE(controller.logMessages().mid(0, 2),
              QStringList({savedTo(backups.filePath(files[0])),
                           "Preparing Corvane Halcot config v1.2.0-devset"}));
-    QCOMPARE(harness.busySpan().first(), UpdateState::probing());
+    QCOMPARE(harness.busySpan().first(), UpdateState::downloadingConfig());
     QCOMPARE(harness.busySpan().last(), UpdateState::configComplete());
     QCOMPARE(storedConfig(plotter), halcot);
 

@@ -175,7 +175,7 @@ void CliTest::subcommands_data() {
                                                 " (512 bytes)"}
                                  << QStringList{} << "";
     QTest::newRow("save-config, port cannot be opened")
-        << QStringList{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 8 << QStringList{}
+        << QStringList{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 2 << QStringList{}
         << QStringList{}
         << "ERROR: Could not read config.yaml from the machine: Failed to open port\n";
     QTest::newRow("diff-config, different")

@@ -55,20 +55,20 @@ void ScreensTest::mainWindowStates() {
         QStringLiteral("Device running firmware v3.7.8 — updating firmware only.");
     const QString failure =
         QStringLiteral("Failed to sync with device. Try unplugging and reconnecting.");
-    QStringList log{"Updating firmware v2.10.6…", "Checking device status…", sample};
-    const QString refused = QStringLiteral(
-        "ERROR: notes.bin cannot be used: not a firmware image (first byte 0x7B, expected 0xE9)");
+    LogEntries log = infoEntries({"Updating firmware v2.10.6…", "Checking device status…", sample});
+    const LogEntry refused = LogEntry::error(
+        "notes.bin cannot be used: not a firmware image (first byte 0x7B, expected 0xE9)");
     // Each screen: its name, state, status line and log.
-    const std::tuple<QString, UpdateState, QString, QStringList> screens[] = {
-        {"main-ready", UpdateState::ready(), "Device connected", QStringList()},
+    const std::tuple<QString, UpdateState, QString, LogEntries> screens[] = {
+        {"main-ready", UpdateState::ready(), "Device connected", LogEntries()},
         {"main-flashing-50", UpdateState::flashing(0.5f), "Writing firmware…", log},
         {"main-uploading", UpdateState::uploadingConfig(0.3f), "Sending configuration…",
-         QStringList("Preparing Corvane Halcot config v1.4.0-devset")},
+         infoEntries({"Preparing Corvane Halcot config v1.4.0-devset"})},
         {"main-error", UpdateState::error(failure), failure,
-         QStringList(log) << "ERROR: " + failure},
+         LogEntries(log) << LogEntry::error(failure)},
         {"main-complete", UpdateState::flashComplete(), "Firmware update complete.",
-         QStringList(log) << "Firmware update complete."},
-        {"main-refused-firmware", UpdateState::ready(), "Device connected", QStringList(refused)},
+         LogEntries(log) << LogEntry::info("Firmware update complete.")},
+        {"main-refused-firmware", UpdateState::ready(), "Device connected", LogEntries{refused}},
     };
     for (const auto& [name, state, status, lines] : screens) {
         view->showState(state);
@@ -81,7 +81,8 @@ void ScreensTest::mainWindowStates() {
             QFontMetrics(Fonts::monospace(11)).horizontalAdvance(sample));
 
     for (int i = 0; i < 500; ++i) {
-        view->showLog(log << QStringLiteral("FLASH_DATA block %1 of 500").arg(i + 1));
+        view->showLog(
+            log << LogEntry::info(QStringLiteral("FLASH_DATA block %1 of 500").arg(i + 1)));
     }
     save(window, QStringLiteral("main-long-log"));
 

@@ -12,6 +12,15 @@
 
 #include "ControllerHarness.h"
 
+/// Plain log lines, as a job's progress shows them.
+inline LogEntries infoEntries(const QStringList& lines) {
+    LogEntries entries;
+    for (const QString& line : lines) {
+        entries.append(LogEntry::info(line));
+    }
+    return entries;
+}
+
 /// A device detection that never finds the plotter.
 inline char* noDevice(uint16_t, uint16_t) {
     return nullptr;

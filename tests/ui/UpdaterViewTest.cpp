@@ -48,11 +48,7 @@ void UpdaterViewTest::buttonProgressAndStatusRowFollowStateAndConnection_data() 
         {UpdateState::error(QStringLiteral("Flash write failed.")), true, "hidden"},
         {UpdateState::idle(), true, "hidden"},
         {UpdateState::ready(), true, "hidden"},
-        {UpdateState::enteringBootloader(), false, "indeterminate"},
-        {UpdateState::syncing(), false, "indeterminate"},
-        {UpdateState::uploadingStub(), false, "indeterminate"},
-        {UpdateState::probing(), false, "indeterminate"},
-        {UpdateState::verifying(), false, "hidden"},
+        {UpdateState::downloadingConfig(), false, "indeterminate"},
         {UpdateState::flashComplete(), true, "hidden"},
         {UpdateState::configComplete(), true, "hidden"},
     };
@@ -72,7 +68,7 @@ void UpdaterViewTest::buttonProgressAndStatusRowFollowStateAndConnection() {
     // Arrive from the opposite connection and a busy state, so nothing is left over.
     const auto path = connected ? std::optional(QStringLiteral("/dev/ttyACM0")) : std::nullopt;
     view_->showConnection(!connected, std::nullopt);
-    view_->showState(UpdateState::syncing());
+    view_->showState(UpdateState::downloadingConfig());
     view_->showConnection(connected, path);
     view_->showState(state);
     QCOMPARE(view_->updateButton()->isEnabled(), enabled);
@@ -115,16 +111,16 @@ void UpdaterViewTest::statusLineStaysOneLineEllipsisAndTooltipWhenTooLong() {
 
 void UpdaterViewTest::errorLinesAreBoldAndTheCopyButtonCopiesAll() {
     const LogView* log = view_->logPanel()->view();
-    for (const auto& [line, bold] :
-         {std::pair{"ERROR: Flash write failed.", true}, std::pair{"error: no", false},
-          std::pair{" ERROR: no", false}, std::pair{"ERROR no", false}}) {
-        QVERIFY2(log->fontFor(QString::fromUtf8(line)).bold() == bold, line);
+    for (const auto& [entry, bold] : {std::pair{LogEntry::error("Flash write failed."), true},
+                                      std::pair{LogEntry::info("error: no"), false},
+                                      std::pair{LogEntry::info("ERROR no"), false}}) {
+        QVERIFY2(log->fontFor(entry).bold() == bold, qPrintable(entry.line()));
     }
 
     const QToolButton* copy = view_->logPanel()->copyButton();
     QVERIFY(!copy->isVisibleTo(view_.get()));
-    view_->showLog({QStringLiteral("old")});  // replaced, though the new list is longer
-    view_->showLog({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+    view_->showLog(infoEntries({"old"}));  // replaced, though the new list is longer
+    view_->showLog(infoEntries({"a", "b", "c"}));
     QVERIFY(copy->isVisibleTo(view_.get()));
     QGuiApplication::clipboard()->setText(QStringLiteral("previous content"));
     QTest::mouseClick(view_->logPanel()->copyButton(), Qt::LeftButton);
@@ -136,26 +132,26 @@ void UpdaterViewTest::errorLinesAreBoldAndTheCopyButtonCopiesAll() {
 void UpdaterViewTest::scrollsToTheLastLineWhenTheCountChanges() {
     LogView* log = view_->logPanel()->view();
     QScrollBar* bar = log->verticalScrollBar();
-    QStringList lines(60, QStringLiteral("line"));
+    LogEntries lines(60, LogEntry::info("line"));
     view_->showLog(lines);
     QTRY_VERIFY(bar->maximum() > 0);
     QTRY_COMPARE(bar->value(), bar->maximum());
 
     // The same number of lines with new text does not scroll.
     bar->setValue(0);
-    lines.last() = QStringLiteral("changed");
+    lines.last() = LogEntry::info("changed");
     view_->showLog(lines);
     QTest::qWait(50);
     QCOMPARE(bar->value(), 0);
     QCOMPARE(log->lines().last(), QStringLiteral("changed"));
 
-    lines.append(QStringLiteral("one more"));
+    lines.append(LogEntry::info("one more"));
     view_->showLog(lines);
     QTRY_COMPARE(bar->value(), bar->maximum());
 
     // Emptying the log, even straight after a line arrived, does not scroll.
     bar->setValue(0);
-    lines.append(QStringLiteral("last"));
+    lines.append(LogEntry::info("last"));
     view_->showLog(lines);
     view_->showLog({});
     QTRY_COMPARE(bar->maximum(), 0);

@@ -1,10 +1,12 @@
-#include "app/FirmwareUpdateJob.h"
+#include "app/operations/FlashFirmware.h"
 
 #include <QFileInfo>
 #include <algorithm>
 
 #include "app/BuildConfig.h"
 #include "app/DeviceQueries.h"
+#include "app/FlasherBridge.h"
+#include "app/Texts.h"
 
 namespace {
 
@@ -33,11 +35,11 @@ qint64 planBytes(const QByteArray& firmware, const BootImages& boot, bool fullFl
 
 }  // namespace
 
-FirmwareUpdateJob::FirmwareUpdateJob(QString port, ResourceBundle resources, Options options)
+FlashFirmware::FlashFirmware(QString port, ResourceBundle resources, Options options)
     : port_(std::move(port)), resources_(std::move(resources)), options_(std::move(options)) {}
 
-JobOutcome FirmwareUpdateJob::run(const JobSink& sink) const {
-    JobOutcome failure;
+Outcome FlashFirmware::run(const OperationSink& sink) {
+    Outcome failure;
     const auto firmware = loadFirmware(sink, &failure);
     if (!firmware) {
         return failure;
@@ -46,78 +48,74 @@ JobOutcome FirmwareUpdateJob::run(const JobSink& sink) const {
     // nothing. A chosen file is checked again here, as it may have changed since
     // it was chosen.
     if (const auto refusal = imagesRefusal(*firmware, resources_, options_.developmentImages)) {
-        return JobOutcome::refusal(*refusal);
+        return Outcome::make(Outcome::Kind::refused, *refusal);
     }
     const bool fullFlash = decideFullFlash(sink);
 
     const auto stub = resources_.read(QStringLiteral("esp32s3_stub"), QStringLiteral("bin"));
     if (!stub) {
-        return JobOutcome::missing(QStringLiteral("Flash stub not found in bundle"));
+        return Outcome::make(Outcome::Kind::missingResource, Texts::stubMissing());
     }
     const BootImages boot = loadBootImages(resources_);
     if (fullFlash && !boot.complete()) {
-        return JobOutcome::missing(QStringLiteral("Missing bootloader resources for full flash"));
+        return Outcome::make(Outcome::Kind::missingResource, Texts::bootImagesMissing());
     }
 
-    sink.reportStarted(planBytes(*firmware, boot, fullFlash));
+    sink.enter(Phase::writingFirmware, planBytes(*firmware, boot, fullFlash));
     const std::optional<QString> expectedVersion =
         options_.customFirmware ? std::nullopt : std::optional(BuildConfig::firmwareVersion());
     const esp_error_t result = FlasherBridge::flashFirmware(
         port_, *firmware, boot.bootloader, boot.partitions, boot.bootApp, *stub, fullFlash,
         options_.eraseAll, expectedVersion, sink.progress, sink.libraryLog);
     if (result != 0) {
-        return JobOutcome::fromLibrary(result);
+        return Outcome::library(result);
     }
-    sink.reportSucceeded();
-    sink.logLine(QStringLiteral("Firmware update complete."));
+    sink.enter(Phase::firmwareWritten);
+    sink.info(Texts::firmwareComplete());
     if (options_.eraseAll) {
-        sink.logLine(QString());
-        sink.logLine(
-            QStringLiteral("NOTE: Flash was erased. Use Config > Update Config to upload the "
-                           "configuration for your machine."));
+        sink.info(QString());
+        sink.info(Texts::flashErasedNote());
     }
-    return JobOutcome::success();
+    return Outcome::success(Texts::firmwareComplete());
 }
 
-double FirmwareUpdateJob::writtenShare(float fraction) {
+double FlashFirmware::writtenShare(float fraction) {
     return std::clamp((static_cast<double>(fraction) - 0.12) / 0.73, 0.0, 1.0);
 }
 
-std::optional<QByteArray> FirmwareUpdateJob::loadFirmware(const JobSink& sink,
-                                                          JobOutcome* failure) const {
+std::optional<QByteArray> FlashFirmware::loadFirmware(const OperationSink& sink,
+                                                      Outcome* failure) const {
     if (!options_.customFirmware) {
         const auto shipped = resources_.read(QStringLiteral("firmware"), QStringLiteral("bin"));
         if (!shipped) {
-            *failure = JobOutcome::missing(QStringLiteral("Bundled firmware not found"));
+            *failure = Outcome::make(Outcome::Kind::missingResource, Texts::shippedMissing());
             return std::nullopt;
         }
-        sink.logLine(QStringLiteral("Updating firmware v") + BuildConfig::firmwareVersion() + "…");
+        sink.info(Texts::updatingShipped(BuildConfig::firmwareVersion()));
         return shipped;
     }
     QString reason;
     const auto chosen = readWholeFile(*options_.customFirmware, &reason);
     if (!chosen) {
-        *failure = JobOutcome::refusal(QStringLiteral("Failed to load custom firmware: ") + reason);
+        *failure = Outcome::make(Outcome::Kind::refused, Texts::customUnreadable(reason));
         return std::nullopt;
     }
-    sink.logLine(QStringLiteral("Updating firmware (custom: ") +
-                 QFileInfo(*options_.customFirmware).fileName() + ")…");
+    sink.info(Texts::updatingCustom(QFileInfo(*options_.customFirmware).fileName()));
     return chosen;
 }
 
-bool FirmwareUpdateJob::decideFullFlash(const JobSink& sink) const {
+bool FlashFirmware::decideFullFlash(const OperationSink& sink) const {
     // Erasing the chip and then writing only the application would leave it
     // without a bootloader.
     if (options_.eraseAll || options_.writeBootPartitions) {
         return true;
     }
-    sink.logLine(QStringLiteral("Checking device status…"));
+    sink.info(Texts::checkingDevice());
     const auto version = DeviceQueries::firmwareVersion(port_);
     if (!version) {
-        sink.logLine(QStringLiteral("Device not responding — writing boot partitions + firmware."));
+        sink.info(Texts::deviceNotResponding());
         return true;
     }
-    sink.logLine(QStringLiteral("Device running firmware ") + *version +
-                 QStringLiteral(" — updating firmware only."));
+    sink.info(Texts::deviceRunning(*version));
     return false;
 }

@@ -1,7 +1,7 @@
 #include <QStringDecoder>
 #include <QStringList>
 
-#include "app/UserText.h"
+#include "app/VersionText.h"
 
 namespace {
 
@@ -55,36 +55,9 @@ QStringList splitLines(const QString& text) {
 
 }  // namespace
 
-namespace UserText {
+namespace VersionText {
 
-QString errorMessage(esp_error_t code) {
-    switch (code) {
-        case 1:
-            return QStringLiteral("No device found. Is it connected?");
-        case 2:
-            return QStringLiteral("Could not open serial port. Is another app using it?");
-        case 3:
-            return QStringLiteral("Failed to sync with device. Try unplugging and reconnecting.");
-        case 4:
-            return QStringLiteral("Unexpected chip detected. Verify hardware.");
-        case 5:
-            return QStringLiteral("Failed to upload communication stub.");
-        case 6:
-            return QStringLiteral("Flash write failed. Try again.");
-        case 7:
-            return QStringLiteral("Verification failed. Flash may be corrupted — try again.");
-        case 8:
-            return QStringLiteral("Config upload failed.");
-        case 9:
-            return QStringLiteral("Operation timed out. Try unplugging and reconnecting.");
-        case 10:
-            return QStringLiteral("Device disconnected during operation.");
-        default:
-            return QStringLiteral("Unknown error (code %1)").arg(code);
-    }
-}
-
-std::optional<QString> extractMetaVersion(const QByteArray& bytes) {
+std::optional<QString> metaVersion(const QByteArray& bytes) {
     QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     const QString text = decoder.decode(bytes);
     if (decoder.hasError()) {
@@ -114,9 +87,4 @@ QString cleanFirmwareVersion(const QString& reply) {
     return suffix < 0 ? version : version.left(suffix);
 }
 
-QString versionSuffix(const QByteArray& configData) {
-    const auto version = extractMetaVersion(configData);
-    return version ? QStringLiteral(" v") + *version : QString();
-}
-
-}  // namespace UserText
+}  // namespace VersionText

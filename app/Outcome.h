@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <variant>
+
+#include "esp_flasher.h"
+
+/// Why reading a file from the machine failed, as the library tells it.
+struct DownloadCause {
+    int failure = ESP_DOWNLOAD_OK;  ///< enum esp_download_failure
+    uint32_t block = 0;             ///< the block that failed, counted from 1
+
+    friend bool operator==(const DownloadCause&, const DownloadCause&) = default;
+};
+
+/// What is known, as data, about why an operation ended as it did; empty where
+/// the kind alone tells.
+using Cause = std::variant<std::monostate, DownloadCause>;
+
+/// How an operation ended. Created where the result is known and carried
+/// unchanged to the window and to the command line, which present it; neither
+/// works anything out again from its texts. A plain value.
+struct Outcome {
+    enum class Kind {
+        succeeded,         ///< it did what it was asked
+        differs,           ///< a comparison ran and found differences
+        noPartitionTable,  ///< the plotter answered and holds no valid partition table
+        noDevice,          ///< no plotter is connected
+        failed,            ///< the library returned `code`
+        noAnswer,          ///< the machine did not answer
+        refused,           ///< its input was refused before anything reached the machine
+        missingResource,   ///< something it needs is missing from the resources folder
+        notWritten,        ///< a file on this computer could not be written
+        busy,              ///< another operation was still running
+    };
+
+    Kind kind = Kind::succeeded;
+    esp_error_t code = 0;  ///< the library's result code when `failed`
+    Cause cause;
+    /// Lines that show what happened, quoted from the machine or the files compared.
+    QStringList evidence;
+    /// The owner-facing message, without "ERROR: ".
+    QString message;
+
+    static Outcome success(QString message) { return make(Kind::succeeded, std::move(message)); }
+    static Outcome make(Kind kind, QString message) {
+        Outcome outcome;
+        outcome.kind = kind;
+        outcome.message = std::move(message);
+        return outcome;
+    }
+    /// The library's `code` (not 0) with its message from the catalogue.
+    static Outcome library(esp_error_t code);
+
+    /// True for every kind that the owner is shown as an error.
+    bool isFailure() const {
+        return kind != Kind::succeeded && kind != Kind::differs && kind != Kind::noPartitionTable;
+    }
+};

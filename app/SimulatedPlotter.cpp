@@ -1,0 +1,43 @@
+#include "app/SimulatedPlotter.h"
+
+#include <vector>
+
+namespace {
+
+constexpr uint32_t kPartitionTableOffset = 0x8000;
+
+// Milliseconds a real plotter takes for each step, shortened for a terminal and
+// stretched so that the window shows every stage.
+struct Pauses {
+    int flashBegin, flashBlock, erase, md5, boot, console, handshake;
+};
+constexpr Pauses kBrisk{50, 5, 500, 20, 100, 5, 200};
+constexpr Pauses kVisible{300, 25, 3000, 250, 400, 30, 500};
+
+void setPace(sim::Config& config, SimulatedPace pace) {
+    if (pace == SimulatedPace::instant) {
+        return;
+    }
+    const Pauses& pauses = pace == SimulatedPace::brisk ? kBrisk : kVisible;
+    config.flashBeginDelayMs = pauses.flashBegin;
+    config.flashBlockDelayMs = pauses.flashBlock;
+    config.eraseDelayMs = pauses.erase;
+    config.md5DelayMs = pauses.md5;
+    config.bootMs = pauses.boot;
+    config.consoleDelayMs = pauses.console;
+    config.handshakeFirstMs = pauses.handshake;
+    config.handshakeIntervalMs = pauses.handshake;
+}
+
+}  // namespace
+
+std::unique_ptr<sim::PtyPlotter> startSimulatedPlotter(const ResourceBundle& resources,
+                                                       SimulatedPace pace, sim::Config config) {
+    setPace(config, pace);
+    auto plotter = std::make_unique<sim::PtyPlotter>(config);
+    if (const auto table = resources.read(QStringLiteral("partitions"), QStringLiteral("bin"))) {
+        const std::vector<uint8_t> bytes(table->begin(), table->end());
+        plotter->modify([&](sim::Plotter& p) { p.loadFlash(kPartitionTableOffset, bytes); });
+    }
+    return plotter;
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <memory>
+
+#include "app/ResourceBundle.h"
+#include "sim/Config.h"
+#include "sim/PtyPlotter.h"
+
+/// How quickly a simulated plotter answers.
+enum class SimulatedPace {
+    instant,  ///< at once: tests
+    brisk,    ///< short pauses where a real one takes its time: teskal-flash --sim
+    visible,  ///< each stage long enough to be seen in the window: the demo program
+};
+
+/// Starts a simulated plotter on a pseudo-terminal of its own, the one way the
+/// simulated-plotter program, teskal-flash --sim and the application's tests make
+/// one. It starts from `config` (a healthy plotter by default) with the pauses of
+/// `pace`; its flash holds the partition table of `resources` when they have one,
+/// as a plotter that was updated before. Throws std::system_error when no
+/// pseudo-terminal can be had.
+std::unique_ptr<sim::PtyPlotter> startSimulatedPlotter(const ResourceBundle& resources,
+                                                       SimulatedPace pace, sim::Config config = {});

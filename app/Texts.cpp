@@ -1,0 +1,357 @@
+#include "app/Texts.h"
+
+#include "app/VersionText.h"
+
+namespace Texts {
+
+QString programVersion(const QString& program, const QString& version, const QString& buildDate,
+                       const QString& firmware) {
+    return QStringLiteral("%1 %2, built %3, bundled firmware %4")
+        .arg(program, version, buildDate, firmware);
+}
+
+QString deviceConnected() {
+    return QStringLiteral("Device connected");
+}
+
+QString waitingForDevice() {
+    return QStringLiteral("Waiting for device…");
+}
+
+QString noDeviceConnected() {
+    return QStringLiteral("No device connected");
+}
+
+QString anotherOperation() {
+    return QStringLiteral("Another operation is already running");
+}
+
+QString errorMessage(esp_error_t code) {
+    switch (code) {
+        case 1:
+            return QStringLiteral("No device found. Is it connected?");
+        case 2:
+            return QStringLiteral("Could not open serial port. Is another app using it?");
+        case 3:
+            return QStringLiteral("Failed to sync with device. Try unplugging and reconnecting.");
+        case 4:
+            return QStringLiteral("Unexpected chip detected. Verify hardware.");
+        case 5:
+            return QStringLiteral("Failed to upload communication stub.");
+        case 6:
+            return QStringLiteral("Flash write failed. Try again.");
+        case 7:
+            return QStringLiteral("Verification failed. Flash may be corrupted — try again.");
+        case 8:
+            return QStringLiteral("Config upload failed.");
+        case 9:
+            return QStringLiteral("Operation timed out. Try unplugging and reconnecting.");
+        case 10:
+            return QStringLiteral("Device disconnected during operation.");
+        default:
+            return QStringLiteral("Unknown error (code %1)").arg(code);
+    }
+}
+
+QString updatingShipped(const QString& version) {
+    return QStringLiteral("Updating firmware v%1…").arg(version);
+}
+
+QString updatingCustom(const QString& fileName) {
+    return QStringLiteral("Updating firmware (custom: %1)…").arg(fileName);
+}
+
+QString customUnreadable(const QString& reason) {
+    return QStringLiteral("Failed to load custom firmware: ") + reason;
+}
+
+QString shippedMissing() {
+    return QStringLiteral("Bundled firmware not found");
+}
+
+QString checkingDevice() {
+    return QStringLiteral("Checking device status…");
+}
+
+QString deviceNotResponding() {
+    return QStringLiteral("Device not responding — writing boot partitions + firmware.");
+}
+
+QString deviceRunning(const QString& version) {
+    return QStringLiteral("Device running firmware %1 — updating firmware only.").arg(version);
+}
+
+QString stubMissing() {
+    return QStringLiteral("Flash stub not found in bundle");
+}
+
+QString bootImagesMissing() {
+    return QStringLiteral("Missing bootloader resources for full flash");
+}
+
+QString firmwareComplete() {
+    return QStringLiteral("Firmware update complete.");
+}
+
+QString flashErasedNote() {
+    return QStringLiteral(
+        "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for "
+        "your machine.");
+}
+
+QString firmwareLabel(const QString& version) {
+    return QStringLiteral("Firmware version ") + version;
+}
+
+QString usingShipped() {
+    return QStringLiteral("Using bundled firmware");
+}
+
+QString customChosen(const QString& fileName) {
+    return QStringLiteral("Custom firmware: ") + fileName;
+}
+
+QString customChosenWithoutName() {
+    return customChosen(QStringLiteral("unknown"));
+}
+
+QString cannotBeUsed(const QString& fileName, const QString& reason) {
+    return QStringLiteral("%1 cannot be used: %2").arg(fileName, reason);
+}
+
+QString couldNotBeRead(const QString& reason) {
+    return QStringLiteral("it could not be read (%1)").arg(reason);
+}
+
+QString imageRefused(const QString& reason) {
+    return QStringLiteral("Firmware image refused: ") + reason;
+}
+
+QString shippedImageRefused(const QString& name) {
+    return QStringLiteral("Bundled %1.bin refused: ").arg(name) + developmentImage();
+}
+
+QString developmentImage() {
+    return QStringLiteral("a development image, not firmware");
+}
+
+QString imageDescription(const QString& version, const QString& project, const QString& built) {
+    return QStringLiteral("Firmware image: version %1, project %2, built %3")
+        .arg(version, project, built);
+}
+
+QString configMissing(const QString& configFile) {
+    return QStringLiteral("Config file not found in bundle: ") + configFile;
+}
+
+QString preparingProduct(const QString& product, const QString& suffix) {
+    return QStringLiteral("Preparing %1 config").arg(product) + suffix;
+}
+
+QString preparingFile(const QString& fileName, const QString& suffix) {
+    return QStringLiteral("Preparing ") + fileName + suffix;
+}
+
+QString fileUnreadable(const QString& fileName) {
+    return QStringLiteral("Could not read file: ") + fileName;
+}
+
+QString notAConfiguration(const QString& fileName, const QString& problem) {
+    return QStringLiteral("%1 is not a valid machine configuration: %2").arg(fileName, problem);
+}
+
+QString developmentConfigs() {
+    return QStringLiteral("The development set's configurations are only for simulated plotters");
+}
+
+QString uploadingFile() {
+    return QStringLiteral("Uploading config file...");
+}
+
+QString uploadComplete() {
+    return QStringLiteral("Upload successful; restarting machine.");
+}
+
+QString versionSuffix(const QByteArray& configData) {
+    const auto version = VersionText::metaVersion(configData);
+    return version ? QStringLiteral(" v") + *version : QString();
+}
+
+QString configSavedTo(const QString& path, qint64 bytes) {
+    return QStringLiteral("Machine config saved to %1 (%2 bytes)").arg(path).arg(bytes);
+}
+
+QString configNotSaved(const QString& path, const QString& reason) {
+    return QStringLiteral("Could not save the machine config to %1: %2").arg(path, reason);
+}
+
+namespace {
+
+QString downloadFailure(const DownloadCause& cause) {
+    switch (cause.failure) {
+        case ESP_DOWNLOAD_PORT_NOT_OPENED:
+            return QStringLiteral("Failed to open port");
+        case ESP_DOWNLOAD_INVALID_ARGUMENTS:
+            return QStringLiteral("XModem download: invalid arguments");
+        case ESP_DOWNLOAD_INVALID_NAME:
+            return QStringLiteral("XModem download: invalid file name");
+        case ESP_DOWNLOAD_COMMAND_NOT_SENT:
+            return QStringLiteral("XModem download: could not send the command");
+        case ESP_DOWNLOAD_NO_BLOCK:
+            return QStringLiteral("XModem download: no block received");
+        case ESP_DOWNLOAD_CANCELLED:
+            return QStringLiteral("XModem download: cancelled by the device");
+        case ESP_DOWNLOAD_TOO_LARGE:
+            return QStringLiteral("XModem download: file larger than 16 MiB");
+        case ESP_DOWNLOAD_BLOCK_FAILED:
+            return QStringLiteral("XModem download: block %1 failed 25 times").arg(cause.block);
+        case ESP_DOWNLOAD_ANSWER_NOT_SENT:
+            return QStringLiteral("XModem download: could not answer the device");
+        case ESP_DOWNLOAD_OUT_OF_MEMORY:
+            return QStringLiteral("XModem download: out of memory");
+        default:
+            return QStringLiteral("XModem download: failed (%1)").arg(cause.failure);
+    }
+}
+
+}  // namespace
+
+QString configNotRead(const DownloadCause& cause) {
+    return QStringLiteral("Could not read config.yaml from the machine: ") + downloadFailure(cause);
+}
+
+QString backupFailed(const QString& reason) {
+    return QStringLiteral("Could not back up the machine config; the upload did not start: ") +
+           reason;
+}
+
+QString configSaved() {
+    return QStringLiteral("Machine config saved");
+}
+
+QString configCompared() {
+    return QStringLiteral("Machine config compared");
+}
+
+QString configMatches(const QString& label) {
+    return QStringLiteral("Machine config matches %1 by key").arg(label);
+}
+
+QString configDiffers(const QString& label, qsizetype keys) {
+    return QStringLiteral("Machine config differs from %1 in %2 %3")
+        .arg(label)
+        .arg(keys)
+        .arg(keys == 1 ? QStringLiteral("key") : QStringLiteral("keys"));
+}
+
+QString equalByKey() {
+    return QStringLiteral("Equal by key");
+}
+
+QString different() {
+    return QStringLiteral("Different");
+}
+
+QString partitionTablePresent() {
+    return QStringLiteral("Partition table: present");
+}
+
+QString partitionTableAbsent() {
+    return QStringLiteral("Partition table: absent");
+}
+
+QString plottersConnected(qsizetype count) {
+    return count == 1 ? QStringLiteral("1 plotter connected")
+                      : QStringLiteral("%1 plotters connected").arg(count);
+}
+
+namespace {
+
+QString thousands(qint64 value) {
+    QString digits = QString::number(value);
+    for (qsizetype at = digits.size() - 3; at > (value < 0 ? 1 : 0); at -= 3) {
+        digits.insert(at, QLatin1Char(','));
+    }
+    return digits;
+}
+
+}  // namespace
+
+QString reportSize(qint64 bytes) {
+    return QStringLiteral("  size: %1 bytes").arg(thousands(bytes));
+}
+
+QString reportSha256(const QString& hex) {
+    return QStringLiteral("  SHA-256: ") + hex;
+}
+
+QString reportChip(const QString& name, int chipId) {
+    return QStringLiteral("  chip: %1 (chip id %2)").arg(name).arg(chipId);
+}
+
+QString reportVersion(const QString& version) {
+    return QStringLiteral("  version: ") + version;
+}
+
+QString reportProject(const QString& project) {
+    return QStringLiteral("  project: ") + project;
+}
+
+QString reportBuilt(const QString& built) {
+    return QStringLiteral("  built: ") + built;
+}
+
+QString reportPartition(bool fits, qint64 partitionBytes) {
+    return QStringLiteral("  partition: %1 (the application partition holds %2 bytes)")
+        .arg(fits ? QStringLiteral("fits") : QStringLiteral("too large"),
+             thousands(partitionBytes));
+}
+
+QString reportPartitionUnknown() {
+    return QStringLiteral("  partition: unknown (no partition table in the resources)");
+}
+
+QString reportMeta(const QString& version) {
+    return QStringLiteral("  meta: ") + version;
+}
+
+QString reportResult(bool passes) {
+    return passes ? QStringLiteral("  result: passes") : QStringLiteral("  result: refused");
+}
+
+QString unknownChip() {
+    return QStringLiteral("unknown");
+}
+
+QString logNotSaved(const QString& reason) {
+    return QStringLiteral("Could not save log: ") + reason;
+}
+
+QString neitherImageNorConfig(const QString& fileName) {
+    return fileName + QStringLiteral(
+                          " is neither a firmware image (.bin) nor a machine configuration "
+                          "(.yaml, .yml)");
+}
+
+QString allFilesPass() {
+    return QStringLiteral("All files pass");
+}
+
+QString filesRefused(qsizetype refused, qsizetype total) {
+    return QStringLiteral("%1 of %2 files refused").arg(refused).arg(total);
+}
+
+QString simulatorNotStarted(const QString& reason) {
+    return QStringLiteral("Could not start the simulated plotter: ") + reason;
+}
+
+QString endedWithoutResult() {
+    return QStringLiteral("ended without a result");
+}
+
+QString endedAbnormally(const QString& why) {
+    return QStringLiteral("ended abnormally after its result") +
+           (why.isEmpty() ? QString() : QStringLiteral(": ") + why);
+}
+
+}  // namespace Texts

@@ -1,0 +1,103 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+#include "app/Outcome.h"
+#include "esp_flasher.h"
+
+/// Every owner-facing text of the window and the command line, in one place.
+/// Arguments are inserted where the text names them. Pure functions; any thread.
+namespace Texts {
+
+/// "PROGRAM VERSION, built DATE, bundled firmware FIRMWARE".
+QString programVersion(const QString& program, const QString& version, const QString& buildDate,
+                       const QString& firmware);
+
+// The connection and the start of a job.
+QString deviceConnected();               ///< "Device connected"
+QString waitingForDevice();              ///< "Waiting for device…"
+QString noDeviceConnected();             ///< "No device connected"
+QString anotherOperation();              ///< "Another operation is already running"
+QString errorMessage(esp_error_t code);  ///< the message of a library result code
+
+// The firmware job.
+QString updatingShipped(const QString& version);  ///< "Updating firmware vVERSION…"
+QString updatingCustom(const QString& fileName);  ///< "Updating firmware (custom: NAME)…"
+QString customUnreadable(const QString& reason);  ///< "Failed to load custom firmware: REASON"
+QString shippedMissing();                         ///< "Bundled firmware not found"
+QString checkingDevice();                         ///< "Checking device status…"
+QString deviceNotResponding();
+QString deviceRunning(const QString& version);
+QString stubMissing();                          ///< "Flash stub not found in bundle"
+QString bootImagesMissing();                    ///< "Missing bootloader resources for full flash"
+QString firmwareComplete();                     ///< "Firmware update complete."
+QString flashErasedNote();                      ///< the NOTE after an erase
+QString firmwareLabel(const QString& version);  ///< "Firmware version VERSION"
+QString usingShipped();                         ///< "Using bundled firmware"
+
+// Checking a firmware image before it is written.
+QString customChosen(const QString& fileName);  ///< "Custom firmware: NAME"
+QString customChosenWithoutName();              ///< "Custom firmware: unknown"
+QString cannotBeUsed(const QString& fileName, const QString& reason);
+QString couldNotBeRead(const QString& reason);     ///< "it could not be read (REASON)"
+QString imageRefused(const QString& reason);       ///< "Firmware image refused: REASON"
+QString shippedImageRefused(const QString& name);  ///< "Bundled NAME.bin refused: …"
+QString developmentImage();                        ///< "a development image, not firmware"
+QString imageDescription(const QString& version, const QString& project, const QString& built);
+
+// Configurations.
+QString configMissing(const QString& configFile);  ///< "Config file not found in bundle: FILE"
+QString preparingProduct(const QString& product, const QString& suffix);
+QString preparingFile(const QString& fileName, const QString& suffix);
+QString fileUnreadable(const QString& fileName);  ///< "Could not read file: NAME"
+QString notAConfiguration(const QString& fileName, const QString& problem);
+QString developmentConfigs();  ///< the development set's configurations on a real port
+QString uploadingFile();       ///< "Uploading config file..."
+QString uploadComplete();      ///< "Upload successful; restarting machine."
+/// " vVERSION" for a configuration's meta version, or nothing without one.
+QString versionSuffix(const QByteArray& configData);
+
+// The machine's own configuration.
+QString configSavedTo(const QString& path, qint64 bytes);
+QString configNotSaved(const QString& path, const QString& reason);
+QString configNotRead(const DownloadCause& cause);
+QString backupFailed(const QString& reason);
+QString configSaved();     ///< "Machine config saved"
+QString configCompared();  ///< "Machine config compared"
+QString configMatches(const QString& label);
+QString configDiffers(const QString& label, qsizetype keys);
+QString equalByKey();  ///< "Equal by key"
+QString different();   ///< "Different"
+
+// Questions to the machine.
+QString partitionTablePresent();
+QString partitionTableAbsent();
+QString plottersConnected(qsizetype count);
+
+// The inspection report of a file, line by line.
+QString reportSize(qint64 bytes);                     ///< "  size: N bytes"
+QString reportSha256(const QString& hex);             ///< "  SHA-256: HEX"
+QString reportChip(const QString& name, int chipId);  ///< "  chip: NAME (chip id N)"
+QString reportVersion(const QString& version);
+QString reportProject(const QString& project);
+QString reportBuilt(const QString& built);
+QString reportPartition(bool fits, qint64 partitionBytes);
+QString reportPartitionUnknown();
+QString reportMeta(const QString& version);  ///< "  meta: VERSION" ("none" for none)
+QString reportResult(bool passes);           ///< "  result: passes" or "refused"
+QString unknownChip();                       ///< "unknown"
+
+// Files on this computer.
+QString logNotSaved(const QString& reason);  ///< "Could not save log: REASON"
+QString neitherImageNorConfig(const QString& fileName);
+QString allFilesPass();
+QString filesRefused(qsizetype refused, qsizetype total);
+QString simulatorNotStarted(const QString& reason);
+
+// Several plotters at once, one process each.
+QString endedWithoutResult();  ///< "ended without a result"
+/// "ended abnormally after its result", and ": WHY" when something was said.
+QString endedAbnormally(const QString& why);
+
+}  // namespace Texts

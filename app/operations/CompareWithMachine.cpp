@@ -1,0 +1,42 @@
+#include "app/operations/CompareWithMachine.h"
+
+#include "app/Texts.h"
+#include "app/operations/MachineConfigFile.h"
+
+CompareWithMachine::CompareWithMachine(QString port, ResourceBundle resources, ConfigChoice choice)
+    : port_(std::move(port)), resources_(std::move(resources)), choice_(std::move(choice)) {}
+
+std::optional<Outcome> CompareWithMachine::refusal() {
+    auto chosen = readChosenConfig(resources_, choice_);
+    if (auto* refused = std::get_if<Outcome>(&chosen)) {
+        return *refused;
+    }
+    chosen_ = std::get<ConfigText>(std::move(chosen));
+    return std::nullopt;
+}
+
+Outcome CompareWithMachine::run(const OperationSink& sink) {
+    if (!chosen_) {
+        if (auto refused = refusal()) {
+            return *refused;
+        }
+    }
+    auto read = MachineConfigFile::read(port_, sink);
+    if (auto* failure = std::get_if<Outcome>(&read)) {
+        return *failure;
+    }
+    comparison_ = compareConfigs({QStringLiteral("machine"), std::get<QByteArray>(read)}, *chosen_);
+    for (const QString& error : comparison_.errors) {
+        sink.info(error);
+    }
+    if (comparison_.equalByKey()) {
+        sink.info(Texts::configMatches(chosen_->label));
+        return Outcome::success(Texts::equalByKey());
+    }
+    if (comparison_.errors.isEmpty()) {
+        sink.info(Texts::configDiffers(chosen_->label, comparison_.keyDifferences.size()));
+    }
+    Outcome differs = Outcome::make(Outcome::Kind::differs, Texts::different());
+    differs.evidence = comparison_.keyDifferences;
+    return differs;
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "app/ConfigChoice.h"
+#include "app/ConfigDiff.h"
+#include "app/ResourceBundle.h"
+#include "app/operations/Operation.h"
+
+/// Shows what uploading a configuration would change: reads the machine's own
+/// config.yaml and compares it with the chosen one.
+class CompareWithMachine : public Operation {
+  public:
+    CompareWithMachine(QString port, ResourceBundle resources, ConfigChoice choice);
+
+    /// The chosen configuration cannot be compared: a product's file missing from
+    /// the resources, or a file refused as an upload would refuse it. Keeps what
+    /// it read for `run`.
+    std::optional<Outcome> refusal() override;
+
+    /// Reads config.yaml and compares it, shown as "machine", with the chosen
+    /// configuration; logs one line ("Machine config matches <name> by key",
+    /// "Machine config differs from <name> in <n> key(s)", or each reason why a
+    /// side could not be read). Succeeds with "Equal by key", or ends `differs`
+    /// with "Different" and the differing key paths as its evidence.
+    Outcome run(const OperationSink& sink) override;
+
+    const ConfigChoice& choice() const { return choice_; }
+    /// The comparison of the last successful `run`; empty before.
+    const ConfigComparison& comparison() const { return comparison_; }
+
+  private:
+    QString port_;
+    ResourceBundle resources_;
+    ConfigChoice choice_;
+    std::optional<ConfigText> chosen_;
+    ConfigComparison comparison_;
+};

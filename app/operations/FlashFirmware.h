@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+
+#include "app/FirmwareCheck.h"
+#include "app/ResourceBundle.h"
+#include "app/operations/Operation.h"
+
+/// Writes firmware to the machine on one port, as "Update Firmware" does: loads the
+/// shipped or a chosen image and checks it, decides between a full flash and an
+/// application-only update (asking the running firmware for its version unless a
+/// full flash is forced), loads the stub and boot images and runs the library's
+/// flashing job.
+class FlashFirmware : public Operation {
+  public:
+    struct Options {
+        std::optional<QString> customFirmware;  ///< path of a chosen image; none: the shipped one
+        bool writeBootPartitions = false;       ///< always write all four regions
+        bool eraseAll = false;  ///< erase the whole chip first (and so a full flash)
+        DevelopmentImages developmentImages = DevelopmentImages::refuse;
+    };
+
+    FlashFirmware(QString port, ResourceBundle resources, Options options);
+
+    /// Logs "Updating firmware v2.10.6…" (or the chosen file's line) and the mode
+    /// decision, enters `writingFirmware` with the flash plan's size right before
+    /// the library's job and `firmwareWritten` when it succeeded, then logs
+    /// "Firmware update complete." (after an erase also an empty line and the NOTE).
+    /// Ends refused or missing a resource before the port is touched, or with the
+    /// library's code.
+    Outcome run(const OperationSink& sink) override;
+
+    /// The share, 0..1, of the flash plan's bytes written when the library reports
+    /// `fraction`.
+    static double writtenShare(float fraction);
+
+  private:
+    std::optional<QByteArray> loadFirmware(const OperationSink& sink, Outcome* failure) const;
+    bool decideFullFlash(const OperationSink& sink) const;
+
+    QString port_;
+    ResourceBundle resources_;
+    Options options_;
+};

@@ -1,0 +1,15 @@
+#include "app/operations/ListPlotters.h"
+
+#include "app/Texts.h"
+
+ListPlotters::ListPlotters(QStringList plotters) : plotters_(std::move(plotters)) {}
+
+Outcome ListPlotters::run(const OperationSink& sink) {
+    for (const QString& plotter : plotters_) {
+        sink.info(plotter);
+    }
+    if (plotters_.isEmpty()) {
+        return Outcome::make(Outcome::Kind::noDevice, Texts::errorMessage(1));
+    }
+    return Outcome::success(Texts::plottersConnected(plotters_.size()));
+}

@@ -1,0 +1,15 @@
+#include "app/operations/QueryVersion.h"
+
+#include "app/DeviceQueries.h"
+#include "app/Texts.h"
+
+QueryVersion::QueryVersion(QString port) : port_(std::move(port)) {}
+
+Outcome QueryVersion::run(const OperationSink& sink) {
+    const auto version = DeviceQueries::firmwareVersion(port_);
+    if (!version) {
+        return Outcome::make(Outcome::Kind::noAnswer, Texts::errorMessage(9));
+    }
+    sink.info(*version);
+    return Outcome::success(*version);
+}

@@ -1,0 +1,95 @@
+#include "app/operations/UploadConfig.h"
+
+#include <QDir>
+
+#include "app/FlasherBridge.h"
+#include "app/MachineConfigBackup.h"
+#include "app/Texts.h"
+#include "app/operations/CheckConfigFile.h"
+#include "app/operations/MachineConfigFile.h"
+
+UploadConfig::UploadConfig(QString port, ResourceBundle resources, ConfigChoice choice,
+                           Options options)
+    : port_(std::move(port)),
+      resources_(std::move(resources)),
+      choice_(std::move(choice)),
+      options_(options) {}
+
+std::optional<Outcome> UploadConfig::refusal() {
+    checked_ = true;
+    if (choice_.product) {
+        if (options_.developmentConfigsRefused) {
+            return Outcome::make(Outcome::Kind::refused, Texts::developmentConfigs());
+        }
+        return std::nullopt;
+    }
+    CheckConfigFile check(choice_.path);
+    const Outcome checked = check.run({});
+    if (checked.isFailure()) {
+        return checked;
+    }
+    fileBytes_ = *check.bytes();
+    announcement_ = checked.message;
+    return std::nullopt;
+}
+
+Outcome UploadConfig::run(const OperationSink& sink) {
+    if (!checked_) {
+        if (auto refused = refusal()) {
+            return *refused;
+        }
+    }
+    if (!choice_.product) {
+        sink.info(announcement_);
+    }
+    if (options_.backUpFirst) {
+        if (auto failure = backUp(sink)) {
+            return *failure;
+        }
+    }
+    const auto bytes = choice_.product ? productConfig(sink) : std::optional(fileBytes_);
+    if (!bytes) {
+        return Outcome::make(Outcome::Kind::missingResource,
+                             Texts::configMissing(choice_.product->configFile));
+    }
+    if (!choice_.product) {
+        sink.enter(Phase::uploadingConfig, bytes->size());
+        sink.info(Texts::uploadingFile());
+    }
+    const esp_error_t result =
+        FlasherBridge::uploadConfig(port_, *bytes, sink.progress, sink.libraryLog);
+    if (result != 0) {
+        return Outcome::library(result);
+    }
+    sink.enter(Phase::configUploaded);
+    sink.info(Texts::uploadComplete());
+    return Outcome::success(Texts::uploadComplete());
+}
+
+// The state is "uploading" from the start, also when the file then is not found.
+std::optional<QByteArray> UploadConfig::productConfig(const OperationSink& sink) const {
+    const auto found = resources_.readConfig(choice_.product->configFile);
+    sink.enter(Phase::uploadingConfig, found ? found->size() : 0);
+    if (found) {
+        sink.info(Texts::preparingProduct(choice_.product->name, Texts::versionSuffix(*found)));
+    }
+    return found;
+}
+
+std::optional<Outcome> UploadConfig::backUp(const OperationSink& sink) const {
+    const QDir backups(MachineConfigBackup::folder());
+    // A folder that cannot be made shows up as the file that cannot be written.
+    backups.mkpath(QStringLiteral("."));
+    auto read = MachineConfigFile::read(port_, sink);
+    Outcome saved =
+        std::holds_alternative<Outcome>(read)
+            ? std::get<Outcome>(std::move(read))
+            : MachineConfigFile::write(
+                  backups.filePath(MachineConfigBackup::fileName(QDateTime::currentDateTime())),
+                  std::get<QByteArray>(read), sink);
+    if (!saved.isFailure()) {
+        return std::nullopt;
+    }
+    saved.message = Texts::backupFailed(saved.message);
+    return saved;
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+#include <optional>
+
+#include "app/ConfigChoice.h"
+#include "app/ResourceBundle.h"
+#include "app/operations/Operation.h"
+
+/// Uploads a machine configuration, as the Config menu does: a product's file from
+/// the resources, or a file from disk checked first. It may first keep the
+/// machine's own config.yaml in the backups folder, and then does not upload when
+/// that fails.
+class UploadConfig : public Operation {
+  public:
+    struct Options {
+        /// Save the machine's config.yaml in `MachineConfigBackup::folder()` first.
+        bool backUpFirst = false;
+        /// The resources are the development set and the port no simulated plotter:
+        /// the set's configurations describe no real machine.
+        bool developmentConfigsRefused = false;
+    };
+
+    UploadConfig(QString port, ResourceBundle resources, ConfigChoice choice, Options options);
+
+    /// A file that cannot be read or is no valid machine configuration, or a
+    /// product's configuration from the development set for a real port. Keeps
+    /// the file's bytes for `run`, so what is uploaded is what was checked.
+    std::optional<Outcome> refusal() override;
+
+    /// For a file logs "Preparing NAME" and the version suffix, then backs up when
+    /// asked, then enters `uploadingConfig` (with the size; 0 for a product whose
+    /// file is missing) and logs "Preparing PRODUCT config" and its suffix, or
+    /// "Uploading config file..."; uploads; on success enters `configUploaded` and
+    /// logs "Upload successful; restarting machine.". Ends missing a resource, with
+    /// the backup's failure, or with the library's code.
+    Outcome run(const OperationSink& sink) override;
+
+  private:
+    std::optional<Outcome> backUp(const OperationSink& sink) const;
+    std::optional<QByteArray> productConfig(const OperationSink& sink) const;
+
+    QString port_;
+    ResourceBundle resources_;
+    ConfigChoice choice_;
+    Options options_;
+    bool checked_ = false;
+    QByteArray fileBytes_;
+    QString announcement_;
+};
