@@ -1,8 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <iterator>
 #include <string>
 #include <vector>
 
+#include "api/esp_flasher.h"
 #include "serial/PortDiscovery.h"
 #include "tests/support/FakeSysfs.h"
 
@@ -54,6 +59,71 @@ TEST(PortDiscovery, ListsOnlyMatchingReachablePortsInNameOrder) {
     EXPECT_EQ(found(0x1001),
               (std::vector<std::string>{"ttyACM0", "ttyACM1", "ttyACM3", "ttyACM5", "ttyACM6"}));
     EXPECT_EQ(found(0x1002), std::vector<std::string>{"ttyACM2"});
+}
+
+// Through the flat interface, as the application sees it.
+TEST(UsbSurvey, ListsPlottersWithOrWithoutAPortAndOtherSerialDevices) {
+    EXPECT_EQ(esp_survey_usb_serial("/tmp/tfu-no-such-sysfs", nullptr, nullptr, 0), 0u);
+    FakeSysfs tree;
+    const auto device = [&](const std::string& folder, const std::string& vendor,
+                            const std::string& product, const std::string& name,
+                            const std::string& serial) {
+        tree.ids(folder, vendor, product, true);
+        for (const auto& [file, text] : {std::pair{"product", name}, {"serial", serial}}) {
+            if (!text.empty()) {
+                tree.attribute(folder, file, text);
+            }
+        }
+    };
+    const std::string longName(200, 'n');
+    device("usb1", "1d6b", "0002", "xHCI Host Controller", "0000:00:14.0");
+    device("usb1/1-1", "303a", "1001", "USB JTAG/serial debug unit", "F4:12:FA:00:00:01");
+    tree.interface("usb1/1-1/1-1:1.0", "cdc_acm");
+    tree.interface("usb1/1-1/1-1:1.2", "");
+    tree.tty("ttyACM0", "usb1/1-1/1-1:1.0");
+    // No port made: no driver on the serial interface, whatever the others have.
+    device("usb1/1-2", "303a", "1001", "", "F4:12:FA:00:00:02");
+    tree.interface("usb1/1-2/1-2:1.0", "");
+    tree.interface("usb1/1-2/1-2:1.2", "usbfs");
+    // A usb-serial adapter makes its tty one folder below the interface.
+    device("usb1/1-3", "1a86", "7523", longName, "");
+    tree.interface("usb1/1-3/1-3:1.0", "ch341");
+    tree.tty("ttyUSB0", "usb1/1-3/1-3:1.0/ttyUSB0");
+    device("usb1/1-4", "046d", "c52b", "USB Receiver", "");
+    tree.interface("usb1/1-4/1-4:1.0", "usbhid");
+    // Behind a hub, with a tty whose node udev has not made yet.
+    device("usb1/1-5", "05e3", "0608", "USB2.0 Hub", "");
+    tree.interface("usb1/1-5/1-5:1.0", "hub");
+    device("usb1/1-5/1-5.2", "303a", "1001", "USB JTAG/serial debug unit", "F4:12:FA:00:00:03");
+    tree.interface("usb1/1-5/1-5.2/1-5.2:1.0", "cdc_acm");
+    tree.tty("ttyACM1", "usb1/1-5/1-5.2/1-5.2:1.0", true, false);
+    tree.ids("platform/serial8250", "", "");
+    tree.tty("ttyS0", "platform/serial8250");
+
+    const auto text = [](const esp_usb_serial_device& d) {
+        char ids[16];
+        std::snprintf(ids, sizeof ids, "%04x:%04x", d.vendorId, d.productId);
+        return std::string(ids) + " " + d.product + "|" + d.serial + "|" + d.driver + "|" + d.path;
+    };
+    const std::string acm0 = tree.dev + "/ttyACM0", usb0 = tree.dev + "/ttyUSB0";
+    const std::vector<std::string> expected = {
+        "303a:1001 USB JTAG/serial debug unit|F4:12:FA:00:00:01|cdc_acm|" + acm0,
+        "303a:1001 |F4:12:FA:00:00:02||",
+        "1a86:7523 " + longName.substr(0, 127) + "||ch341|" + usb0,
+        "303a:1001 USB JTAG/serial debug unit|F4:12:FA:00:00:03|cdc_acm|",
+    };
+    esp_usb_serial_device found[6];
+    std::memset(found, 0x7F, sizeof found);
+    ASSERT_EQ(esp_survey_usb_serial(tree.sys.c_str(), tree.dev.c_str(), found, 6), 4u);
+    std::vector<std::string> texts;
+    std::transform(found, found + 4, std::back_inserter(texts), text);
+    EXPECT_EQ(texts, expected);
+    EXPECT_EQ(found[4].vendorId, 0x7F7F) << "written past the devices found";
+
+    std::memset(found, 0x7F, sizeof found);
+    EXPECT_EQ(esp_survey_usb_serial(tree.sys.c_str(), tree.dev.c_str(), found, 1), 4u);
+    EXPECT_EQ(text(found[0]), expected[0]);
+    EXPECT_EQ(found[1].vendorId, 0x7F7F) << "written past the capacity";
 }
 
 }  // namespace
