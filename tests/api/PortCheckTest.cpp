@@ -46,7 +46,7 @@ esp_port_check check(const std::string& path, int probe = ESP_PROBE_LOOK) {
 TEST(PortCheck, TellsEachCauseByItsNode) {
     char file[] = "/tmp/tfu-port-XXXXXX";
     ::close(::mkstemp(file));
-    const Pty free, locked(false);
+    const Pty idle, locked(false);
     // The path, the probe, and the problem with its errno.
     const std::tuple<std::string, int, int, int> rows[] = {
         {"/dev/tfu-no-such-port", ESP_PROBE_OPEN, ESP_PORT_MISSING, ENOENT},
@@ -54,9 +54,8 @@ TEST(PortCheck, TellsEachCauseByItsNode) {
         {"/dev/null", ESP_PROBE_LOOK, ESP_PORT_NOT_SERIAL, ENOTTY},
         {"/dev/ptmx", ESP_PROBE_LOOK, ESP_PORT_NOT_SERIAL, ENOTTY},
         {file, ESP_PROBE_LOOK, ESP_PORT_NOT_SERIAL, ENOTTY},
-        {"/tmp", ESP_PROBE_LOOK, ESP_PORT_NOT_SERIAL, ENOTTY},
-        {free.path, ESP_PROBE_LOOK, ESP_PORT_OK, 0},
-        {free.path, ESP_PROBE_OPEN, ESP_PORT_OK, 0},
+        {idle.path, ESP_PROBE_LOOK, ESP_PORT_OK, 0},
+        {idle.path, ESP_PROBE_OPEN, ESP_PORT_OK, 0},
         {locked.path, ESP_PROBE_LOOK, ESP_PORT_OK, 0},
         {locked.path, ESP_PROBE_OPEN, ESP_PORT_UNPLUGGED, EIO},
     };
