@@ -92,6 +92,75 @@ esp_error_t esp_download_file(const char* port, const char* name, uint8_t** data
                               esp_progress_cb progress, esp_log_cb log,
                               esp_download_status* status);
 
+/* ---- Why a port cannot be used, and what is attached over USB ---- */
+
+/* The first cause found by esp_check_port, in the order of the checks. */
+enum esp_port_problem {
+    ESP_PORT_OK = 0,         /* nothing found that would keep a job from opening it */
+    ESP_PORT_MISSING = 1,    /* no node at the path (ENOENT) */
+    ESP_PORT_NOT_SERIAL = 2, /* a file, a folder or a device that is no serial line (ENOTTY) */
+    ESP_PORT_PERMISSION = 3, /* the user may not read and write the node (EACCES, EPERM) */
+    ESP_PORT_HELD = 4,       /* another program has the node open (EBUSY) */
+    ESP_PORT_UNPLUGGED = 5   /* the node is there, its device answers no open (EIO, ENXIO) */
+};
+
+/* How far esp_check_port may go. */
+enum esp_port_probe {
+    /* Never opens the node: stat, access(2) with the real ids, /proc/tty/drivers
+     * and the scan of /proc for holders. Safe to repeat while a plotter is
+     * attached (opening a USB serial node raises DTR and RTS, which the chip may
+     * take as a reset). Cannot tell an unplugged device. */
+    ESP_PROBE_LOOK = 0,
+    /* When looking finds nothing, also opens the node (O_RDWR | O_NOCTTY |
+     * O_NONBLOCK), reads its terminal attributes and closes it at once. For use
+     * after a job's own open has failed. */
+    ESP_PROBE_OPEN = 1
+};
+
+/* Filled by esp_check_port. Texts are NUL-terminated and cut to fit. */
+typedef struct esp_port_check {
+    int problem; /* enum esp_port_problem */
+    int error;   /* the errno behind it, 0 for ESP_PORT_OK */
+    /* The next six are filled whenever the node exists, whatever the problem. */
+    char owner[64]; /* the node's owner and group names, numbers when unnamed */
+    char group[64];
+    unsigned mode;     /* the node's permission bits, e.g. 0660 */
+    char user[64];     /* the real user's name, the number when unnamed */
+    int userInGroup;   /* 1: the account database puts the user in `group` */
+    int groupInEffect; /* 1: this process has `group`; a user who was added to it
+                          and has not logged in again has 0 here, 1 above */
+    int holderPid;     /* ESP_PORT_HELD: the other program, 0 when it cannot be named */
+    char holderName[64];
+} esp_port_check;
+
+/* Finds why `port` cannot be used, with `probe` an enum esp_port_probe. Writes no
+ * byte to the port and logs nothing. Returns out->problem; -1 when out is null
+ * (a null port gives ESP_PORT_MISSING with EINVAL). Safe on any thread, also
+ * while a job runs. */
+int esp_check_port(const char* port, int probe, esp_port_check* out);
+
+/* One USB device seen by esp_survey_usb_serial, with one of its serial ports.
+ * Texts are NUL-terminated and cut to fit; empty when absent. */
+typedef struct esp_usb_serial_device {
+    uint16_t vendorId;
+    uint16_t productId;
+    char product[128]; /* the device's product name */
+    char serial[128];  /* its serial number */
+    char driver[64];   /* the driver bound to the port's interface, e.g. "cdc_acm" */
+    char path[256];    /* the port's device node, empty when none was made */
+} esp_usb_serial_device;
+
+/* Lists what is attached over USB that matters for finding the plotter's port:
+ * every device with ids 303a:1001 whether or not a port was made for it, and every
+ * other USB device that has a serial port (one entry per port; a plotter without
+ * one gives an entry with an empty path and the driver of its first interface).
+ * `sysfsRoot` (null: "/sys") is the folder holding bus/usb/devices and class/tty;
+ * nodes are looked for under `devRoot` (null: "/dev"). Fills at most `capacity`
+ * entries of `devices` (which may be null when capacity is 0) and returns how
+ * many were found, which may be more. Reads sysfs only; opens no port. */
+size_t esp_survey_usb_serial(const char* sysfsRoot, const char* devRoot,
+                             esp_usb_serial_device* devices, size_t capacity);
+
 #ifdef __cplusplus
 }
 #endif

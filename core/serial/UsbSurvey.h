@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// One USB device seen by `surveyUsbSerial`, with one of its serial ports.
+struct UsbSerialDevice {
+    uint16_t vendorId = 0;
+    uint16_t productId = 0;
+    std::string product;  ///< the device's product name, empty when it gives none
+    std::string serial;   ///< its serial number, empty when it gives none
+    std::string driver;   ///< the driver bound to the port's interface, empty for none
+    std::string path;     ///< the port's device node, empty when none was made
+};
+
+/// The plotter's USB ids (its chip's built-in USB serial interface).
+inline constexpr uint16_t kPlotterVendorId = 0x303A;
+inline constexpr uint16_t kPlotterProductId = 0x1001;
+
+/// What is attached over USB that matters for finding the plotter's port: every
+/// plotter whether or not a port was made for it, and every other USB device that
+/// has a tty. A device with several ttys gives one entry per tty; a plotter without
+/// any gives one entry with an empty `path`, whose `driver` is that of its first
+/// interface. Ordered by the device's bus position, then by tty name.
+///
+/// `sysfsRoot` is the folder that holds `bus/usb/devices` and `class/tty` ("/sys");
+/// nodes are looked for under `devRoot` ("/dev"). Reads sysfs only, opens no device
+/// node and never fails: problems only shorten the result. Stateless, thread-safe.
+std::vector<UsbSerialDevice> surveyUsbSerial(const std::string& sysfsRoot = "/sys",
+                                             const std::string& devRoot = "/dev");
