@@ -77,15 +77,7 @@ void LogView::setEntries(const LogEntries& entries) {
             append(entries[i]);
         }
     } else {
-        // Rebuilt from a fresh list so the controller's list is never shared with
-        // ours: sharing would make its next append copy the whole log.
-        entries_.clear();
-        lines_.clear();
-        tops_.clear();
-        contentHeight_ = 0;
-        for (const LogEntry& entry : entries) {
-            append(entry);
-        }
+        rebuild(entries);
     }
     if (entries.size() != shown) {
         scrollPending_ = !entries.isEmpty();
@@ -140,8 +132,9 @@ bool LogView::fitsOnOneLine(const QString& line, const QFont& font, int width) c
     return QFontMetricsF(font).horizontalAdvance(line) <= width;
 }
 
-void LogView::remeasure() {
-    const LogEntries entries = entries_;
+// Rebuilt entry by entry into fresh lists, so the controller's list is never
+// shared with ours: sharing would make its next append copy the whole log.
+void LogView::rebuild(const LogEntries& entries) {
     entries_.clear();
     lines_.clear();
     tops_.clear();
@@ -149,6 +142,10 @@ void LogView::remeasure() {
     for (const LogEntry& entry : entries) {
         append(entry);
     }
+}
+
+void LogView::remeasure() {
+    rebuild(LogEntries(entries_));
     updateScrollRange();
 }
 

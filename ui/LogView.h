@@ -41,6 +41,7 @@ class LogView : public QAbstractScrollArea {
 
   private:
     void append(const LogEntry& entry);
+    void rebuild(const LogEntries& entries);
     void remeasure();
     int measure(const LogEntry& entry) const;
     bool fitsOnOneLine(const QString& line, const QFont& font, int width) const;

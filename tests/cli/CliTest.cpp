@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
@@ -75,6 +76,8 @@ class CliTest : public QObject {
     void initTestCase();
     void subcommands_data();
     void subcommands();
+    void versionNamesTheProgramItsBuildAndTheFirmware();
+    void jsonLogLinesCarryTheirSeverity();
     void jsonLinesCarryTheBytesOfTheFlashPlan();
     void severalPlottersRunAtOnce();
     void terminalProgressIsRedrawnInPlace();
@@ -178,6 +181,24 @@ void CliTest::subcommands_data() {
         << QStringList{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 2 << QStringList{}
         << QStringList{}
         << "ERROR: Could not read config.yaml from the machine: Failed to open port\n";
+    QTest::newRow("save-config, destination cannot be written")
+        << QStringList{"save-config", "--sim", "/nonexistent/folder/machine.yaml"} << 17
+        << QStringList{} << QStringList{"Machine config saved"} << QString();
+    QTest::newRow("statuses in the help, from the one table")
+        << QStringList{"save-config", "--help"} << 0
+        << QStringList{"Exit status:",
+                       "  0  saved",
+                       "  1  no plotter is connected",
+                       "  2  the port could not be opened",
+                       "  8  a configuration transfer with the machine failed (upload or download)",
+                       "  17 a file could not be written on this computer"}
+        << QStringList{"  9 "} << "";
+    QTest::newRow("diff-config's statuses follow diff(1)")
+        << QStringList{"diff-config", "--help"} << 0
+        << QStringList{"  0  equal by key", "  1  different, as diff(1) reports it",
+                       "  8  a configuration transfer with the machine failed (upload or "
+                       "download) (also when no plotter is connected)"}
+        << QStringList{"  1  no plotter"} << "";
     QTest::newRow("diff-config, different")
         << QStringList{"diff-config", "--sim", "--product", "Corvane Halcot"} << 1
         << QStringList{"axes/x/max_travel_mm: 300.000 \u2192 330.000",
@@ -251,6 +272,29 @@ void CliTest::subcommands() {
     for (const QChar c : result.out + result.err) {
         QVERIFY2(c == '\n' || c.category() != QChar::Other_Control, qPrintable(result.out));
     }
+}
+
+void CliTest::versionNamesTheProgramItsBuildAndTheFirmware() {
+    const Run result = run({"--version"});
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(QRegularExpression("^teskal-flash \\d+\\.\\d+\\.\\d+, built \\d{8}, bundled "
+                                "firmware 2\\.10\\.6\n$")
+                 .match(result.out)
+                 .hasMatch(),
+             qPrintable(result.out));
+}
+
+void CliTest::jsonLogLinesCarryTheirSeverity() {
+    const Run result = run({"inspect", "--json", file("notes.txt")});
+    QCOMPARE(result.exitCode, 11);
+    const QList<QJsonObject> objects = jsonObjects(result.out);
+    QVERIFY(objects.contains(QJsonObject({{"type", "log"}, {"line", "  result: refused"}})));
+    QVERIFY(objects.contains(
+        QJsonObject({{"type", "log"},
+                     {"severity", "error"},
+                     {"line",
+                      "ERROR: notes.txt is neither a firmware image (.bin) nor a machine "
+                      "configuration (.yaml, .yml)"}})));
 }
 
 void CliTest::jsonLinesCarryTheBytesOfTheFlashPlan() {
