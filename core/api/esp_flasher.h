@@ -34,6 +34,14 @@ typedef void (*esp_progress_cb)(float progress, const char* stage);
 /* Log callback: one line without line ending. May be null. */
 typedef void (*esp_log_cb)(const char* line);
 
+/* esp_flash_firmware reports its region writes ("Flashing") as fractions from
+ * ESP_PROGRESS_REGIONS_START to ESP_PROGRESS_REGIONS_START + ESP_PROGRESS_REGIONS_SPAN,
+ * each region's share in proportion to its size; before them it reports only 0.08
+ * (the whole-flash erase), after them nothing. Callers map their own bar onto this
+ * span to show the share of bytes written. */
+#define ESP_PROGRESS_REGIONS_START 0.12f
+#define ESP_PROGRESS_REGIONS_SPAN 0.73f
+
 /* Writes the flash plan (bootloader 0x0 and partitions 0x8000 when fullFlash,
  * boot-app 0xE000 when given, application 0x10000), verifies each region by MD5,
  * restarts the chip and, when expectedVersion is neither null nor empty, asks the
