@@ -65,6 +65,19 @@ char* esp_query_version(const char* port);
 /* Path of the first USB serial port with these ids, or null. Opens nothing. */
 char* esp_detect_device(uint16_t vendorId, uint16_t productId);
 
+/* One USB serial port found by esp_list_devices. */
+typedef struct esp_port_info {
+    char path[256];   /* the node to open, as esp_detect_device returns it */
+    char serial[128]; /* the USB device's serial number (sysfs "serial", trimmed); empty when it has
+                         none */
+} esp_port_info;
+
+/* Lists the USB serial ports with these ids in enumeration order, filling at most `capacity`
+ * entries of `ports` (which may be null when capacity is 0); returns how many there are in all.
+ * Opens nothing, logs nothing. */
+size_t esp_list_devices(uint16_t vendorId, uint16_t productId, esp_port_info* ports,
+                        size_t capacity);
+
 /* Reads the partition table through the flasher stub: 1 valid, 0 not valid,
  * -1 could not be read. */
 int esp_probe_partition_table(const char* port, const uint8_t* stub, size_t stubLen);

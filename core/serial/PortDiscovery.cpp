@@ -11,9 +11,10 @@
 
 namespace {
 
-struct UsbIds {
+struct UsbDevice {
     unsigned long vendor = 0;
     unsigned long product = 0;
+    std::string folder;
 };
 
 // The sysfs root held open, so that every lookup below walks only the path
@@ -73,26 +74,50 @@ std::string joinLexically(std::string_view base, std::string_view relative) {
     return out;
 }
 
-// A missing file means the folder lacks that id; a present one that cannot be
-// read or parsed counts as the id 0, like an unconvertible registry number.
-std::optional<unsigned long> readHexFile(const SysfsRoot& root, const std::string& inside) {
+// Up to `limit` bytes of a sysfs attribute; none when the file is missing.
+std::optional<std::string> readAttribute(const SysfsRoot& root, const std::string& inside,
+                                         size_t limit) {
     const int fd = root.open(inside, O_RDONLY);
     if (fd < 0) {
         return std::nullopt;
     }
-    char text[32] = {};
-    const ssize_t len = ::read(fd, text, sizeof text - 1);
+    std::string text(limit, '\0');
+    const ssize_t len = ::read(fd, text.data(), limit);
     ::close(fd);
-    return len > 0 ? std::strtoul(text, nullptr, 16) : 0UL;
+    text.resize(len > 0 ? static_cast<size_t>(len) : 0);
+    return text;
+}
+
+// A missing file means the folder lacks that id; a present one that cannot be
+// read or parsed counts as the id 0, like an unconvertible registry number.
+std::optional<unsigned long> readHexFile(const SysfsRoot& root, const std::string& inside) {
+    const auto text = readAttribute(root, inside, 31);
+    if (!text) {
+        return std::nullopt;
+    }
+    return std::strtoul(text->c_str(), nullptr, 16);
+}
+
+// The kernel ends the attribute with a line feed; some devices pad their serial
+// number string descriptor with blanks.
+std::string serialNumber(const SysfsRoot& root, const std::string& usbFolder) {
+    constexpr size_t kDescriptorLimit = 512;  // 126 UTF-16 units as UTF-8, with room
+    const std::string text =
+        readAttribute(root, usbFolder + "/serial", kDescriptorLimit).value_or(std::string());
+    const auto first = text.find_first_not_of(" \t\r\n");
+    if (first == std::string::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
 }
 
 // Only the nearest folder carrying both ids decides, as interface folders between
 // the tty and its USB device carry neither and hubs further up carry their own.
-std::optional<UsbIds> nearestUsbIds(const SysfsRoot& root, std::string folder) {
+std::optional<UsbDevice> nearestUsbDevice(const SysfsRoot& root, std::string folder) {
     while (!folder.empty()) {
         if (const auto vendor = readHexFile(root, folder + "/idVendor")) {
             if (const auto product = readHexFile(root, folder + "/idProduct")) {
-                return UsbIds{*vendor, *product};
+                return UsbDevice{*vendor, *product, folder};
             }
         }
         folder.resize(folder.rfind('/'));
@@ -135,8 +160,8 @@ std::vector<std::string> sortedEntries(const SysfsRoot& root, const std::string&
     return names;
 }
 
-bool matches(const UsbIds& ids, unsigned short vendorId, unsigned short productId) {
-    return (ids.vendor & 0xFFFF) == vendorId && (ids.product & 0xFFFF) == productId;
+bool matches(const UsbDevice& usb, unsigned short vendorId, unsigned short productId) {
+    return (usb.vendor & 0xFFFF) == vendorId && (usb.product & 0xFFFF) == productId;
 }
 
 }  // namespace
@@ -157,15 +182,15 @@ std::vector<ESPPortInfo> listESPPorts(unsigned short vendorId, unsigned short pr
         if (!folder) {
             continue;
         }
-        const auto ids = nearestUsbIds(root, *folder);
-        if (!ids || !matches(*ids, vendorId, productId)) {
+        const auto usb = nearestUsbDevice(root, *folder);
+        if (!usb || !matches(*usb, vendorId, productId)) {
             continue;
         }
         std::string node = devRoot + "/" + name;
         if (::access(node.c_str(), F_OK) != 0) {
             continue;
         }
-        ports.push_back(ESPPortInfo{node, node});
+        ports.push_back(ESPPortInfo{node, node, serialNumber(root, usb->folder)});
     }
     return ports;
 }
