@@ -46,10 +46,10 @@ int main(int argc, char** argv) {
     // development images this program carries, and accepts, cannot reach a real
     // machine.
     DeviceMonitor::Detector detector = [port](uint16_t, uint16_t) { return strdup(port.c_str()); };
-    AppDelegate delegate(
-        std::make_unique<UpdateController>(ResourceBundle::located(), std::move(detector),
-                                           UpdateController::DevelopmentImages::accept),
-        AppDelegate::Options());
+    AppDelegate delegate(std::make_unique<UpdateController>(
+                             ResourceBundle::located(QStringLiteral("resources-dev")),
+                             std::move(detector), UpdateController::DevelopmentImages::accept),
+                         AppDelegate::Options());
     delegate.applicationDidFinishLaunching();
     delegate.window()->setWindowTitle(
         QStringLiteral("Teskal Firmware Updater \u2014 simulated plotter"));
