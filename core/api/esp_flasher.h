@@ -67,14 +67,16 @@ char* esp_detect_device(uint16_t vendorId, uint16_t productId);
 
 /* One USB serial port found by esp_list_devices. */
 typedef struct esp_port_info {
-    char path[256];   /* the node to open, as esp_detect_device returns it */
-    char serial[128]; /* the USB device's serial number (sysfs "serial", trimmed); empty when it has
-                         none */
+    /* the node to open, as esp_detect_device returns it */
+    char path[256];
+    /* the USB device's serial number (sysfs "serial", trimmed); empty when it has none */
+    char serial[128];
 } esp_port_info;
 
 /* Lists the USB serial ports with these ids in enumeration order, filling at most `capacity`
  * entries of `ports` (which may be null when capacity is 0); returns how many there are in all.
- * Opens nothing, logs nothing. */
+ * A text longer than its field is cut; every field is NUL-terminated. Opens nothing, logs
+ * nothing; may run while a job holds a port. */
 size_t esp_list_devices(uint16_t vendorId, uint16_t productId, esp_port_info* ports,
                         size_t capacity);
 
