@@ -1,7 +1,5 @@
 #include "app/BuildConfig.h"
 
-#include <QDate>
-
 namespace BuildConfig {
 
 QString firmwareVersion() {
@@ -24,11 +22,6 @@ const QList<ProductConfig>& products() {
         {"Corvane Miravel", "mrv.yaml"},
     };
     return table;
-}
-
-const QString& buildDate() {
-    static const QString date = QDate::currentDate().toString(QStringLiteral("yyyyMMdd"));
-    return date;
 }
 
 }  // namespace BuildConfig

@@ -25,8 +25,9 @@ QString programVersion();
 /// The supported machines in menu order; a row's index is its menu item's tag.
 const QList<ProductConfig>& products();
 
-/// "yyyyMMdd" of the day this process first asked for it; the same text for the
-/// rest of the process, even across midnight.
+/// The date this program was built, "yyyyMMdd" in UTC (the date of
+/// SOURCE_DATE_EPOCH when the build had it set, for reproducible builds). Fixed
+/// when the program is built; defined in a source the build generates.
 const QString& buildDate();
 
 }  // namespace BuildConfig

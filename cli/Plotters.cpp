@@ -1,6 +1,9 @@
 #include "cli/Plotters.h"
 
-#include "serial/PortDiscovery.h"
+#include <algorithm>
+#include <vector>
+
+#include "esp_flasher.h"
 
 namespace Plotters {
 namespace {
@@ -20,8 +23,13 @@ QStringList connected(int simulated) {
         }
         return names;
     }
-    for (const ESPPortInfo& port : listESPPorts(kVendorId, kProductId)) {
-        names << QString::fromStdString(port.calloutPath);
+    // Plotters may come or go between the count and the copy: keep only the
+    // entries the second call filled.
+    std::vector<esp_port_info> ports(esp_list_devices(kVendorId, kProductId, nullptr, 0));
+    ports.resize(std::min(ports.size(),
+                          esp_list_devices(kVendorId, kProductId, ports.data(), ports.size())));
+    for (const esp_port_info& port : ports) {
+        names << QString::fromUtf8(port.path);
     }
     return names;
 }

@@ -8,7 +8,6 @@
 #include <string>
 #include <vector>
 
-#include "serial/SerialPort.h"
 #include "sim/Config.h"
 
 /// A simulated ESP32-S3 plotter controller: ROM loader, flasher stub and the
@@ -43,10 +42,6 @@ class Plotter {
     /// the next scheduled output and returns it, or nothing after the full wait.
     /// Never returns output before it is due.
     std::vector<uint8_t> onIdle(int timeoutMs);
-
-    /// Opens `port` as a loopback bound to this plotter (handler and idle source).
-    /// The plotter (moved or not) must outlive the port's use.
-    void connectLoopback(SerialPort& port);
 
     /// When the next scheduled output is due (monotonic ns), if any is pending.
     std::optional<int64_t> nextOutputNs() const;

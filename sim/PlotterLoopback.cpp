@@ -1,14 +1,11 @@
-#include "sim/Plotter.h"
-#include "sim/PlotterImpl.h"
+#include "sim/PlotterLoopback.h"
 
 namespace sim {
 
-void Plotter::connectLoopback(SerialPort& port) {
-    // Bound to the implementation, which stays put when the plotter is moved.
-    Impl* impl = impl_.get();
+void connectLoopback(Plotter& plotter, SerialPort& port) {
     port.openLoopback(
-        [impl](const uint8_t* data, size_t len) { return impl->onHostBytes(data, len); },
-        [impl](int timeoutMs) { return impl->onIdle(timeoutMs); });
+        [&plotter](const uint8_t* data, size_t len) { return plotter.onHostBytes(data, len); },
+        [&plotter](int timeoutMs) { return plotter.onIdle(timeoutMs); });
 }
 
 }  // namespace sim

@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
     if (!instance) {
         return EXIT_FAILURE;
     }
-    const ResourceBundle resources = ResourceBundle::located();
+    const ResourceBundle resources = ResourceBundle::located(QStringLiteral("resources-dev"));
     const auto plotter = startSimulatedPlotter(resources, SimulatedPace::visible);
     const std::string port = plotter->path();
     // Only the simulator's pseudo-terminal is ever offered as the device, so the

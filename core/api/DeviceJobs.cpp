@@ -3,6 +3,7 @@
 #include "fluidnc/Console.h"
 #include "fluidnc/Download.h"
 #include "fluidnc/XModem.h"
+#include "image/Partitions.h"
 #include "serial/Clock.h"
 
 namespace esp {
@@ -70,6 +71,10 @@ int runProbePartitionTableJob(SerialPort& port, const uint8_t* stub, size_t stub
         return -1;
     }
     return isPartitionTableValid(table.data(), table.size()) ? 1 : 0;
+}
+
+bool isPartitionTableValid(const uint8_t* data, size_t size) {
+    return image::inspectPartitionTable(data, size).applicationSize.has_value();
 }
 
 }  // namespace esp

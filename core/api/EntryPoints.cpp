@@ -4,6 +4,7 @@
 #include <string>
 
 #include "api/Jobs.h"
+#include "api/PortList.h"
 #include "api/esp_flasher.h"
 #include "serial/PortDiscovery.h"
 #include "serial/PortHolder.h"
@@ -152,6 +153,11 @@ char* esp_query_version(const char* port) {
 char* esp_detect_device(uint16_t vendorId, uint16_t productId) {
     const auto ports = listESPPorts(vendorId, productId);
     return ports.empty() ? nullptr : dupString(ports.front().calloutPath);
+}
+
+size_t esp_list_devices(uint16_t vendorId, uint16_t productId, esp_port_info* ports,
+                        size_t capacity) {
+    return esp::copyPortList(listESPPorts(vendorId, productId), ports, capacity);
 }
 
 int esp_probe_partition_table(const char* port, const uint8_t* stub, size_t stubLen) {

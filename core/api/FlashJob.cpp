@@ -15,8 +15,6 @@ constexpr int kBootloaderEntries = 3;
 constexpr int kSyncAttempts = 10;
 constexpr int kVersionQueries = 3;
 constexpr int kVersionQueryMs = 2000;
-constexpr float kPlanStart = 0.12f;
-constexpr float kPlanSpan = 0.73f;
 
 struct FlashEntry {
     uint32_t address;
@@ -105,8 +103,10 @@ esp_error_t writePlan(EspLoader& loader, const std::vector<FlashEntry>& plan,
     float done = 0.0f;
     for (const auto& entry : plan) {
         const auto size = static_cast<float>(entry.size);
-        const float start = total > 0.0f ? kPlanStart + kPlanSpan * done / total : kPlanStart;
-        const float span = total > 0.0f ? kPlanSpan * size / total : 0.0f;
+        const float start =
+            total > 0.0f ? ESP_PROGRESS_REGIONS_START + ESP_PROGRESS_REGIONS_SPAN * done / total
+                         : ESP_PROGRESS_REGIONS_START;
+        const float span = total > 0.0f ? ESP_PROGRESS_REGIONS_SPAN * size / total : 0.0f;
         if (!loader.flashImage(entry.address, entry.data, entry.size, progress, start, span)) {
             return result::WriteFailed;
         }

@@ -66,8 +66,9 @@ std::optional<std::string> runQueryVersionJob(SerialPort& port);
 /// The partition-table probe after the port has been opened: 1, 0 or -1.
 int runProbePartitionTableJob(SerialPort& port, const uint8_t* stub, size_t stubLen);
 
-/// True when the table holds at least one 0xAA entry and an application
-/// partition at 0x10000 before the first entry without the 0xAA mark.
+/// True when `image::inspectPartitionTable` finds an application partition at
+/// 0x10000: an entry of type 0 among the 0xAA entries before the first record
+/// without that mark. Borrowed bytes; thread-safe.
 bool isPartitionTableValid(const uint8_t* data, size_t size);
 
 }  // namespace esp

@@ -34,6 +34,14 @@ typedef void (*esp_progress_cb)(float progress, const char* stage);
 /* Log callback: one line without line ending. May be null. */
 typedef void (*esp_log_cb)(const char* line);
 
+/* esp_flash_firmware reports its region writes ("Flashing") as fractions from
+ * ESP_PROGRESS_REGIONS_START to ESP_PROGRESS_REGIONS_START + ESP_PROGRESS_REGIONS_SPAN,
+ * each region's share in proportion to its size; before them it reports only 0.08
+ * (the whole-flash erase), after them nothing. Callers map their own bar onto this
+ * span to show the share of bytes written. */
+#define ESP_PROGRESS_REGIONS_START 0.12f
+#define ESP_PROGRESS_REGIONS_SPAN 0.73f
+
 /* Writes the flash plan (bootloader 0x0 and partitions 0x8000 when fullFlash,
  * boot-app 0xE000 when given, application 0x10000), verifies each region by MD5,
  * restarts the chip and, when expectedVersion is neither null nor empty, asks the
@@ -56,6 +64,21 @@ char* esp_query_version(const char* port);
 
 /* Path of the first USB serial port with these ids, or null. Opens nothing. */
 char* esp_detect_device(uint16_t vendorId, uint16_t productId);
+
+/* One USB serial port found by esp_list_devices. */
+typedef struct esp_port_info {
+    /* the node to open, as esp_detect_device returns it */
+    char path[256];
+    /* the USB device's serial number (sysfs "serial", trimmed); empty when it has none */
+    char serial[128];
+} esp_port_info;
+
+/* Lists the USB serial ports with these ids in enumeration order, filling at most `capacity`
+ * entries of `ports` (which may be null when capacity is 0); returns how many there are in all.
+ * A text longer than its field is cut; every field is NUL-terminated. Opens nothing, logs
+ * nothing; may run while a job holds a port. */
+size_t esp_list_devices(uint16_t vendorId, uint16_t productId, esp_port_info* ports,
+                        size_t capacity);
 
 /* Reads the partition table through the flasher stub: 1 valid, 0 not valid,
  * -1 could not be read. */

@@ -26,7 +26,7 @@ std::vector<ESPPortInfo> listESPPorts(unsigned short vendorId, unsigned short pr
         if (::access(node.c_str(), F_OK) != 0) {
             continue;
         }
-        ports.push_back(ESPPortInfo{node, node});
+        ports.push_back(ESPPortInfo{node, node, sysfs::usbSerialNumber(root, usb->folder)});
     }
     return ports;
 }

@@ -7,6 +7,7 @@
 struct ESPPortInfo {
     std::string calloutPath;  ///< the node to open (on Linux the same as ttyPath)
     std::string ttyPath;      ///< the dial-in node; carried along, unused by callers
+    std::string serial;       ///< the USB device's serial number, trimmed; empty when it has none
 };
 
 /// Lists the serial ports whose nearest USB ancestor carrying both ids matches

@@ -125,4 +125,13 @@ std::optional<UsbAncestor> nearestUsbAncestor(const Root& root, std::string fold
     return std::nullopt;
 }
 
+std::string usbSerialNumber(const Root& root, const std::string& usbFolder) {
+    const std::string text = root.readAttribute(usbFolder + "/serial").value_or(std::string());
+    const auto first = text.find_first_not_of(" \t\r");
+    if (first == std::string::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
+}
+
 }  // namespace sysfs

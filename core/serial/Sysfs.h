@@ -63,4 +63,8 @@ std::optional<std::string> ttyDeviceFolder(const Root& root, const std::string& 
 /// but unreadable count as 0. None when no folder up to the root carries both.
 std::optional<UsbAncestor> nearestUsbAncestor(const Root& root, std::string folder);
 
+/// The serial number of the USB device in `usbFolder`, without the blanks some
+/// devices pad it with; empty when it has none.
+std::string usbSerialNumber(const Root& root, const std::string& usbFolder);
+
 }  // namespace sysfs

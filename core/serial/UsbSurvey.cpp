@@ -75,7 +75,7 @@ std::vector<UsbSerialDevice> surveyUsbSerial(const std::string& sysfsRoot,
         UsbSerialDevice device{static_cast<uint16_t>(usb->ids.vendor),
                                static_cast<uint16_t>(usb->ids.product),
                                root.readAttribute(*folder + "/product").value_or(""),
-                               root.readAttribute(*folder + "/serial").value_or(""),
+                               sysfs::usbSerialNumber(root, *folder),
                                {},
                                {}};
         bool hasTty = false;

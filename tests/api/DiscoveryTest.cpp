@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "api/PortList.h"
 #include "api/esp_flasher.h"
 #include "serial/PortDiscovery.h"
 #include "tests/support/FakeSysfs.h"
@@ -124,6 +125,37 @@ TEST(UsbSurvey, ListsPlottersWithOrWithoutAPortAndOtherSerialDevices) {
     EXPECT_EQ(esp_survey_usb_serial(tree.sys.c_str(), tree.dev.c_str(), found, 1), 4u);
     EXPECT_EQ(text(found[0]), expected[0]);
     EXPECT_EQ(found[1].vendorId, 0x7F7F) << "written past the capacity";
+}
+
+// The serial number is the USB device's, not its interface's; the fields of the
+// exported record are cut and NUL-terminated, and the count goes past the capacity.
+TEST(PortDiscovery, ListDevicesFillsSerialNumbersUpToCapacity) {
+    FakeSysfs tree;
+    const std::string longSerial(200, 'S');
+    tree.ids("usb1/1-1", "303a", "1001");
+    tree.attribute("usb1/1-1", "serial", "  F4:12:FA:6C:3B:90 ");
+    tree.attribute("usb1/1-1/1-1:1.0", "serial", "interface");
+    tree.tty("ttyACM0", "usb1/1-1/1-1:1.0");
+    tree.ids("usb1/1-2", "303a", "1001");
+    tree.tty("ttyACM1", "usb1/1-2/1-2:1.0");
+    tree.ids("usb1/1-3", "303a", "1001");
+    tree.attribute("usb1/1-3", "serial", longSerial);
+    tree.tty("ttyACM2", "usb1/1-3/1-3:1.0");
+    const auto found = listESPPorts(0x303A, 0x1001, tree.sys, tree.dev);
+
+    esp_port_info ports[4];
+    std::memset(ports, 'x', sizeof ports);
+    EXPECT_EQ(esp::copyPortList(found, nullptr, 0), 3u);
+    EXPECT_EQ(esp::copyPortList(found, ports, 2), 3u);
+    EXPECT_EQ(std::string(ports[0].path), tree.dev + "/ttyACM0");
+    EXPECT_EQ(std::string(ports[0].serial), "F4:12:FA:6C:3B:90");
+    EXPECT_EQ(std::string(ports[1].path), tree.dev + "/ttyACM1");
+    EXPECT_EQ(std::string(ports[1].serial), "");
+    EXPECT_EQ(ports[2].path[0], 'x') << "past the capacity";
+
+    EXPECT_EQ(esp::copyPortList(found, ports, 4), 3u);
+    EXPECT_EQ(std::string(ports[2].serial), longSerial.substr(0, 127));
+    EXPECT_EQ(ports[3].path[0], 'x') << "past the ports found";
 }
 
 }  // namespace

@@ -1,4 +1,9 @@
+#include <QDateTime>
+#include <QFileInfo>
+#include <QRegularExpression>
+
 #include "ControllerHarness.h"
+#include "app/BuildConfig.h"
 #include "app/LogExport.h"
 #include "app/MachineConfigCheck.h"
 #include "app/VersionText.h"
@@ -29,6 +34,7 @@ class AppCoreTest : public QObject {
 
   private slots:
     void developmentSetIsNeverTheShippedFirmware();
+    void buildDateIsTheDateOfTheBuild();
     void resourcesAreFoundBesideOrInstalled();
     void errorMessagesVersionCleanUpAndFileNames();
     void metaVersion();
@@ -50,6 +56,24 @@ void AppCoreTest::developmentSetIsNeverTheShippedFirmware() {
         QVERIFY2(version && version->endsWith("-devset"), qPrintable(product.configFile));
         QCOMPARE(machineConfigProblem(config).value_or("valid"), QStringLiteral("valid"));
     }
+}
+
+// Every build takes the date again and links this program after it, at most a
+// midnight later; a build under SOURCE_DATE_EPOCH (set here too) carries its date.
+void AppCoreTest::buildDateIsTheDateOfTheBuild() {
+    const QString& date = BuildConfig::buildDate();
+    QVERIFY(QRegularExpression(QStringLiteral("^\\d{8}$")).match(date).hasMatch());
+    QCOMPARE(&BuildConfig::buildDate(), &date);
+    const QByteArray epoch = qgetenv("SOURCE_DATE_EPOCH");
+    const QDate built =
+        epoch.isEmpty()
+            ? QFileInfo(QCoreApplication::applicationFilePath()).lastModified().toUTC().date()
+            : QDateTime::fromSecsSinceEpoch(epoch.toLongLong(), Qt::UTC).date();
+    QStringList expected{built.toString(QStringLiteral("yyyyMMdd"))};
+    if (epoch.isEmpty()) {
+        expected << built.addDays(-1).toString(QStringLiteral("yyyyMMdd"));
+    }
+    QVERIFY2(expected.contains(date), qPrintable(date + " not in " + expected.join(' ')));
 }
 
 void AppCoreTest::resourcesAreFoundBesideOrInstalled() {

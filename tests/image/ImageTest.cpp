@@ -55,6 +55,11 @@ TEST(ImageInspection, ReadsTheDevelopmentSet) {
     EXPECT_EQ(inspectTable(changed(table, 2 * 32 + 12, 'b'), table.size()),
               std::tuple(5u, Md5::differs, kDevApplicationPartition));
     EXPECT_EQ(inspectTable(table, 64), std::tuple(2u, Md5::absent, std::nullopt));
+    // Byte 0 alone marks an entry, as the probe of a plotter's flash reads it.
+    EXPECT_EQ(inspectTable(changed(table, 2 * 32 + 1, 0x51), table.size()),
+              std::tuple(5u, Md5::differs, kDevApplicationPartition));
+    EXPECT_EQ(inspectTable(changed(table, 2 * 32, 0xAB), table.size()),
+              std::tuple(2u, Md5::absent, std::nullopt));
 }
 
 TEST(ImageInspection, RefusesWhatMustNotBeWrittenAsFirmware) {

@@ -13,7 +13,7 @@
 #include "api/Jobs.h"
 #include "esp/Packet.h"
 #include "serial/Clock.h"
-#include "sim/Plotter.h"
+#include "sim/PlotterLoopback.h"
 #include "tests/support/Records.h"
 #include "tests/support/TestImages.h"
 #include "tests/support/VirtualTime.h"
@@ -202,7 +202,7 @@ void campaign(int runs, uint32_t seedBase, const std::vector<Fault>& menu,
         SCOPED_TRACE(testing::Message() << "seed 0x" << std::hex << seed << ", faults:" << faults);
         sim::Plotter plotter(config);
         SerialPort port;
-        plotter.connectLoopback(port);
+        sim::connectLoopback(plotter, port);
         clearRecords();
         const unsigned code = run(rng, plotter, port);
         EXPECT_TRUE(code == 0 || !faults.empty()) << "a healthy device failed";

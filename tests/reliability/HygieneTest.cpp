@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "api/Jobs.h"
-#include "sim/Plotter.h"
+#include "sim/PlotterLoopback.h"
 #include "tests/support/Descriptors.h"
 #include "tests/support/TestImages.h"
 
@@ -31,7 +31,7 @@ TEST(Hygiene, ThousandJobsLeaveDescriptorsAndHeapFlat) {
         config.xmodemCanBlock = kind == 5 ? std::optional(2) : std::nullopt;
         sim::Plotter plotter(config);
         SerialPort port;
-        plotter.connectLoopback(port);
+        sim::connectLoopback(plotter, port);
         if (kind < 4) {
             return esp::runFlashJob(port, request, nullptr, nullptr) == 0;
         }
