@@ -37,6 +37,7 @@ struct Report : esp_startup_report {
     }
 };
 
+const char* const kVerifying = "Verifying firmware version...";
 const char* const kGuru =
     "Guru Meditation Error: Core  1 panic'ed (LoadProhibited). Exception was unhandled.";
 
@@ -132,6 +133,14 @@ TEST_F(StartupReportTest, ListeningLeavesTheJobAsItWas) {
             writes.push_back(device->writes);
             logs.push_back(logLines);
             elapsed.push_back(device->elapsedMs());
+            // The two seconds after the reset are read, not slept through.
+            const auto verifying = std::find(logLines.begin(), logLines.end(), kVerifying);
+            const int64_t fromNs = logTimesNs[static_cast<size_t>(verifying - logLines.begin())];
+            const auto& reads = device->idleReadsNs;
+            EXPECT_EQ(
+                std::any_of(reads.begin(), reads.end(),
+                            [&](int64_t ns) { return ns > fromNs && ns < fromNs + 1'900'000'000; }),
+                listen);
         }
         EXPECT_EQ(logs[1], logs[0]);
         ASSERT_EQ(writes[1].size(), writes[0].size());
