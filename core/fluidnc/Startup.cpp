@@ -70,16 +70,22 @@ std::string clean(std::string_view raw) {
     return out.substr(first, out.find_last_not_of(' ') - first + 1);
 }
 
-// Cut at a character boundary, so a quoted UTF-8 text stays valid.
+bool continuationByte(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
+// Cut before a character that would be split, so a quoted UTF-8 text stays valid;
+// bytes that are no UTF-8 are cut where they fall.
 std::string quote(const std::string& line) {
     if (line.size() <= kEvidenceChars) {
         return line;
     }
     size_t cut = kEvidenceChars;
-    while (cut > 0 && (static_cast<unsigned char>(line[cut]) & 0xC0) == 0x80) {
+    while (cut > kEvidenceChars - 3 && continuationByte(line[cut])) {
         --cut;
     }
-    return line.substr(0, cut);
+    const bool split = cut < kEvidenceChars && static_cast<unsigned char>(line[cut]) >= 0xC0;
+    return line.substr(0, split ? cut : kEvidenceChars);
 }
 
 // Erased flash where the boot loader belongs: the ROM finds nothing to start and

@@ -143,6 +143,10 @@ TEST(StartupVerdict, JudgesRealLookingTranscripts) {
     expectVerdict("\x1b[0;31m" + kNoApp + "\x1b[0m\r\n", std::nullopt, V::NoApp, {kNoApp});
     expectVerdict(kBadGpio.substr(0, 20) + std::string(300, 'x') + "\n", ver, V::ConfigError,
                   {kBadGpio.substr(0, 20) + std::string(180, 'x')});
+    // Cut before a character that 200 bytes would split; bytes that are no UTF-8 at 200.
+    const std::string error = "[MSG:ERR: " + std::string(189, 'x');
+    expectVerdict(error + "\xc3\xa9t\xc3\xa9]\n", ver, V::ConfigError, {error});
+    expectVerdict(error + std::string(20, '\x93') + "\n", ver, V::ConfigError, {error + "\x93"});
 }
 
 TEST(StartupVerdict, ExpectedVersionIsASubstringAndEmptyMeansAny) {
