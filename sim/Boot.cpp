@@ -125,10 +125,10 @@ std::string Boot::messages() const {
     return messages_.value_or(firmwareMessages(version(), false));
 }
 
-void Boot::startHealthy(int64_t nowNs, int64_t readyNs, bool byHost) {
-    print(nowNs, romBanner(byHost ? kHostReset : kSoftwareReset));
-    print(nowNs + kBootLoaderAfterNs, std::string(kBootLoader) + std::string(kAppLoaded));
-    print(std::max(readyNs, nowNs + kFirmwareAfterNs), "\r\n" + *messages_);
+void Boot::startHealthy(int64_t restartNs, int64_t readyNs, bool byHost) {
+    print(restartNs, romBanner(byHost ? kHostReset : kSoftwareReset));
+    print(restartNs + kBootLoaderAfterNs, std::string(kBootLoader) + std::string(kAppLoaded));
+    print(std::max(readyNs, restartNs + kFirmwareAfterNs), "\r\n" + *messages_);
 }
 
 // Each turn schedules the next one; a reset into the loader cancels the chain.
@@ -151,10 +151,10 @@ void Boot::cycle(int64_t atNs, bool first, bool byHost) {
     });
 }
 
-void Boot::startNoApplication(int64_t nowNs, bool byHost) {
-    print(nowNs, romBanner(byHost ? kHostReset : kSoftwareReset));
-    print(nowNs + kBootLoaderAfterNs, std::string(kBootLoader) + std::string(kNoApp));
-    d_.outbox.scheduleAt(nowNs + kFloodAfterNs, [this] {
+void Boot::startNoApplication(int64_t restartNs, bool byHost) {
+    print(restartNs, romBanner(byHost ? kHostReset : kSoftwareReset));
+    print(restartNs + kBootLoaderAfterNs, std::string(kBootLoader) + std::string(kNoApp));
+    d_.outbox.scheduleAt(restartNs + kFloodAfterNs, [this] {
         flood();
         return std::vector<uint8_t>{};
     });

@@ -29,9 +29,9 @@ class Boot {
     std::string messages() const;
 
   private:
-    void startHealthy(int64_t nowNs, int64_t readyNs, bool byHost);
+    void startHealthy(int64_t restartNs, int64_t readyNs, bool byHost);
     void cycle(int64_t atNs, bool first, bool byHost);
-    void startNoApplication(int64_t nowNs, bool byHost);
+    void startNoApplication(int64_t restartNs, bool byHost);
     void flood();
     void print(int64_t atNs, std::string text);
     std::string version() const;
