@@ -192,8 +192,8 @@ TEST(StartupCheck, ListensAsksForTheReplayAndTheVersionOnly) {
         EXPECT_EQ(report.evidence[0] ? report.evidence[0] : "", evidence);
         EXPECT_EQ(report.count("[MSG:INFO: Local filesystem type is LittleFS]"), replayed);
         std::vector<std::string> sent;
-        for (const auto& [ms, text] : device.writes) {
-            sent.push_back(text);
+        for (const auto& write : device.writes) {
+            sent.push_back(write.second);
         }
         EXPECT_EQ(sent, (restart ? Lines{"$Bye", "$SS", "$I"} : Lines{"$SS", "$I"}));
     };
