@@ -1,7 +1,10 @@
 // One whole esp_flash_firmware of a 1.5 MiB application over a pseudo-terminal to
 // the simulated plotter, with the total split into the waits the job prescribes
 // and the time spent moving and checking data. Each phase runs from one log line
-// to the next, so the split needs no hooks in the library.
+// to the next, so the split needs no hooks in the library. Then the same healthy
+// job with the start-up listening (esp_flash_firmware_checked with a report) and
+// without, alternately, and the ratio of their median times.
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <string>
@@ -67,15 +70,71 @@ void row(const char* what, double seconds, const char* note = "") {
     std::printf("  %-34s %7.3f s%s%s\n", what, seconds, *note != '\0' ? "  " : "", note);
 }
 
+constexpr int kRounds = 3;
+
+struct Images {
+    std::vector<uint8_t> firmware;
+    std::vector<uint8_t> bootApp;
+    std::vector<uint8_t> stub;
+};
+
+sim::Config healthyPlotter() {
+    sim::Config config;
+    config.versionReport = "2.10.6 (sim)";
+    return config;
+}
+
+// A fresh plotter each time, so that no run inherits another's state. With a report
+// the job listens to the restart.
+esp_error_t flashOnce(const Images& images, esp_startup_report* report) {
+    sim::PtyPlotter device(healthyPlotter());
+    lines.clear();
+    jobStart = Clock::now();
+    return esp_flash_firmware_checked(
+        device.path().c_str(), images.firmware.data(), images.firmware.size(), nullptr, 0, nullptr,
+        0, images.bootApp.data(), images.bootApp.size(), images.stub.data(), images.stub.size(), 0,
+        0, "2.10.6", nullptr, onLog, report);
+}
+
+double median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+int compareListening(const Images& images) {
+    std::vector<double> plain;
+    std::vector<double> listening;
+    int verdict = -1;
+    for (int round = 0; round < kRounds; ++round) {
+        if (flashOnce(images, nullptr) != 0) {
+            return 1;
+        }
+        plain.push_back(secondsSince(jobStart));
+        esp_startup_report report{};
+        if (flashOnce(images, &report) != 0) {
+            return 1;
+        }
+        listening.push_back(secondsSince(jobStart));
+        verdict = report.verdict;
+        esp_startup_report_free(&report);
+    }
+    const double without = median(plain);
+    const double with = median(listening);
+    std::printf("start-up listening, median of %d alternating runs\n", kRounds);
+    row("esp_flash_firmware", without);
+    row("esp_flash_firmware_checked", with,
+        verdict == ESP_STARTUP_RUNNING ? "(verdict: running)" : "(verdict: NOT running)");
+    std::printf("  ratio with / without                %7.3f    (goal <= 1.05)\n", with / without);
+    return verdict == ESP_STARTUP_RUNNING ? 0 : 1;
+}
+
 }  // namespace
 
 int main() {
     const auto firmware = bytes(1536 * 1024, 1);
     const auto bootApp = std::vector<uint8_t>(8192, 0xFF);
     const auto stub = stubImage();
-    sim::Config config;
-    config.versionReport = "2.10.6 (sim)";
-    sim::PtyPlotter device(config);
+    sim::PtyPlotter device(healthyPlotter());
 
     jobStart = Clock::now();
     const esp_error_t code = esp_flash_firmware(
@@ -140,5 +199,5 @@ int main() {
     std::printf("  -> application write rate           %7.0f KiB/s\n",
                 (firmware.size() + bootApp.size()) / 1024.0 / writing);
     std::printf("  share of the total moving data       %7.1f %%\n", 100.0 * moving / total);
-    return 0;
+    return compareListening({firmware, bootApp, stub});
 }

@@ -11,8 +11,8 @@ seconds=${TFU_FUZZ_SECONDS:-20}
 # faulting in fresh pages on every run; it doubles the whole-job target's rate.
 export ASAN_OPTIONS=${ASAN_OPTIONS:-quarantine_size_mb=8:malloc_context_size=5}
 export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1}
-targets=(slip response stub_header partition_table console_version device_session image_report
-         meta_version)
+targets=(slip response stub_header partition_table console_version startup_verdict device_session
+         image_report meta_version)
 
 cmake --preset fuzz > /dev/null
 cmake --build --preset fuzz

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "sim/Startup.h"
+
 /// Settings of the simulated plotter controller: identity, fault knobs and delays.
 ///
 /// Every knob defaults to a healthy ESP32-S3 plotter that answers at once. Counts
@@ -53,6 +55,9 @@ struct Config {
     uint32_t securityFuses = 0;           ///< READ_REG 0x3FF5A018
     size_t flashSize = 16 * 1024 * 1024;  ///< bytes of simulated flash, erased (0xFF)
     std::string versionReport = "FluidNC v3.7.8 (sim)";  ///< "[VER:" report ":]"; may be empty
+    /// The version the firmware reports once it has been updated; absent: the flashed
+    /// application's own (from its descriptor), or `versionReport` without one.
+    std::optional<std::string> versionAfterUpdate;
 
     // ROM loader and stub.
     bool silent = false;      ///< the device answers nothing at all, in any mode
@@ -72,6 +77,9 @@ struct Config {
     /// line every 5 ms without end and answers nothing. A reset into the loader
     /// stops it; the restart after flashing starts it again.
     bool floodConsole = false;
+    /// How the chip starts at every restart into its firmware; the firmware that runs
+    /// before the first restart is healthy.
+    Startup startup = Startup::Healthy;
 
     // XModem receiver. Block ordinals count the file's blocks from 1.
     bool xmodemCrc = true;              ///< handshake 'C' (CRC-16); false: NAK (8-bit sum)
@@ -100,6 +108,9 @@ struct Config {
     std::optional<int> goneAfterFlashData;     ///< after this many FLASH_DATA were answered
     std::optional<int> goneAtMd5;              ///< on this SPI_FLASH_MD5 (from 0), unanswered
     std::optional<int> goneAfterXModemBlocks;  ///< after this many blocks were acknowledged
+    /// When the chip restarts into its firmware, as a USB serial port may vanish
+    /// while its chip resets.
+    bool goneAtRestart = false;
 
     /// After this many FLASH_DATA were answered the chip hangs with the line still
     /// there: it answers nothing and takes no more bytes, so over a pseudo-terminal

@@ -44,12 +44,17 @@ const std::string kStatusLine = "<Idle|MPos:0.000,0.000,0.000|FS:0,0>\r\n";
 
 }  // namespace
 
-void Console::restart(int64_t readyNs) {
+void Console::restart(int64_t restartNs, int64_t readyNs, bool byHost) {
     xmodem_.stop();
     sender_.stop();
     line_.clear();
     readyNs_ = readyNs;
     d_.mode = Mode::Console;
+    if (d_.config.goneAtRestart) {
+        d_.loseLine();
+        return;
+    }
+    boot_.start(restartNs, readyNs, byHost);
     startFlood();
 }
 
@@ -91,14 +96,16 @@ void Console::onLine(const std::string& line) {
     }
     d_.note(line);
     if (mono::nowNs() < readyNs_ || d_.config.silent || d_.config.silentConsole ||
-        d_.config.floodConsole) {
+        d_.config.floodConsole || !boot_.firmwareRuns()) {
         return;
     }
     if (line == "$I") {
         const std::string ok = "ok\r\n";
         reply((d_.config.okBeforeVersion ? ok : "") +
-              "[VER:" + d_.flashedVersion.value_or(d_.config.versionReport) + ":]\r\n" +
+              "[VER:" + d_.reportedVersion.value_or(d_.config.versionReport) + ":]\r\n" +
               "[OPT:V,15,128]\r\n" + ok);
+    } else if (line == "$SS") {
+        reply(boot_.messages() + "ok\r\n");
     } else if (line.starts_with(kReceiveCommand)) {
         const std::string name = line.substr(kReceiveCommand.size());
         reply("[MSG:INFO: XModem receive " + name + "]\r\n");
@@ -106,7 +113,8 @@ void Console::onLine(const std::string& line) {
     } else if (line.starts_with(kSendCommand)) {
         startSending(line.substr(kSendCommand.size()));
     } else if (line == "$Bye") {
-        restart(mono::nowNs() + int64_t{d_.config.bootMs} * 1'000'000);
+        const int64_t now = mono::nowNs();
+        restart(now, now + int64_t{d_.config.bootMs} * 1'000'000, false);
     } else {
         reply("error:3\r\n");
     }

@@ -4,24 +4,28 @@
 #include <cstdint>
 #include <string>
 
+#include "sim/Boot.h"
 #include "sim/Device.h"
 #include "sim/XModemReceiver.h"
 #include "sim/XModemSender.h"
 
 namespace sim::detail {
 
-/// The firmware's line console ("$I", "$Xmodem/Receive=<file>", "$Xmodem/Send=<file>",
-/// "$Bye") and the XModem receiver and sender it starts. Works on `Device` while the
-/// mode is Console, XModem or XModemSend.
+/// The firmware's line console ("$I", "$SS", "$Xmodem/Receive=<file>",
+/// "$Xmodem/Send=<file>", "$Bye") and the XModem receiver and sender it starts, and
+/// what the chip prints when it restarts into the firmware. Works on `Device` while
+/// the mode is Console, XModem or XModemSend.
 class Console {
   public:
-    explicit Console(Device& device) : d_(device), xmodem_(device), sender_(device) {
+    explicit Console(Device& device) : d_(device), xmodem_(device), sender_(device), boot_(device) {
         startFlood();
     }
 
-    /// The firmware starts afresh; input that arrives before `readyNs` finds it
-    /// still booting and goes unanswered.
-    void restart(int64_t readyNs);
+    /// The chip restarted into its firmware at `restartNs`, reset by the host
+    /// (`byHost`) or by the firmware itself; input that arrives before `readyNs` finds
+    /// it still booting and goes unanswered, and a firmware that does not come up
+    /// answers nothing.
+    void restart(int64_t restartNs, int64_t readyNs, bool byHost);
 
     /// Takes host bytes; returns how many it used. Stops early at an END byte
     /// (the host reset the chip into its loader) or when the mode changes.
@@ -37,6 +41,7 @@ class Console {
     Device& d_;
     XModemReceiver xmodem_;
     XModemSender sender_;
+    Boot boot_;
     std::string line_;
     int64_t readyNs_ = 0;
 };

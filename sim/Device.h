@@ -29,7 +29,10 @@ struct Device {
     bool flashEnded = false;  ///< FLASH_END seen since the last reset into ROM
     bool appFlashed = false;  ///< ... and a FLASH_BEGIN at the application's offset before it
     int64_t flashEndNs = 0;
-    std::optional<std::string> flashedVersion;  ///< from the running application's descriptor
+    int64_t restartNs = 0;  ///< when the chip runs its firmware after the last FLASH_END
+    /// What "$I" reports when not `Config::versionReport`: the updated application's
+    /// version, or another one for `Startup::OtherVersion`.
+    std::optional<std::string> reportedVersion;
     bool hung = false;  ///< the chip hangs: it takes no more bytes from the line
 
     void note(std::string entry) { transcript.push_back(std::move(entry)); }

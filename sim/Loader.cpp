@@ -103,6 +103,7 @@ void Loader::handle(const std::vector<uint8_t>& packet) {
     if (packet.size() < 8 + size) {
         return;
     }
+    ++frames_;
     const Request request{packet[1], le32(&packet[4]), packet.data() + 8, size};
     // A SYNC is answered by the ROM the host just reset into, MEM_END by the ROM
     // that then starts the stub: the status width is the answering program's.

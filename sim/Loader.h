@@ -26,6 +26,9 @@ class Loader {
 
     /// Takes host bytes; returns how many it used. It stops early when the mode
     /// changes (console text after FLASH_END, a reboot, the line going away).
+    /// A host that stays quiet for 100 ms after FLASH_END has reset the chip (the
+    /// modem-line pulse does not cross a pseudo-terminal): a scheduled output then
+    /// changes the mode to Console.
     size_t consume(const uint8_t* data, size_t len);
 
   private:
@@ -82,6 +85,7 @@ class Loader {
     Result flashMd5(const Request& r);
     Result readFlash(const Request& r);
     void scheduleReadData(uint32_t address, uint32_t size, uint32_t packetSize);
+    void scheduleRestart();
 
     Device& d_;
     FrameReader reader_;
@@ -89,6 +93,7 @@ class Loader {
     int responsesSent_ = 0;
     std::map<uint8_t, int> responsesByOp_;
     int flashDataSeen_ = 0;
+    uint64_t frames_ = 0;
     int md5Seen_ = 0;
     std::optional<MemTransfer> mem_;
     std::optional<FlashWrite> write_;

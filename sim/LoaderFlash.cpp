@@ -11,6 +11,8 @@ namespace {
 
 constexpr uint32_t kSectorSize = 4096;
 constexpr uint32_t kAppOffset = 0x10000;
+// The host's hard reset holds RTS this long before it lets the chip run.
+constexpr int64_t kHardResetNs = 100'000'000;
 
 bool inFlash(const Device& d, uint32_t address, uint32_t size) {
     return uint64_t{address} + size <= d.flash.size();
@@ -112,10 +114,25 @@ Loader::Result Loader::flashEnd(const Request& r) {
     d_.flashEnded = true;
     d_.appFlashed = appBegun_;
     d_.flashEndNs = mono::nowNs();
-    if (r.size >= 4 && r.word(0) == 0) {
+    // 0 asks the loader to reboot at once; otherwise the host resets the chip itself.
+    const bool reboot = r.size >= 4 && r.word(0) == 0;
+    d_.restartNs = d_.flashEndNs + (reboot ? 0 : kHardResetNs);
+    if (reboot) {
         d_.mode = Mode::Console;
+    } else {
+        scheduleRestart();
     }
     return answer();
+}
+
+void Loader::scheduleRestart() {
+    d_.outbox.scheduleAt(d_.restartNs, [this, frame = frames_] {
+        const bool inLoader = d_.mode == Mode::RomLoader || d_.mode == Mode::Stub;
+        if (frames_ == frame && d_.flashEnded && inLoader) {
+            d_.mode = Mode::Console;
+        }
+        return std::vector<uint8_t>{};
+    });
 }
 
 Loader::Result Loader::flashMd5(const Request& r) {

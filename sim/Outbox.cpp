@@ -15,8 +15,11 @@ void Outbox::send(std::vector<uint8_t> bytes, int delayMs) {
 }
 
 void Outbox::schedule(int delayMs, Producer producer) {
-    const int64_t due = mono::nowNs() + int64_t{delayMs > 0 ? delayMs : 0} * 1'000'000;
-    pending_.emplace(due, std::move(producer));
+    scheduleAt(mono::nowNs() + int64_t{delayMs > 0 ? delayMs : 0} * 1'000'000, std::move(producer));
+}
+
+void Outbox::scheduleAt(int64_t dueNs, Producer producer) {
+    pending_.emplace(dueNs, std::move(producer));
 }
 
 std::vector<uint8_t> Outbox::takeReply() {

@@ -24,6 +24,9 @@ class Outbox {
     /// order in which they were scheduled.
     void schedule(int delayMs, Producer producer);
 
+    /// Runs `producer` at `dueNs` on the monotonic clock (at once when that has passed).
+    void scheduleAt(int64_t dueNs, Producer producer);
+
     /// Removes and returns the reply collected so far.
     std::vector<uint8_t> takeReply();
 

@@ -1,5 +1,6 @@
 #include "sim/Plotter.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "serial/Clock.h"
@@ -59,10 +60,24 @@ void Plotter::Impl::enter(Mode from, Mode to) {
     } else if (isLoaderMode(from) && to == Mode::Console) {
         device.outbox.cancelScheduled();
         if (device.appFlashed) {
-            device.flashedVersion = appVersion(device.flash);
+            device.reportedVersion = device.config.versionAfterUpdate
+                                         ? device.config.versionAfterUpdate
+                                         : appVersion(device.flash);
         }
-        console.restart(device.flashEndNs + int64_t{device.config.bootMs} * 1'000'000);
+        // The chip ran from the host's reset on, however late a read notices it.
+        const int64_t restartNs = std::min(mono::nowNs(), device.restartNs);
+        console.restart(restartNs, device.flashEndNs + int64_t{device.config.bootMs} * 1'000'000,
+                        true);
     }
+}
+
+std::vector<uint8_t> Plotter::Impl::takeDue(int64_t nowNs) {
+    const Mode before = device.mode;
+    std::vector<uint8_t> bytes = device.outbox.takeDue(nowNs);
+    if (device.mode != before) {
+        enter(before, device.mode);
+    }
+    return bytes;
 }
 
 std::vector<uint8_t> Plotter::Impl::onIdle(int timeoutMs) {
@@ -77,7 +92,7 @@ std::vector<uint8_t> Plotter::Impl::onIdle(int timeoutMs) {
         if (*due > now) {
             mono::sleepMs(ceilMs(*due - now));
         }
-        std::vector<uint8_t> bytes = device.outbox.takeDue(mono::nowNs());
+        std::vector<uint8_t> bytes = takeDue(mono::nowNs());
         if (!bytes.empty()) {
             return bytes;
         }
@@ -102,7 +117,7 @@ std::optional<int64_t> Plotter::nextOutputNs() const {
 }
 
 std::vector<uint8_t> Plotter::takeDueOutput(int64_t nowNs) {
-    return impl_->device.outbox.takeDue(nowNs);
+    return impl_->takeDue(nowNs);
 }
 
 Plotter::Mode Plotter::mode() const {
@@ -142,7 +157,7 @@ const std::vector<std::string>& Plotter::transcript() const {
 }
 
 std::string Plotter::versionReport() const {
-    return impl_->device.flashedVersion.value_or(impl_->device.config.versionReport);
+    return impl_->device.reportedVersion.value_or(impl_->device.config.versionReport);
 }
 
 Config& Plotter::config() {

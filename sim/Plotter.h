@@ -18,8 +18,9 @@ namespace sim {
 ///
 /// It switches mode by what arrives, since a pseudo-terminal carries no modem
 /// lines: a SLIP frame in console mode means the host reset the chip into its ROM
-/// loader; any SYNC means a fresh reset into ROM; console text after FLASH_END
-/// means the chip restarted into its firmware.
+/// loader; any SYNC means a fresh reset into ROM; console text after FLASH_END, or
+/// no loader frame for 100 ms after it (the host's hard reset), means the chip
+/// restarted into its firmware, which then starts as `Config::startup` says.
 ///
 /// Output that must reach the host separately from a command's reply (the stub's
 /// greeting, extra SYNC replies, READ_FLASH data, XModem handshakes, delayed
@@ -73,8 +74,9 @@ class Plotter {
     /// XModem block (for example "FLASH_DATA 3", "$I", "XMODEM 1"); never data.
     const std::vector<std::string>& transcript() const;
 
-    /// The version report "$I" gives now: the flashed application's own version
-    /// when its descriptor holds one, otherwise `Config::versionReport`.
+    /// The version report "$I" gives now: after an update `Config::versionAfterUpdate`
+    /// or the flashed application's own version when its descriptor holds one,
+    /// another one for `Startup::OtherVersion`, otherwise `Config::versionReport`.
     std::string versionReport() const;
 
     /// Live settings; changes apply to what arrives next.

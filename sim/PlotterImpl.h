@@ -14,6 +14,8 @@ struct Plotter::Impl {
 
     std::vector<uint8_t> onHostBytes(const uint8_t* data, size_t len);
     std::vector<uint8_t> onIdle(int timeoutMs);
+    /// Scheduled output due at `nowNs`; performs a mode change that it brought.
+    std::vector<uint8_t> takeDue(int64_t nowNs);
     void enter(Mode from, Mode to);
 
     detail::Device device;

@@ -18,6 +18,10 @@ namespace sim {
 
 namespace {
 
+// A chip's USB serial unit drops what it prints while the host reads nothing; a
+// console that never stops printing must not fill the simulator's memory instead.
+constexpr size_t kMaxUnreadOutput = 64 * 1024;
+
 [[noreturn]] void throwErrno(const char* what) {
     throw std::system_error(errno, std::generic_category(), what);
 }
@@ -200,6 +204,9 @@ void PtyPlotter::Impl::writeScheduled() {
     if (!bytes.empty()) {
         // Keeps frames that fell due together apart, so each reaches its own read.
         scheduledNotBeforeNs = now + int64_t{gapMs} * 1'000'000;
+    }
+    if (output.size() - outputSent > kMaxUnreadOutput) {
+        bytes.clear();
     }
     takeOutput(std::move(bytes), gone);
 }

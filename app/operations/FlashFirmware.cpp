@@ -80,7 +80,9 @@ Outcome FlashFirmware::run(const OperationSink& sink) {
 }
 
 double FlashFirmware::writtenShare(float fraction) {
-    return std::clamp((static_cast<double>(fraction) - 0.12) / 0.73, 0.0, 1.0);
+    return std::clamp(
+        (static_cast<double>(fraction) - ESP_PROGRESS_REGIONS_START) / ESP_PROGRESS_REGIONS_SPAN,
+        0.0, 1.0);
 }
 
 std::optional<QByteArray> FlashFirmware::loadFirmware(const OperationSink& sink,

@@ -2,6 +2,7 @@
 #include "esp/EspLoader.h"
 #include "fluidnc/Console.h"
 #include "fluidnc/Download.h"
+#include "fluidnc/Transcript.h"
 #include "fluidnc/XModem.h"
 #include "image/Partitions.h"
 #include "serial/Clock.h"
@@ -13,6 +14,10 @@ constexpr int kSettleMs = 500;
 constexpr int kVersionQueryMs = 2000;
 constexpr int kHandshakeMs = 30000;
 constexpr int kAckAfterUploadMs = 5000;
+// Long enough to hear two turns of a chip that restarts over and over; a port that
+// came back after its chip restarted has missed the start, which "$SS" replays.
+constexpr int kStartupListenMs = 1500;
+constexpr int kStartupReplayMs = 1500;
 constexpr uint32_t kPartitionTableOffset = 0x8000;
 constexpr size_t kPartitionTableSize = 0xC00;
 
@@ -58,6 +63,18 @@ std::optional<std::vector<uint8_t>> runDownloadFileJob(SerialPort& port, const s
 std::optional<std::string> runQueryVersionJob(SerialPort& port) {
     mono::sleepMs(kSettleMs);
     return fluidnc::queryVersion(port, kVersionQueryMs);
+}
+
+StartupRecord runCheckStartupJob(SerialPort& port) {
+    fluidnc::Transcript transcript;
+    fluidnc::listen(port, kStartupListenMs, transcript);
+    fluidnc::replayStartup(port, kStartupReplayMs, transcript);
+    StartupRecord record;
+    record.version = fluidnc::queryVersion(port, kVersionQueryMs, &transcript);
+    record.listened = true;
+    record.portLost = port.hungUp();
+    record.transcript = transcript.bytes();
+    return record;
 }
 
 int runProbePartitionTableJob(SerialPort& port, const uint8_t* stub, size_t stubLen) {

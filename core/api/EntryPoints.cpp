@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <string>
 
+#include "api/CText.h"
 #include "api/Jobs.h"
 #include "api/PortList.h"
 #include "api/esp_flasher.h"
@@ -16,14 +17,6 @@ struct Buffer {
     const uint8_t* data;
     size_t length;
 };
-
-char* dupString(const std::string& text) {
-    auto* copy = static_cast<char*>(std::malloc(text.size() + 1));
-    if (copy != nullptr) {
-        std::memcpy(copy, text.c_str(), text.size() + 1);
-    }
-    return copy;
-}
 
 void logLine(esp_log_cb log, const std::string& line) {
     if (log != nullptr) {
@@ -98,9 +91,31 @@ int downloadFailure(fluidnc::DownloadFailure::Reason reason) {
     return ESP_DOWNLOAD_OK;
 }
 
+void fillReport(esp_startup_report* report, const esp::StartupRecord& record,
+                const char* expectedVersion) {
+    if (report != nullptr) {
+        esp::fillStartupReport(*report, record, expectedVersion);
+    }
+}
+
 }  // namespace
 
 extern "C" {
+
+void esp_startup_report_free(esp_startup_report* report) {
+    if (report == nullptr) {
+        return;
+    }
+    std::free(report->version);
+    report->version = nullptr;
+    for (char*& line : report->evidence) {
+        std::free(line);
+        line = nullptr;
+    }
+    std::free(report->transcript);
+    report->transcript = nullptr;
+    report->transcriptLen = 0;
+}
 
 esp_error_t esp_flash_firmware(const char* port, const uint8_t* firmware, size_t firmwareLen,
                                const uint8_t* bootloader, size_t bootloaderLen,
@@ -109,24 +124,54 @@ esp_error_t esp_flash_firmware(const char* port, const uint8_t* firmware, size_t
                                size_t stubLen, int fullFlash, int eraseAll,
                                const char* expectedVersion, esp_progress_cb progress,
                                esp_log_cb log) {
-    if (refuseNullBuffers({{"firmware", firmware, firmwareLen},
-                           {"bootloader", bootloader, bootloaderLen},
-                           {"partitions", partitions, partitionsLen}},
-                          log)) {
-        return esp::result::WriteFailed;
-    }
-    if (refuseNullBuffers({{"stub", stub, stubLen}}, log)) {
-        return esp::result::StubFailed;
-    }
-    logLine(log, std::string("Opening port: ") + (port != nullptr ? port : ""));
+    return esp_flash_firmware_checked(port, firmware, firmwareLen, bootloader, bootloaderLen,
+                                      partitions, partitionsLen, bootApp, bootAppLen, stub, stubLen,
+                                      fullFlash, eraseAll, expectedVersion, progress, log, nullptr);
+}
+
+esp_error_t esp_flash_firmware_checked(const char* port, const uint8_t* firmware,
+                                       size_t firmwareLen, const uint8_t* bootloader,
+                                       size_t bootloaderLen, const uint8_t* partitions,
+                                       size_t partitionsLen, const uint8_t* bootApp,
+                                       size_t bootAppLen, const uint8_t* stub, size_t stubLen,
+                                       int fullFlash, int eraseAll, const char* expectedVersion,
+                                       esp_progress_cb progress, esp_log_cb log,
+                                       esp_startup_report* report) {
+    esp::StartupRecord startup;
+    const esp_error_t code = [&] {
+        if (refuseNullBuffers({{"firmware", firmware, firmwareLen},
+                               {"bootloader", bootloader, bootloaderLen},
+                               {"partitions", partitions, partitionsLen}},
+                              log)) {
+            return esp::result::WriteFailed;
+        }
+        if (refuseNullBuffers({{"stub", stub, stubLen}}, log)) {
+            return esp::result::StubFailed;
+        }
+        logLine(log, std::string("Opening port: ") + (port != nullptr ? port : ""));
+        SerialPort serial;
+        if (!openPort(serial, port, log, true)) {
+            return esp::result::PortOpenFailed;
+        }
+        const esp::FlashRequest request{
+            firmware,       firmwareLen,   bootloader,     bootloaderLen, partitions,
+            partitionsLen,  bootApp,       bootAppLen,     stub,          stubLen,
+            fullFlash != 0, eraseAll != 0, expectedVersion};
+        return esp::runFlashJob(serial, request, progress, log, report ? &startup : nullptr);
+    }();
+    fillReport(report, startup, expectedVersion);
+    return code;
+}
+
+esp_error_t esp_check_startup(const char* port, const char* expectedVersion,
+                              esp_startup_report* report, esp_log_cb log) {
     SerialPort serial;
     if (!openPort(serial, port, log, true)) {
+        fillReport(report, {}, expectedVersion);
         return esp::result::PortOpenFailed;
     }
-    const esp::FlashRequest request{
-        firmware,   firmwareLen, bootloader, bootloaderLen,  partitions,    partitionsLen,  bootApp,
-        bootAppLen, stub,        stubLen,    fullFlash != 0, eraseAll != 0, expectedVersion};
-    return esp::runFlashJob(serial, request, progress, log);
+    fillReport(report, esp::runCheckStartupJob(serial), expectedVersion);
+    return esp::result::Success;
 }
 
 esp_error_t esp_upload_config(const char* port, const uint8_t* data, size_t length,
@@ -147,12 +192,12 @@ char* esp_query_version(const char* port) {
         return nullptr;
     }
     const auto version = esp::runQueryVersionJob(serial);
-    return version ? dupString(*version) : nullptr;
+    return version ? esp::dupString(*version) : nullptr;
 }
 
 char* esp_detect_device(uint16_t vendorId, uint16_t productId) {
     const auto ports = listESPPorts(vendorId, productId);
-    return ports.empty() ? nullptr : dupString(ports.front().calloutPath);
+    return ports.empty() ? nullptr : esp::dupString(ports.front().calloutPath);
 }
 
 size_t esp_list_devices(uint16_t vendorId, uint16_t productId, esp_port_info* ports,

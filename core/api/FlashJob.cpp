@@ -5,6 +5,7 @@
 #include "api/Jobs.h"
 #include "esp/EspLoader.h"
 #include "fluidnc/Console.h"
+#include "fluidnc/Transcript.h"
 #include "serial/Clock.h"
 
 namespace esp {
@@ -15,6 +16,7 @@ constexpr int kBootloaderEntries = 3;
 constexpr int kSyncAttempts = 10;
 constexpr int kVersionQueries = 3;
 constexpr int kVersionQueryMs = 2000;
+constexpr int kBootWaitMs = 2000;
 
 struct FlashEntry {
     uint32_t address;
@@ -119,26 +121,37 @@ esp_error_t writePlan(EspLoader& loader, const std::vector<FlashEntry>& plan,
 }
 
 // The chip has just been reset into the new firmware, which needs about two
-// seconds before its console answers.
-void confirmVersion(SerialPort& port, const std::string& expected, const JobLog& log) {
+// seconds before its console answers. What the chip prints meanwhile tells how it
+// started, so with a record that wait reads instead of sleeping.
+void confirmVersion(SerialPort& port, const std::string& expected, const JobLog& log,
+                    StartupRecord* startup) {
     log("Verifying firmware version...");
-    mono::sleepMs(2000);
-    bool confirmed = false;
-    for (int attempt = 1; attempt <= kVersionQueries; ++attempt) {
-        if (const auto version = fluidnc::queryVersion(port, kVersionQueryMs)) {
-            log("Device running firmware " + *version);
-            confirmed = version->find(expected) != std::string::npos;
-            if (!confirmed) {
-                log("WARNING: Expected firmware " + expected + " but device reports " + *version);
-            }
-            break;
-        }
-        if (attempt < kVersionQueries) {
+    std::optional<fluidnc::Transcript> transcript;
+    if (startup != nullptr) {
+        fluidnc::listen(port, kBootWaitMs, transcript.emplace());
+    } else {
+        mono::sleepMs(kBootWaitMs);
+    }
+    fluidnc::Transcript* const keep = transcript ? &*transcript : nullptr;
+    std::optional<std::string> version;
+    for (int attempt = 1; attempt <= kVersionQueries && !version; ++attempt) {
+        if (attempt > 1) {
             mono::sleepMs(1000);
+        }
+        version = fluidnc::queryVersion(port, kVersionQueryMs, keep);
+    }
+    const bool confirmed = version && version->find(expected) != std::string::npos;
+    if (version) {
+        log("Device running firmware " + *version);
+        if (!confirmed) {
+            log("WARNING: Expected firmware " + expected + " but device reports " + *version);
         }
     }
     if (!confirmed) {
         log("Could not confirm firmware version after update.");
+    }
+    if (startup != nullptr) {
+        *startup = {true, port.hungUp(), version, transcript->bytes()};
     }
 }
 
@@ -183,7 +196,7 @@ esp_error_t prepareFlash(EspLoader& loader, const FlashRequest& request, esp_pro
 }  // namespace
 
 esp_error_t runFlashJob(SerialPort& port, const FlashRequest& request, esp_progress_cb progress,
-                        esp_log_cb log) {
+                        esp_log_cb log, StartupRecord* startup) {
     const JobLog jobLog(log);
     // Opening the node raises DTR and RTS, which the chip's USB serial unit may
     // take as a reset; let it settle before the first modem-line change.
@@ -200,7 +213,7 @@ esp_error_t runFlashJob(SerialPort& port, const FlashRequest& request, esp_progr
     loader.flashEnd();
     loader.hardReset();
     if (request.expectedVersion != nullptr && request.expectedVersion[0] != '\0') {
-        confirmVersion(port, request.expectedVersion, jobLog);
+        confirmVersion(port, request.expectedVersion, jobLog, startup);
     }
     return result::Success;
 }

@@ -45,9 +45,31 @@ struct FlashRequest {
     const char* expectedVersion = nullptr;
 };
 
+/// What a job heard from the machine after its restart.
+struct StartupRecord {
+    bool listened = false;               ///< the machine was listened to after its restart
+    bool portLost = false;               ///< the line hung up meanwhile
+    std::optional<std::string> version;  ///< the version it answered
+    std::vector<uint8_t> transcript;     ///< what it printed, the newest 64 KiB at most
+};
+
 /// The flashing job after the port has been opened (from the 500 ms settle on).
+/// With `startup`, the version confirmation keeps what the machine prints into it
+/// (the same bytes sent, lines logged, waits and result); it is left as it was when
+/// the job does not confirm.
 esp_error_t runFlashJob(SerialPort& port, const FlashRequest& request, esp_progress_cb progress,
-                        esp_log_cb log);
+                        esp_log_cb log, StartupRecord* startup = nullptr);
+
+/// The start-up check after the port has been opened: listens 1500 ms, asks for a
+/// replay of the start-up messages ("$SS", up to 1500 ms), then for the version
+/// ("$I", 2000 ms after a bounded drain). Within 7.5 s.
+StartupRecord runCheckStartupJob(SerialPort& port);
+
+/// Fills every field of `report` from `record`, judging the start-up against
+/// `expectedVersion` (null or empty: any version). Texts and the transcript become
+/// malloc'd copies for the C caller; one that cannot be allocated stays null.
+void fillStartupReport(esp_startup_report& report, const StartupRecord& record,
+                       const char* expectedVersion);
 
 /// The configuration upload after the port has been opened; 0 or 8.
 esp_error_t runUploadConfigJob(SerialPort& port, const uint8_t* data, size_t length,

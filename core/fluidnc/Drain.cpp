@@ -7,7 +7,7 @@
 
 namespace fluidnc {
 
-void drainInput(SerialPort& port, size_t chunk, int sliceMs) {
+void drainInput(SerialPort& port, size_t chunk, int sliceMs, Transcript* transcript) {
     uint8_t scratch[256];
     const size_t want = std::min(chunk, sizeof scratch);
     const mono::Deadline limit(kDrainLimitMs);
@@ -16,6 +16,9 @@ void drainInput(SerialPort& port, size_t chunk, int sliceMs) {
         const size_t n = port.read(scratch, want, sliceMs);
         if (n == 0) {
             return;
+        }
+        if (transcript != nullptr) {
+            transcript->append(scratch, n);
         }
         drained += n;
     }

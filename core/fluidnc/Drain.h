@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "fluidnc/Transcript.h"
 #include "serial/SerialPort.h"
 
 namespace fluidnc {
@@ -14,7 +15,8 @@ inline constexpr size_t kDrainLimitBytes = 64 * 1024;
 
 /// Reads and discards input in reads of up to `chunk` bytes (at most 256), each
 /// waiting `sliceMs`, until one delivers nothing or the drain bound is reached.
-/// Blocks the calling thread.
-void drainInput(SerialPort& port, size_t chunk, int sliceMs);
+/// What it reads also goes to `transcript` when one is given (borrowed for the
+/// call). Blocks the calling thread.
+void drainInput(SerialPort& port, size_t chunk, int sliceMs, Transcript* transcript = nullptr);
 
 }  // namespace fluidnc

@@ -19,6 +19,7 @@ class LoopbackImpl final : public SerialPort::Impl {
     bool setDTR(bool level) override;
     bool setRTS(bool level) override;
     void flush() override;
+    bool hungUp() const override { return false; }
 
   private:
     void enqueue(const std::vector<uint8_t>& bytes);

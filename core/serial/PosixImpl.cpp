@@ -121,6 +121,7 @@ bool PosixImpl::write(const uint8_t* data, size_t len) {
             continue;
         }
         if (n < 0 && errno != EAGAIN) {
+            hungUp_ = hungUp_ || errno == EIO;
             return false;
         }
         const int64_t remaining = stall.remainingNs();
@@ -154,6 +155,7 @@ size_t PosixImpl::read(uint8_t* buf, size_t len, int timeoutMs) {
         // A hung-up line is readable at once and for ever; waiting out the time-out
         // keeps the callers' loops from spinning until their deadlines.
         if ((readable.revents & POLLHUP) != 0 || (n < 0 && errno == EIO)) {
+            hungUp_ = true;
             mono::sleepMs(ceilMs(deadline.remainingNs()));
             return 0;
         }

@@ -16,7 +16,8 @@ constexpr int withModemLine(int bits, int lineBit, bool level) {
 ///
 /// While open, the terminal is exclusive (TIOCEXCL): no other unprivileged program
 /// can open it until `close`, which clears the flag again. A write that makes no
-/// progress for 10 s fails; a read on a hung-up line waits out its time-out.
+/// progress for 10 s fails; a read on a hung-up line waits out its time-out and
+/// notes the hang-up.
 class PosixImpl final : public SerialPort::Impl {
   public:
     PosixImpl() = default;
@@ -35,10 +36,12 @@ class PosixImpl final : public SerialPort::Impl {
     bool setDTR(bool level) override;
     bool setRTS(bool level) override;
     void flush() override;
+    bool hungUp() const override { return hungUp_; }
 
   private:
     bool configure();
     bool setModemBit(int bit, bool level);
 
     int fd_ = -1;
+    bool hungUp_ = false;
 };

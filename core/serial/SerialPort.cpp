@@ -60,3 +60,7 @@ void SerialPort::flush() {
         impl_->flush();
     }
 }
+
+bool SerialPort::hungUp() const {
+    return impl_ && impl_->hungUp();
+}

@@ -42,6 +42,7 @@ class SerialPort {
         virtual bool setDTR(bool level) = 0;
         virtual bool setRTS(bool level) = 0;
         virtual void flush() = 0;
+        virtual bool hungUp() const = 0;
     };
 
     SerialPort();
@@ -81,6 +82,11 @@ class SerialPort {
 
     /// Discards received bytes not yet read.
     void flush();
+
+    /// True once a read or write on this device found the line hung up (the device
+    /// went away, as a USB serial port may while its chip restarts); it stays true
+    /// until the handle opens again. Always false for a loopback.
+    bool hungUp() const;
 
   private:
     std::unique_ptr<Impl> impl_;

@@ -97,10 +97,11 @@ class WatchedPlotter {
     sim::Plotter plotter;
     std::vector<Write> writes;
     std::vector<std::pair<SerialPort::Line, bool>> lineChanges;
-    int64_t firstActionMs = -1;     ///< the first write or line change
-    Bytes afterVersion;             ///< console output that follows the answer to "$I"
-    bool answerVersion = true;      ///< false: "$I" goes unanswered
-    bool quietAfterUpload = false;  ///< no "ok" or other output after the upload's EOT
+    int64_t firstActionMs = -1;        ///< the first write or line change
+    std::vector<int64_t> idleReadsNs;  ///< `mono::nowNs()` at each read of an empty port
+    Bytes afterVersion;                ///< console output that follows the answer to "$I"
+    bool answerVersion = true;         ///< false: "$I" goes unanswered
+    bool quietAfterUpload = false;     ///< no "ok" or other output after the upload's EOT
 
   private:
     void noteAction() {
@@ -125,6 +126,7 @@ class WatchedPlotter {
     }
 
     Bytes onIdle(int timeoutMs) {
+        idleReadsNs.push_back(mono::nowNs());
         Bytes out = plotter.onIdle(timeoutMs);
         return quietAfterUpload && uploaded_ ? Bytes{} : out;
     }

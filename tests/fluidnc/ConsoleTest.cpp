@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "fluidnc/Console.h"
+#include "fluidnc/Transcript.h"
 #include "serial/Clock.h"
 #include "tests/support/VirtualTime.h"
 
@@ -100,6 +101,38 @@ TEST(WaitForOk, EndsOnALineContainingOkOrAtTheDeadline) {
     console.pending = {"ok\n"};
     fluidnc::waitForOk(port, 0);
     EXPECT_EQ(console.pending.size(), 1u) << "no time, no read";
+}
+
+// The start-up transcript: what the drain swallows, the lines the query skips and its
+// answer; the replay of the start-up messages up to the console's own "ok"; a listen
+// that sends nothing and ends at its deadline.
+TEST(ConsoleTranscript, KeepsEveryByteTheConsoleReads) {
+    FakeConsole console;
+    SerialPort port;
+    console.attach(port);
+    const auto kept = [](const fluidnc::Transcript& t) {
+        const auto bytes = t.bytes();
+        return std::string(bytes.begin(), bytes.end());
+    };
+    fluidnc::Transcript transcript;
+    console.pending = {"rst:0x15\r\n", "boot"};
+    console.answer = {"[MSG:INFO: x]\n", "[VER:1.0]\n", "ok\n"};
+    EXPECT_EQ(fluidnc::queryVersion(port, 2000, &transcript), "1.0");
+    EXPECT_EQ(kept(transcript), "rst:0x15\r\nboot[MSG:INFO: x]\n[VER:1.0]\n");
+
+    fluidnc::Transcript replay;
+    console.pending = {"[MSG:INFO: lookup ok]\r\n", "[MSG:ERR: x]\nok\r\n", "later"};
+    fluidnc::replayStartup(port, 1500, replay);
+    EXPECT_EQ(kept(replay), "[MSG:INFO: lookup ok]\r\n[MSG:ERR: x]\nok\r\n");
+    EXPECT_EQ(console.written, "$I\n$SS\n");
+
+    fluidnc::Transcript heard;
+    console.written.clear();
+    const int64_t start = mono::nowNs();
+    fluidnc::listen(port, 2000, heard);
+    EXPECT_NEAR(virtualMsSince(start), 2000, 1);
+    EXPECT_EQ(kept(heard), "later");
+    EXPECT_EQ(console.written, "");
 }
 
 }  // namespace

@@ -212,15 +212,18 @@ TEST_F(PosixPort, SignalsDuringAStalledWriteDoNotEndIt) {
 }
 
 // Closing the master hangs the slave up, as pulling the cable does to a USB port:
-// from then on the line reports itself readable at once and for ever.
+// from then on the line reports itself readable at once and for ever, and the port
+// tells that it hung up.
 TEST_F(PosixPort, ReadOnAHungUpLineReturnsNothingOnlyAtItsTimeOut) {
     std::thread unplug([this] {
         std::this_thread::sleep_for(200ms);
         ::close(std::exchange(pty.master, -1));
     });
+    EXPECT_FALSE(port.hungUp());
     auto start = Clock::now();
     EXPECT_EQ(port.read(buf, sizeof buf, 1000), 0u);
     EXPECT_GE(msSince(start), 990) << "hung up during the wait";
+    EXPECT_TRUE(port.hungUp()) << "noted by the read";
     unplug.join();
 
     start = Clock::now();
