@@ -93,7 +93,8 @@ struct Config {
     int xmodemIdleTimeoutMs = 10000;    ///< a transfer silent this long is abandoned
 
     // XModem sender ("$Xmodem/Send=<file>"). Block ordinals count the file's blocks from 1.
-    /// config.yaml before any upload; absent: a built-in default.
+    /// config.yaml before any upload; absent: a built-in default. A whole-chip erase
+    /// empties the file system, this file included.
     std::optional<std::string> machineConfig;
     bool xmodemSendSilent = false;      ///< the send command is taken but never answered
     bool xmodemSendCrc = true;          ///< false: 'C' is ignored, only NAK starts (8-bit sum)

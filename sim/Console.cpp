@@ -3,12 +3,12 @@
 #include <string_view>
 
 #include "serial/Clock.h"
+#include "sim/XModemWire.h"
 
 namespace sim::detail {
 
 namespace {
 
-constexpr uint8_t kSlipEnd = 0xC0;
 constexpr size_t kMaxLine = 256;
 const std::string kReceiveCommand = "$Xmodem/Receive=";
 const std::string kSendCommand = "$Xmodem/Send=";
@@ -71,12 +71,17 @@ size_t Console::consume(const uint8_t* data, size_t len) {
 size_t Console::consumeLines(const uint8_t* data, size_t len) {
     for (size_t i = 0; i < len; ++i) {
         const uint8_t b = data[i];
-        if (b == kSlipEnd) {
+        if (b == xmodem::kSlipEnd) {
             line_.clear();
             d_.mode = Mode::RomLoader;
             return i;
         }
-        if (b == '\n') {
+        // Ctrl+X resets the console, which drops the line typed so far; every other
+        // byte, an XModem request included, is part of the line until its end.
+        if (b == xmodem::kCan) {
+            d_.note("CAN");
+            line_.clear();
+        } else if (b == '\n') {
             const std::string line = std::move(line_);
             line_.clear();
             onLine(line);
@@ -125,7 +130,8 @@ void Console::startSending(const std::string& name) {
         return;
     }
     const auto stored = d_.files.find(name);
-    if (stored == d_.files.end() && name != "config.yaml") {
+    const bool factoryConfig = name == "config.yaml" && !d_.fileSystemErased;
+    if (stored == d_.files.end() && !factoryConfig) {
         reply("error:3\r\n");
         return;
     }

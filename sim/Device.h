@@ -25,6 +25,9 @@ struct Device {
     std::vector<uint8_t> flash;
     std::map<uint32_t, std::vector<uint8_t>> ram;
     std::map<std::string, std::vector<uint8_t>> files;
+    /// The whole chip was erased: the file system is empty, without even the
+    /// config.yaml the plotter came with.
+    bool fileSystemErased = false;
 
     bool flashEnded = false;  ///< FLASH_END seen since the last reset into ROM
     bool appFlashed = false;  ///< ... and a FLASH_BEGIN at the application's offset before it

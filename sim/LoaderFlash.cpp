@@ -44,6 +44,8 @@ Loader::Result Loader::eraseChip(const Request&) {
         return failure(kErrInvalid);
     }
     std::fill(d_.flash.begin(), d_.flash.end(), 0xFF);
+    d_.files.clear();
+    d_.fileSystemErased = true;
     return answer(0, {}, d_.config.eraseDelayMs);
 }
 

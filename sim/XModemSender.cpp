@@ -51,6 +51,11 @@ size_t XModemSender::consume(const uint8_t* data, size_t len) {
 }
 
 void XModemSender::onByte(uint8_t byte) {
+    if (byte == kCan) {
+        d_.note("CAN");
+        stop();
+        return;
+    }
     if (!requested_) {
         // The request chooses the check for the whole transfer; a sender without
         // CRC support ignores 'C' and waits for the receiver to fall back to NAK.
@@ -75,9 +80,6 @@ void XModemSender::onByte(uint8_t byte) {
         sendCurrent();
     } else if (byte == kNak) {
         sendCurrent();
-    } else if (byte == kCan) {
-        d_.note("CAN");
-        stop();
     }
 }
 

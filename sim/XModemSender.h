@@ -11,8 +11,8 @@ namespace sim::detail {
 /// The console's XModem sender: waits for the host's request ('C' for CRC-16,
 /// NAK for the 8-bit sum), sends the file in blocks of `Config::xmodemSendBlockSize`
 /// with the last one padded with 0x1A, sends a block again on NAK, ends with EOT
-/// and then prints "[MSG:INFO: Sent N bytes]" and "ok". Works while the mode is
-/// XModemSend.
+/// and then prints "[MSG:INFO: Sent N bytes]" and "ok". A CAN from the host, before
+/// or during the transfer, ends it at once. Works while the mode is XModemSend.
 class XModemSender {
   public:
     explicit XModemSender(Device& device) : d_(device) {}

@@ -169,9 +169,10 @@ typedef struct esp_download_status {
  * system over XModem. On 0, *data holds a malloc'd copy of the file that the
  * caller releases with free(), and *length its size; an empty file gives length 0
  * and may give a null pointer. On failure *data is null, *length 0, one log line
- * names the cause, and so does *status when status is not null. Returns 0, 2
- * (port not opened) or 8 (download failed, also for a missing name or null output
- * pointers). */
+ * names the cause, and so does *status when status is not null; a transfer it
+ * gave up on is cancelled and the console's line ended, so the next command is
+ * understood. Returns 0, 2 (port not opened) or 8 (download failed, also for a
+ * missing name or null output pointers). */
 esp_error_t esp_download_file(const char* port, const char* name, uint8_t** data, size_t* length,
                               esp_progress_cb progress, esp_log_cb log,
                               esp_download_status* status);

@@ -28,8 +28,8 @@ constexpr size_t kMaxFileBytes = 16 * 1024 * 1024;
 
 enum class Outcome { Stored, Repeated, Refused, Ended, Cancelled, TooLarge };
 
-// The receiving side of one XModem transfer. It never sends CAN: a sender that
-// already gave up is back at its console, where that byte means a soft reset.
+// The receiving side of one XModem transfer. A transfer it gives up on is ended
+// by `abandon`; otherwise it never sends CAN, which a console takes as a reset.
 class Receiver {
   public:
     Receiver(SerialPort& port, const std::string& name, void (*progress)(float, const char*),
@@ -46,6 +46,7 @@ class Receiver {
     bool readExactly(uint8_t* buf, size_t len, int timeoutMs);
     bool checkPasses(const uint8_t* body, size_t len, const uint8_t* trailer) const;
     std::vector<uint8_t> finish();
+    void abandon();
     void reportSize(float fraction);
     std::nullopt_t fail(DownloadFailure::Reason reason, const std::string& cause);
 
@@ -69,6 +70,7 @@ std::optional<std::vector<uint8_t>> Receiver::run() {
     }
     std::optional<uint8_t> header = requestTransfer();
     if (!header) {
+        abandon();
         return fail(DownloadFailure::Reason::noBlock, "no block received");
     }
     int failures = 0;
@@ -78,10 +80,12 @@ std::optional<std::vector<uint8_t>> Receiver::run() {
             return fail(DownloadFailure::Reason::cancelled, "cancelled by the device");
         }
         if (outcome == Outcome::TooLarge) {
+            abandon();
             return fail(DownloadFailure::Reason::tooLarge, "file larger than 16 MiB");
         }
         failures = outcome == Outcome::Stored || outcome == Outcome::Ended ? 0 : failures + 1;
         if (failures >= kMaxTransmissions) {
+            abandon();
             return fail(DownloadFailure::Reason::blockFailed,
                         "block " + std::to_string(ordinal_) + " failed 25 times");
         }
@@ -198,6 +202,19 @@ std::vector<uint8_t> Receiver::finish() {
     waitForOk(port_, kOkAfterTransferMs);
     reportSize(1.0f);
     return std::move(file_);
+}
+
+// A sender that is still waiting for answers takes the CANs as the end of the
+// transfer; a console that never started one has taken every request byte as text
+// of its current line, which the CANs (Ctrl+X) or else the line end clear, so the
+// next command arrives on a line of its own. Its reply is drained.
+void Receiver::abandon() {
+    static constexpr uint8_t kCancel[] = {CAN, CAN};
+    static constexpr uint8_t kLineEnd = '\n';
+    port_.write(kCancel, sizeof kCancel);
+    drainInput(port_, 256, kPurgeSliceMs);
+    port_.write(&kLineEnd, 1);
+    drainInput(port_, 256, kPurgeSliceMs);
 }
 
 void Receiver::reportSize(float fraction) {

@@ -33,11 +33,12 @@ struct DownloadFailure {
 ///
 /// Returns the file's bytes, or nothing on failure, which is described by exactly
 /// one `log` line starting "XModem download: " and, when `failure` is not null, as
-/// data in `*failure`. `progress` gets fraction 0 and the
-/// bytes received so far while blocks arrive (XModem carries no total), then 1.
-/// Both callbacks may be null and run on the calling thread. Blocks the calling
-/// thread; every wait is bounded (at most about 30 s for the handshake and
-/// 25 x 5000 ms for a block).
+/// data in `*failure`. A transfer given up after the command went out (no block,
+/// too large, a block that kept failing) is ended with CAN CAN and a line end, and
+/// the console's reply drained, so that the next command is understood. `progress` gets fraction 0
+/// and the bytes received so far while blocks arrive (XModem carries no total), then 1. Both
+/// callbacks may be null and run on the calling thread. Blocks the calling thread; every wait is
+/// bounded (at most about 30 s for the handshake and 25 x 5000 ms for a block).
 std::optional<std::vector<uint8_t>> downloadFile(SerialPort& port, const std::string& name,
                                                  void (*progress)(float, const char*),
                                                  void (*log)(const char*),

@@ -183,6 +183,31 @@ TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
                    {Reason::noBlock});
 }
 
+// The console takes every byte that reaches it while it waits for a line, the
+// receiver's requests too; a sender keeps taking bytes until it is cancelled or
+// gives up. Either way the next command must be understood.
+TEST_F(DeviceJobsTest, AFailedDownloadLeavesTheConsoleUnderstandingTheNextCommand) {
+    const std::pair<const char*, std::function<void(sim::Config&)>> faults[] = {
+        {"never started", [](auto& c) { c.xmodemSendSilent = true; }},
+        {"a block failed 25 times",
+         [](auto& c) {
+             c.xmodemSendCorruptBlock = 2;
+             c.xmodemSendCorruptTimes = 100;
+         }},
+        {"cancelled by the sender", [](auto& c) { c.xmodemSendCanBlock = 2; }},
+    };
+    for (const auto& [name, fault] : faults) {
+        SCOPED_TRACE(name);
+        auto& watched = device([&](auto& d) {
+            d.plotter.config().machineConfig = std::string(3000, '#');
+            fault(d.plotter.config());
+        });
+        ASSERT_EQ(esp::runDownloadFileJob(port, "config.yaml", nullptr, nullptr), std::nullopt);
+        EXPECT_EQ(esp::runQueryVersionJob(port), "FluidNC v3.7.8 (sim)");
+        EXPECT_EQ(watched.plotter.transcript().back(), "$I");
+    }
+}
+
 TEST(PartitionTable, NeedsAReachableApplicationEntryAt0x10000) {
     const std::pair<std::string, bool> cases[] = {
         {"ddA" + std::string(93, '-'), true},
