@@ -12,6 +12,12 @@ namespace DeviceQueries {
 /// ("v3.7.8"); none when it does not answer.
 std::optional<QString> firmwareVersion(const QString& port);
 
+/// The name a machine's backups are filed under: the USB serial number that
+/// `esp_list_devices` reports for `port` (compared as given and with links
+/// resolved), else `port` itself ("sim1", "/dev/ttyACM0"). Opens nothing; safe
+/// while a job runs.
+QString machineIdentity(const QString& port);
+
 enum class PartitionTable { present, absent, unreadable };
 
 /// Whether the machine's flash holds a partition table with an application at

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <variant>
 
+#include "app/Backup.h"
 #include "esp_flasher.h"
 
 /// Why reading a file from the machine failed, as the library tells it.
@@ -15,9 +16,9 @@ struct DownloadCause {
     friend bool operator==(const DownloadCause&, const DownloadCause&) = default;
 };
 
-/// What is known, as data, about why an operation ended as it did; empty where
-/// the kind alone tells.
-using Cause = std::variant<std::monostate, DownloadCause>;
+/// What is known, as data, about why an operation ended as it did (or what it
+/// found); empty where the kind alone tells.
+using Cause = std::variant<std::monostate, DownloadCause, BackupListing>;
 
 /// How an operation ended. Created where the result is known and carried
 /// unchanged to the window and to the command line, which present it; neither
@@ -34,6 +35,7 @@ struct Outcome {
         missingResource,   ///< something it needs is missing from the resources folder
         notWritten,        ///< a file on this computer could not be written
         busy,              ///< another operation was still running
+        noBackup,          ///< the backup to restore was not found
     };
 
     Kind kind = Kind::succeeded;

@@ -1,5 +1,6 @@
 #include "app/Texts.h"
 
+#include "app/BackupIndex.h"
 #include "app/VersionText.h"
 
 namespace Texts {
@@ -352,6 +353,83 @@ QString endedWithoutResult() {
 QString endedAbnormally(const QString& why) {
     return QStringLiteral("ended abnormally after its result") +
            (why.isEmpty() ? QString() : QStringLiteral(": ") + why);
+}
+
+QString backupFolderUnusable(const QString& folder) {
+    return QStringLiteral("Could not prepare the backups folder %1 as a folder only you can read")
+        .arg(folder);
+}
+
+QString backupNotWritten(const QString& path, const QString& reason) {
+    return QStringLiteral("Could not write the backup %1: %2").arg(path, reason);
+}
+
+QString backupNotKept(const QString& reason) {
+    return QStringLiteral("No backup was kept: ") + reason;
+}
+
+QString backupRecordSkipped(const QString& path, const QString& why) {
+    return QStringLiteral("Skipped the backup record %1: %2").arg(path, why);
+}
+
+QString notABackupRecord() {
+    return QStringLiteral("not a backup record");
+}
+
+QString backupCopyMissing(const QString& fileName) {
+    return QStringLiteral("its copy %1 is missing").arg(fileName);
+}
+
+QString backupCopyChanged(const QString& fileName) {
+    return QStringLiteral("its copy %1 has changed").arg(fileName);
+}
+
+QString backupTime(const QDateTime& time) {
+    return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}
+
+QString backupReason(BackupReason reason) {
+    switch (reason) {
+        case BackupReason::save:
+            return QStringLiteral("Saved");
+        case BackupReason::compare:
+            return QStringLiteral("Compared");
+        case BackupReason::beforeUpload:
+            return QStringLiteral("Before upload");
+        case BackupReason::beforeErase:
+            return QStringLiteral("Before erase");
+    }
+    return QString();
+}
+
+QString backupLine(const Backup& backup) {
+    return QStringLiteral("%1  %2  %3  %4 bytes  %5  %6")
+        .arg(backupTime(backup.time), BackupIndex::reasonName(backup.reason),
+             backup.firmwareVersion.value_or(QStringLiteral("-")))
+        .arg(backup.size)
+        .arg(backup.machine, backup.path);
+}
+
+QString noBackups(const QString& folder) {
+    return QStringLiteral("No backups in ") + folder;
+}
+
+QString backupsIn(qsizetype count, const QString& folder) {
+    return QStringLiteral("%1 %2 in %3")
+        .arg(count)
+        .arg(count == 1 ? QStringLiteral("backup") : QStringLiteral("backups"), folder);
+}
+
+QString noBackupOfMachine(const QString& machine, const QString& folder) {
+    return QStringLiteral("No backup of the machine %1 in %2").arg(machine, folder);
+}
+
+QString backupNotFound(const QString& name, const QString& folder) {
+    return QStringLiteral("No backup %1 in %2").arg(name, folder);
+}
+
+QString settingsRestored(const QDateTime& time) {
+    return QStringLiteral("Settings restored from the backup of %1.").arg(backupTime(time));
 }
 
 }  // namespace Texts

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 #include <QtGlobal>
 
+#include "app/Backup.h"
 #include "app/Outcome.h"
 #include "esp_flasher.h"
 
@@ -99,5 +101,26 @@ QString simulatorNotStarted(const QString& reason);
 QString endedWithoutResult();  ///< "ended without a result"
 /// "ended abnormally after its result", and ": WHY" when something was said.
 QString endedAbnormally(const QString& why);
+
+// The backups of the machine's configuration.
+QString backupFolderUnusable(const QString& folder);
+QString backupNotWritten(const QString& path, const QString& reason);
+QString backupNotKept(const QString& reason);  ///< "No backup was kept: REASON"
+QString backupRecordSkipped(const QString& path, const QString& why);
+QString notABackupRecord();
+QString backupCopyMissing(const QString& fileName);
+QString backupCopyChanged(const QString& fileName);
+/// "yyyy-MM-dd HH:mm:ss" in local time.
+QString backupTime(const QDateTime& time);
+/// How the window names a reason: "Saved", "Compared", "Before upload", "Before erase".
+QString backupReason(BackupReason reason);
+/// "TIME  REASON  VERSION  N bytes  MACHINE  PATH", the reason in the sidecar's word.
+QString backupLine(const Backup& backup);
+QString noBackups(const QString& folder);                   ///< "No backups in FOLDER"
+QString backupsIn(qsizetype count, const QString& folder);  ///< "N backups in FOLDER"
+QString noBackupOfMachine(const QString& machine, const QString& folder);
+QString backupNotFound(const QString& name, const QString& folder);
+/// "Settings restored from the backup of TIME."
+QString settingsRestored(const QDateTime& time);
 
 }  // namespace Texts

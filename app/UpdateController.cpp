@@ -107,8 +107,9 @@ void UpdateController::uploadConfigFromFile(const QString& path) {
 
 void UpdateController::uploadChoice(const ConfigChoice& choice) {
     if (const auto port = portForNewJob()) {
-        start(std::make_shared<UploadConfig>(*port, resources_, choice,
-                                             UploadConfig::Options{backupBeforeUpload_, false}));
+        UploadConfig::Options options;
+        options.backUpFirst = backupBeforeUpload_;
+        start(std::make_shared<UploadConfig>(*port, resources_, choice, options));
     }
 }
 

@@ -3,8 +3,12 @@
 #include "app/Texts.h"
 #include "app/operations/MachineConfigFile.h"
 
-CompareWithMachine::CompareWithMachine(QString port, ResourceBundle resources, ConfigChoice choice)
-    : port_(std::move(port)), resources_(std::move(resources)), choice_(std::move(choice)) {}
+CompareWithMachine::CompareWithMachine(QString port, ResourceBundle resources, ConfigChoice choice,
+                                       QString machine)
+    : port_(std::move(port)),
+      resources_(std::move(resources)),
+      choice_(std::move(choice)),
+      machine_(std::move(machine)) {}
 
 std::optional<Outcome> CompareWithMachine::refusal() {
     auto chosen = readChosenConfig(resources_, choice_);
@@ -21,11 +25,13 @@ Outcome CompareWithMachine::run(const OperationSink& sink) {
             return *refused;
         }
     }
-    auto read = MachineConfigFile::read(port_, sink);
+    auto read = MachineConfigFile::read({port_, machine_, BackupReason::compare}, sink);
     if (auto* failure = std::get_if<Outcome>(&read)) {
         return *failure;
     }
-    comparison_ = compareConfigs({QStringLiteral("machine"), std::get<QByteArray>(read)}, *chosen_);
+    const auto& machineConfig = std::get<MachineConfigFile::Read>(read);
+    MachineConfigFile::noteUnkept(machineConfig, sink);
+    comparison_ = compareConfigs({QStringLiteral("machine"), machineConfig.bytes}, *chosen_);
     for (const QString& error : comparison_.errors) {
         sink.info(error);
     }

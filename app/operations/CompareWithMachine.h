@@ -12,14 +12,18 @@
 /// config.yaml and compares it with the chosen one.
 class CompareWithMachine : public Operation {
   public:
-    CompareWithMachine(QString port, ResourceBundle resources, ConfigChoice choice);
+    /// `machine`: the name the machine's backups are filed under (empty: found
+    /// from the port).
+    CompareWithMachine(QString port, ResourceBundle resources, ConfigChoice choice,
+                       QString machine = {});
 
     /// The chosen configuration cannot be compared: a product's file missing from
     /// the resources, or a file refused as an upload would refuse it. Keeps what
     /// it read for `run`.
     std::optional<Outcome> refusal() override;
 
-    /// Reads config.yaml and compares it, shown as "machine", with the chosen
+    /// Reads config.yaml (keeping a copy in the backups folder, or logging why not)
+    /// and compares it, shown as "machine", with the chosen
     /// configuration; logs one line ("Machine config matches <name> by key",
     /// "Machine config differs from <name> in <n> key(s)", or each reason why a
     /// side could not be read). Succeeds with "Equal by key", or ends `differs`
@@ -34,6 +38,7 @@ class CompareWithMachine : public Operation {
     QString port_;
     ResourceBundle resources_;
     ConfigChoice choice_;
+    QString machine_;
     std::optional<ConfigText> chosen_;
     ConfigComparison comparison_;
 };

@@ -3,23 +3,53 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include "app/BackupIndex.h"
+#include "app/DeviceQueries.h"
 #include "app/FlasherBridge.h"
 #include "app/Texts.h"
 
 namespace MachineConfigFile {
+namespace {
 
-std::variant<QByteArray, Outcome> read(const QString& port, const OperationSink& sink) {
-    sink.enter(Phase::readingConfig);
+std::variant<Read, Outcome> downloadAndKeep(const Request& request,
+                                            const std::optional<QString>& firmwareVersion,
+                                            const OperationSink& sink) {
     FlasherBridge::Download download = FlasherBridge::downloadFile(
-        port, QStringLiteral("config.yaml"), sink.progress, sink.libraryLog);
-    if (download.result == 0) {
-        return std::move(download.data);
+        request.port, QStringLiteral("config.yaml"), sink.progress, sink.libraryLog);
+    if (download.result != 0) {
+        const DownloadCause cause{download.status.failure, download.status.block};
+        Outcome failure = Outcome::library(download.result);
+        failure.cause = cause;
+        failure.message = Texts::configNotRead(cause);
+        return failure;
     }
-    const DownloadCause cause{download.status.failure, download.status.block};
-    Outcome failure = Outcome::library(download.result);
-    failure.cause = cause;
-    failure.message = Texts::configNotRead(cause);
-    return failure;
+    BackupIndex::Source source;
+    source.reason = request.reason;
+    source.machine =
+        request.machine.isEmpty() ? DeviceQueries::machineIdentity(request.port) : request.machine;
+    source.firmwareVersion = firmwareVersion;
+    auto kept = BackupIndex().keep(download.data, source);
+    return Read{std::move(download.data), std::move(kept)};
+}
+
+}  // namespace
+
+std::variant<Read, Outcome> read(const Request& request, const OperationSink& sink) {
+    sink.enter(Phase::readingConfig);
+    return downloadAndKeep(request, DeviceQueries::firmwareVersion(request.port), sink);
+}
+
+std::variant<Read, Outcome> read(const Request& request,
+                                 const std::optional<QString>& firmwareVersion,
+                                 const OperationSink& sink) {
+    sink.enter(Phase::readingConfig);
+    return downloadAndKeep(request, firmwareVersion, sink);
+}
+
+void noteUnkept(const Read& read, const OperationSink& sink) {
+    if (const auto* reason = std::get_if<QString>(&read.kept)) {
+        sink.error(Texts::backupNotKept(*reason));
+    }
 }
 
 Outcome write(const QString& path, const QByteArray& bytes, const OperationSink& sink) {

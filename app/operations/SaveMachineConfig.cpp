@@ -2,8 +2,8 @@
 
 #include "app/operations/MachineConfigFile.h"
 
-SaveMachineConfig::SaveMachineConfig(QString port, QString destination)
-    : port_(std::move(port)), destination_(std::move(destination)) {}
+SaveMachineConfig::SaveMachineConfig(QString port, QString destination, QString machine)
+    : port_(std::move(port)), destination_(std::move(destination)), machine_(std::move(machine)) {}
 
 QString SaveMachineConfig::defaultFileName(const QDateTime& when) {
     return QStringLiteral("machine-config-") + when.toString(QStringLiteral("yyyyMMdd-HHmm")) +
@@ -11,9 +11,11 @@ QString SaveMachineConfig::defaultFileName(const QDateTime& when) {
 }
 
 Outcome SaveMachineConfig::run(const OperationSink& sink) {
-    auto read = MachineConfigFile::read(port_, sink);
+    auto read = MachineConfigFile::read({port_, machine_, BackupReason::save}, sink);
     if (auto* failure = std::get_if<Outcome>(&read)) {
         return *failure;
     }
-    return MachineConfigFile::write(destination_, std::get<QByteArray>(read), sink);
+    const auto& config = std::get<MachineConfigFile::Read>(read);
+    MachineConfigFile::noteUnkept(config, sink);
+    return MachineConfigFile::write(destination_, config.bytes, sink);
 }

@@ -1,9 +1,6 @@
 #include "app/operations/UploadConfig.h"
 
-#include <QDir>
-
 #include "app/FlasherBridge.h"
-#include "app/MachineConfigBackup.h"
 #include "app/Texts.h"
 #include "app/operations/CheckConfigFile.h"
 #include "app/operations/MachineConfigFile.h"
@@ -76,20 +73,18 @@ std::optional<QByteArray> UploadConfig::productConfig(const OperationSink& sink)
     return found;
 }
 
-std::optional<Outcome> UploadConfig::backUp(const OperationSink& sink) const {
-    const QDir backups(MachineConfigBackup::folder());
-    // A folder that cannot be made shows up as the file that cannot be written.
-    backups.mkpath(QStringLiteral("."));
-    auto read = MachineConfigFile::read(port_, sink);
-    Outcome saved =
-        std::holds_alternative<Outcome>(read)
-            ? std::get<Outcome>(std::move(read))
-            : MachineConfigFile::write(
-                  backups.filePath(MachineConfigBackup::fileName(QDateTime::currentDateTime())),
-                  std::get<QByteArray>(read), sink);
-    if (!saved.isFailure()) {
-        return std::nullopt;
+std::optional<Outcome> UploadConfig::backUp(const OperationSink& sink) {
+    auto read =
+        MachineConfigFile::read({port_, options_.machine, BackupReason::beforeUpload}, sink);
+    if (auto* failure = std::get_if<Outcome>(&read)) {
+        failure->message = Texts::backupFailed(failure->message);
+        return *failure;
     }
-    saved.message = Texts::backupFailed(saved.message);
-    return saved;
+    const auto& kept = std::get<MachineConfigFile::Read>(read).kept;
+    if (const auto* reason = std::get_if<QString>(&kept)) {
+        return Outcome::make(Outcome::Kind::notWritten, Texts::backupFailed(*reason));
+    }
+    backup_ = std::get<Backup>(kept);
+    sink.info(Texts::configSavedTo(backup_->path, backup_->size));
+    return std::nullopt;
 }

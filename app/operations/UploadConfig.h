@@ -5,6 +5,7 @@
 #include <QString>
 #include <optional>
 
+#include "app/Backup.h"
 #include "app/ConfigChoice.h"
 #include "app/ResourceBundle.h"
 #include "app/operations/Operation.h"
@@ -16,11 +17,13 @@
 class UploadConfig : public Operation {
   public:
     struct Options {
-        /// Save the machine's config.yaml in `MachineConfigBackup::folder()` first.
+        /// Keep the machine's config.yaml in the backups folder first.
         bool backUpFirst = false;
         /// The resources are the development set and the port no simulated plotter:
         /// the set's configurations describe no real machine.
         bool developmentConfigsRefused = false;
+        /// The name the machine's backups are filed under; empty: found from the port.
+        QString machine;
     };
 
     UploadConfig(QString port, ResourceBundle resources, ConfigChoice choice, Options options);
@@ -38,8 +41,11 @@ class UploadConfig : public Operation {
     /// the backup's failure, or with the library's code.
     Outcome run(const OperationSink& sink) override;
 
+    /// The backup kept before this upload, once `run` has kept one.
+    const std::optional<Backup>& backup() const { return backup_; }
+
   private:
-    std::optional<Outcome> backUp(const OperationSink& sink) const;
+    std::optional<Outcome> backUp(const OperationSink& sink);
     std::optional<QByteArray> productConfig(const OperationSink& sink) const;
 
     QString port_;
@@ -49,4 +55,5 @@ class UploadConfig : public Operation {
     bool checked_ = false;
     QByteArray fileBytes_;
     QString announcement_;
+    std::optional<Backup> backup_;
 };

@@ -2,6 +2,7 @@
 #include <QSignalSpy>
 
 #include "ControllerHarness.h"
+#include "app/BackupIndex.h"
 #include "sim/PtyPlotter.h"
 
 namespace {
@@ -137,14 +138,23 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     controller.uploadConfig("Halcot.yaml", "Corvane Halcot");
     QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::configComplete()));
     QTRY_COMPARE(controller.logMessages().last(), kUploaded);
+    // Every read kept a copy: the save, the comparison and the backup before the upload.
+    const QList<Backup> kept = BackupIndex(backups.path()).list();
+    QCOMPARE(kept.size(), 3);
+    for (const auto& [backup, reason] :
+         {std::pair(kept[0], BackupReason::beforeUpload), std::pair(kept[1], BackupReason::compare),
+          std::pair(kept[2], BackupReason::save)}) {
+        QCOMPARE(backup.reason, reason);
+        QCOMPARE(backup.machine, port);
+        QCOMPARE(backup.firmwareVersion, std::optional<QString>("v3.7.8"));
+        QCOMPARE(readFile(backup.path), tuned);
+    }
+    const QString copy = QFileInfo(kept[0].path).fileName();
+    QVERIFY2(QRegularExpression("^config-\\d{8}-\\d{6}(-\\d+)?\\.yaml$").match(copy).hasMatch(),
+             qPrintable(copy));
     const QStringList files = backups.entryList(QDir::Files);
-    QCOMPARE(files.size(), 1);
-    QVERIFY2(QRegularExpression("^config-\\d{8}-\\d{6}\\.yaml$").match(files[0]).hasMatch(),
-             qPrintable(files[0]));
-    QCOMPARE(readFile(backups.filePath(files[0])), tuned);
     QCOMPARE(controller.logMessages().mid(0, 2),
-             QStringList({savedTo(backups.filePath(files[0])),
-                          "Preparing Corvane Halcot config v1.2.0-devset"}));
+             QStringList({savedTo(kept[0].path), "Preparing Corvane Halcot config v1.2.0-devset"}));
     QCOMPARE(harness.busySpan().first(), UpdateState::downloadingConfig());
     QCOMPARE(harness.busySpan().last(), UpdateState::configComplete());
     QCOMPARE(storedConfig(plotter), halcot);
