@@ -27,6 +27,9 @@ struct CommonOptions {
 struct CommandContext {
     QString portName;  ///< as listed or given ("sim2", "/dev/ttyACM0"); empty without a port
     QString portPath;  ///< the node to open; a simulated plotter's pseudo-terminal
+    /// The name the plotter's backups are filed under: its USB serial number, else
+    /// `portName` ("sim1"); empty without a port.
+    QString machine;
     /// The plotter is simulated (for a command without a port: every plotter of
     /// the run is).
     bool simulated = false;

@@ -23,7 +23,7 @@ class DiffConfigCommand : public Command {
 
     std::shared_ptr<Operation> operation(const CommandContext& context) const override {
         return std::make_shared<CompareWithMachine>(context.portPath, context.resources,
-                                                    source_.choice());
+                                                    source_.choice(), context.machine);
     }
 
   private:

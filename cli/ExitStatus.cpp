@@ -27,6 +27,7 @@ constexpr Row kTable[] = {
     {9, Kind::noAnswer, 0, "the machine did not answer"},
     {11, Kind::refused, 0, "a file or image was refused before anything was sent"},
     {12, Kind::missingResource, 0, "an image or configuration is missing from the resources"},
+    {15, Kind::noBackup, 0, "the backup to restore was not found"},
     {16, Kind::noPartitionTable, 0, "the plotter holds no valid partition table"},
     {17, Kind::notWritten, 0, "a file could not be written on this computer"},
     {usage, Kind::failed, 0, "the command line could not be understood"},

@@ -5,6 +5,8 @@
 #include <QJsonObject>
 #include <cstdio>
 
+#include "app/BackupIndex.h"
+
 namespace {
 
 QJsonObject logObject(const LogEntry& entry) {
@@ -31,6 +33,13 @@ QJsonObject resultObject(const event::Result& result) {
     if (!result.outcome.evidence.isEmpty()) {
         object.insert(QStringLiteral("evidence"),
                       QJsonArray::fromStringList(result.outcome.evidence));
+    }
+    if (const auto* listing = std::get_if<BackupListing>(&result.outcome.cause)) {
+        QJsonArray backups;
+        for (const Backup& backup : listing->backups) {
+            backups.append(BackupIndex::toJson(backup));
+        }
+        object.insert(QStringLiteral("backups"), backups);
     }
     return object;
 }

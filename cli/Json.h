@@ -11,7 +11,9 @@
 /// "line":…} (with "severity":"error" for an error, whose line is the one the
 /// window shows, "ERROR: " and the message), {"type":"progress","fraction":…,
 /// "stage":…,"bytes":…} or {"type":"result","code":…,"message":…} (with
-/// "evidence":[…] when the outcome has any), and "port" when `port` is not empty.
+/// "evidence":[…] when the outcome has any, and "backups":[…] when it lists
+/// backups, each as `BackupIndex::toJson` gives it), and "port" when `port` is not
+/// empty.
 QByteArray toJsonLine(const QString& port, const Event& event);
 
 /// The event of one such line; none for anything else.

@@ -21,7 +21,8 @@ class SaveConfigCommand : public Command {
     QList<int> failureStatuses() const override { return {1, 2, 8, 17}; }
 
     std::shared_ptr<Operation> operation(const CommandContext& context) const override {
-        return std::make_shared<SaveMachineConfig>(context.portPath, QString::fromStdString(file_));
+        return std::make_shared<SaveMachineConfig>(context.portPath, QString::fromStdString(file_),
+                                                   context.machine);
     }
 
   private:

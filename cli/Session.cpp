@@ -10,6 +10,7 @@
 #include <memory>
 #include <system_error>
 
+#include "app/DeviceQueries.h"
 #include "app/SimulatedPlotter.h"
 #include "app/Texts.h"
 #include "cli/Fleet.h"
@@ -71,6 +72,7 @@ class Single {
         CommandContext context;
         context.portName = port;
         context.portPath = port;
+        context.machine = port.isEmpty() ? QString() : DeviceQueries::machineIdentity(port);
         context.connected = connected;
         context.resources = resourcesFor(options);
         context.developmentSet = options.simulated > 0 && options.resources.empty();

@@ -27,6 +27,7 @@ class UploadConfigCommand : public Command {
         UploadConfig::Options options;
         // The development set's configurations describe no real machine.
         options.developmentConfigsRefused = context.developmentSet && !context.simulated;
+        options.machine = context.machine;
         return std::make_shared<UploadConfig>(context.portPath, context.resources, source_.choice(),
                                               options);
     }

@@ -3,6 +3,7 @@
 #include <signal.h>
 #include <unistd.h>
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -28,8 +29,14 @@ struct Run {
     QString err;
 };
 
-Run run(const QStringList& arguments) {
+// With `dataHome`, the backups folder is below it.
+Run run(const QStringList& arguments, const QString& dataHome = {}) {
     QProcess process;
+    if (!dataHome.isEmpty()) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_DATA_HOME", dataHome);
+        process.setProcessEnvironment(environment);
+    }
     process.start(kProgram, arguments);
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit) {
         qFatal("teskal-flash %s did not end", qPrintable(arguments.join(' ')));
@@ -82,6 +89,7 @@ class CliTest : public QObject {
     void severalPlottersRunAtOnce();
     void terminalProgressIsRedrawnInPlace();
     void ctrlCWarnsOnceDuringAWrite();
+    void backupsAreListedAndRestored();
 
   private:
     QString file(const QString& name) const { return files_.filePath(name); }
@@ -89,6 +97,8 @@ class CliTest : public QObject {
 };
 
 void CliTest::initTestCase() {
+    // Every configuration read keeps a backup: never in the user's own folder.
+    qputenv("XDG_DATA_HOME", file("home-data").toUtf8());
     const std::pair<QString, QByteArray> contents[] = {
         {"text.bin", "{\"name\": \"plotter\"}\n"},
         {"workshop.yml", "name: \"Workshop plotter\"\nmeta: '9.9'\n"},
@@ -403,6 +413,39 @@ void CliTest::ctrlCWarnsOnceDuringAWrite() {
         QCOMPARE(process.exitCode(), 130);
         QVERIFY(!process.readAllStandardOutput().contains("\"type\":\"result\""));
     }
+}
+
+void CliTest::backupsAreListedAndRestored() {
+    const QString data = file("data");
+    const QString folder = data + "/teskal-firmware-updater/backups";
+    const Run none = run({"backups"}, data);
+    QCOMPARE(none.exitCode, 0);
+    QCOMPARE(none.out, "No backups in " + folder + '\n');
+    const Run nothingToRestore = run({"restore-config", "--sim"}, data);
+    QCOMPARE(nothingToRestore.exitCode, 15);
+    QCOMPARE(nothingToRestore.err, "ERROR: No backup of the machine sim1 in " + folder + '\n');
+
+    QCOMPARE(run({"save-config", "--sim", file("kept.yaml")}, data).exitCode, 0);
+    const Run listed = run({"backups", "--json"}, data);
+    QCOMPARE(listed.exitCode, 0);
+    const QJsonArray backups = jsonObjects(listed.out).last()["backups"].toArray();
+    QCOMPARE(backups.size(), 1);
+    const QJsonObject backup = backups[0].toObject();
+    QCOMPARE(backup["machine"], "sim1");
+    QCOMPARE(backup["reason"], "save");
+    QCOMPARE(backup["firmware"], "v3.7.8");
+    QCOMPARE(backup["size"], 512);
+    const QString path = backup["path"].toString();
+    QVERIFY2(path.startsWith(folder + "/config-"), qPrintable(path));
+
+    const Run restored = run({"restore-config", "--sim", QFileInfo(path).fileName()}, data);
+    QCOMPARE(restored.exitCode, 0);
+    QVERIFY2(
+        containsInOrder(restored.out,
+                        {"Preparing " + QFileInfo(path).fileName() + " v0.0.0-sim", kUploaded}),
+        qPrintable(restored.out));
+    QVERIFY(restored.out.contains("Settings restored from the backup of "));
+    QCOMPARE(run({"restore-config", "--sim", "config-19990101-000000.yaml"}, data).exitCode, 15);
 }
 
 QTEST_GUILESS_MAIN(CliTest)

@@ -22,6 +22,7 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     sim::PtyPlotter plotter;
     int exits = 0;
     QTemporaryDir folder;
+    qputenv("XDG_DATA_HOME", folder.filePath("data").toUtf8());
     QString suggestedName;
     AppDelegate::Options options;
     options.exitNow = [&exits] { ++exits; };
