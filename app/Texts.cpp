@@ -428,6 +428,29 @@ QString backupNotFound(const QString& name, const QString& folder) {
     return QStringLiteral("No backup %1 in %2").arg(name, folder);
 }
 
+QString backupsToRestore(const QString& folder) {
+    return QStringLiteral(
+               "Every configuration read from a machine is kept in %1. The connected "
+               "machine's are on top, newest first.")
+        .arg(folder);
+}
+
+QString noBackupsToRestore(const QString& folder) {
+    return QStringLiteral(
+               "No configuration has been kept yet. Every configuration read from a machine "
+               "(Save Machine Config, Compare With Machine, the backup before an upload, the "
+               "save before Erase All Flash) is kept in %1.")
+        .arg(folder);
+}
+
+QString thisMachine(const QString& machine) {
+    return QStringLiteral("%1 (this machine)").arg(machine);
+}
+
+QString byteCount(qint64 bytes) {
+    return QStringLiteral("%1 bytes").arg(bytes);
+}
+
 QString settingsRestored(const QDateTime& time) {
     return QStringLiteral("Settings restored from the backup of %1.").arg(backupTime(time));
 }

@@ -120,6 +120,11 @@ QString noBackups(const QString& folder);                   ///< "No backups in 
 QString backupsIn(qsizetype count, const QString& folder);  ///< "N backups in FOLDER"
 QString noBackupOfMachine(const QString& machine, const QString& folder);
 QString backupNotFound(const QString& name, const QString& folder);
+/// The Restore Machine Config window's summary, with backups and without.
+QString backupsToRestore(const QString& folder);
+QString noBackupsToRestore(const QString& folder);
+QString thisMachine(const QString& machine);  ///< "MACHINE (this machine)"
+QString byteCount(qint64 bytes);              ///< "N bytes"
 /// "Settings restored from the backup of TIME."
 QString settingsRestored(const QDateTime& time);
 

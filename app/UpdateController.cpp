@@ -9,6 +9,7 @@
 #include "app/VersionText.h"
 #include "app/operations/CheckFirmwareFile.h"
 #include "app/operations/CompareWithMachine.h"
+#include "app/operations/RestoreConfig.h"
 #include "app/operations/SaveLog.h"
 #include "app/operations/SaveMachineConfig.h"
 #include "app/operations/UploadConfig.h"
@@ -135,6 +136,14 @@ void UpdateController::saveLog(const QString& path) {
     const Outcome saved = save.run({});
     if (saved.isFailure()) {
         post(LogEntry::error(saved.message));
+    }
+}
+
+void UpdateController::restoreBackup(const Backup& backup) {
+    if (const auto port = portForNewJob()) {
+        UploadConfig::Options options;
+        options.backUpFirst = backupBeforeUpload_;
+        start(std::make_shared<RestoreConfig>(*port, resources_, backup.path, options));
     }
 }
 

@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 
+#include "app/Backup.h"
 #include "app/ConfigChoice.h"
 #include "app/ConfigDiff.h"
 #include "app/DeviceMonitor.h"
@@ -109,6 +110,8 @@ class UpdateController : public PublishedState {
     void compareWithMachine(const ConfigChoice& choice);
     /// Saves the log for support at `path` (see `SaveLog`); a failure is logged.
     void saveLog(const QString& path);
+    /// Puts `backup` back on the machine with the normal upload (see `RestoreConfig`).
+    void restoreBackup(const Backup& backup);
 
   signals:
     void customFirmwareURLChanged(const QUrl& location);

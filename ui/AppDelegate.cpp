@@ -8,6 +8,8 @@
 #include <QScreen>
 #include <QUrl>
 
+#include "app/BackupIndex.h"
+#include "app/DeviceQueries.h"
 #include "app/LogExport.h"
 #include "app/SleepInhibitor.h"
 #include "app/Texts.h"
@@ -15,6 +17,7 @@
 #include "app/operations/SaveMachineConfig.h"
 #include "ui/AboutWindow.h"
 #include "ui/CompareWindow.h"
+#include "ui/RestoreWindow.h"
 #include "ui/UpdaterView.h"
 
 namespace {
@@ -54,6 +57,7 @@ AppDelegate::~AppDelegate() {
     window_.reset();
     aboutWindow_.reset();
     compareWindow_.reset();
+    restoreWindow_.reset();
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -166,6 +170,24 @@ void AppDelegate::compareWithFile() {
     if (const auto path = chooseConfigFile()) {
         updateController_->compareWithMachine(ConfigChoice::ofFile(*path));
     }
+}
+
+void AppDelegate::restoreMachineConfig() {
+    const BackupIndex index;
+    QList<Backup> backups =
+        index.list([this](const QString& line) { updateController_->log(line); });
+    const auto port = updateController_->deviceMonitor()->port();
+    restoreWindow_ = std::make_unique<RestoreWindow>(
+        std::move(backups), port ? DeviceQueries::machineIdentity(*port) : QString(),
+        index.folder());
+    connect(restoreWindow_.get(), &RestoreWindow::compareRequested, this,
+            [this](const Backup& backup) {
+                updateController_->compareWithMachine(ConfigChoice::ofFile(backup.path));
+            });
+    connect(restoreWindow_.get(), &RestoreWindow::restoreRequested, updateController_.get(),
+            &UpdateController::restoreBackup);
+    centreOnScreen(restoreWindow_.get());
+    bringToFront(restoreWindow_.get());
 }
 
 void AppDelegate::showComparison(const ConfigComparison& comparison, const ConfigChoice& chosen) {

@@ -17,6 +17,7 @@ class EscapeCloser;
 class QAction;
 class QMainWindow;
 class QMenu;
+class RestoreWindow;
 class SleepInhibitor;
 class UpdateController;
 
@@ -57,6 +58,8 @@ class AppDelegate : public QObject {
     AboutWindow* aboutWindow() const { return aboutWindow_.get(); }
     /// The window of the last comparison; null until one ended.
     CompareWindow* compareWindow() const { return compareWindow_.get(); }
+    /// The last Restore Machine Config window; null until one was opened.
+    RestoreWindow* restoreWindow() const { return restoreWindow_.get(); }
 
   public slots:
     void showAbout();
@@ -80,6 +83,9 @@ class AppDelegate : public QObject {
     void compareWithProduct(QAction* item);
     /// Asks for a configuration file and compares the machine's with it.
     void compareWithFile();
+    /// Opens the Restore Machine Config window on the backups folder as it is now,
+    /// in place of an earlier one; a record that cannot be read is logged.
+    void restoreMachineConfig();
     /// Shows `comparison` in a new compare window, in place of an earlier one; its
     /// "Upload This Configuration" uploads `chosen` as the Config menu would.
     void showComparison(const ConfigComparison& comparison, const ConfigChoice& chosen);
@@ -101,6 +107,7 @@ class AppDelegate : public QObject {
     std::unique_ptr<UpdateController> updateController_;
     std::unique_ptr<AboutWindow> aboutWindow_;
     std::unique_ptr<CompareWindow> compareWindow_;
+    std::unique_ptr<RestoreWindow> restoreWindow_;
     EscapeCloser* escapeCloser_ = nullptr;
     QuitGuard* quitGuard_ = nullptr;
     SleepInhibitor* sleepInhibitor_;

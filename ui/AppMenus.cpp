@@ -102,6 +102,8 @@ QMenu* AppDelegate::addConfigMenu() {
         compare->addSeparator();
     }
     compare->addAction(QStringLiteral("Choose File\u2026"), this, &AppDelegate::compareWithFile);
+    menu->addAction(QStringLiteral("Restore Machine Config\u2026"), this,
+                    &AppDelegate::restoreMachineConfig);
     return menu;
 }
 

@@ -4,11 +4,14 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTextBrowser>
+#include <QTreeWidget>
 
 #include "UiTestSupport.h"
+#include "app/BackupIndex.h"
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
 #include "ui/LogPanel.h"
+#include "ui/RestoreWindow.h"
 #include "ui/SingleInstance.h"
 #include "ui/UpdaterView.h"
 
@@ -43,6 +46,7 @@ class AppDelegateTest : public QObject {
     void saveLogWritesHeaderAndLinesOrLogsWhyNot();
     void fileDialogsTakeOnlyTheirExtensions();
     void aSecondCopyOfAProgramFindsItLocked();
+    void restoreWindowPutsThisMachineOnTopAndActsOnTheSelectedRow();
 
   private:
     void launch(QList<ProductConfig> products);
@@ -111,6 +115,7 @@ void AppDelegateTest::menuBarMatchesTheTableAndProductItemsUploadByTag() {
         "    Beta||tag=1",
         "    ---",
         "    Choose File\u2026||",
+        "  Restore Machine Config\u2026||",
     };
     QCOMPARE(menus(), expected);
     QCOMPARE(action("About Teskal Firmware Updater")->menuRole(), QAction::AboutRole);
@@ -131,7 +136,8 @@ void AppDelegateTest::menuBarMatchesTheTableAndProductItemsUploadByTag() {
     QCOMPARE(menus().mid(menus().indexOf("Config||")),
              QStringList({"Config||", "  No products configured||disabled", "  ---",
                           "  Select from Disk...||", "  ---", "  Save Machine Config\u2026||",
-                          "  Compare With Machine\u2026||", "    Choose File\u2026||"}));
+                          "  Compare With Machine\u2026||", "    Choose File\u2026||",
+                          "  Restore Machine Config\u2026||"}));
 }
 
 void AppDelegateTest::togglesFlipTheFlagAndTheCheckMark() {
@@ -287,6 +293,68 @@ void AppDelegateTest::aSecondCopyOfAProgramFindsItLocked() {
     QVERIFY(SingleInstance::tryLock("teskal-updater-sim"));  // another program
     first.reset();
     QVERIFY(SingleInstance::tryLock("teskal-firmware-updater"));
+}
+
+void AppDelegateTest::restoreWindowPutsThisMachineOnTopAndActsOnTheSelectedRow() {
+    QTemporaryDir data;
+    qputenv("XDG_DATA_HOME", data.path().toUtf8());
+    const BackupIndex index;
+    const QDateTime time(QDate(2024, 5, 1), QTime(14, 3, 22));
+    const auto keep = [&](const char* machine, int hours, BackupReason reason,
+                          std::optional<QString> firmware) {
+        return std::get<Backup>(
+            index.keep("abc", {reason, machine, firmware, time.addSecs(3600 * hours)}));
+    };
+    const Backup oldest = keep("SN-A", 0, BackupReason::save, "v3.7.8");
+    const Backup other = keep("SN-B", 1, BackupReason::beforeErase, std::nullopt);
+    const Backup newest = keep("SN-A", 2, BackupReason::compare, "v3.7.8");
+    QFile corrupt(index.folder() + "/config-broken.json");
+    QVERIFY(corrupt.open(QIODevice::WriteOnly) && corrupt.write("{") == 1);
+    corrupt.close();
+    const auto rows = [](const RestoreWindow& window) {
+        QStringList out;
+        for (int row = 0; row < window.list()->topLevelItemCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < window.list()->columnCount(); ++column) {
+                cells << window.list()->topLevelItem(row)->text(column);
+            }
+            out << cells.join('|');
+        }
+        return out;
+    };
+
+    // No machine connected: newest first; the unreadable record is named in the log.
+    action("Restore Machine Config\u2026")->trigger();
+    RestoreWindow* shown = delegate_->restoreWindow();
+    QVERIFY(QTest::qWaitForWindowExposed(shown));
+    QCOMPARE(shown->backups(), QList<Backup>({newest, other, oldest}));
+    QTRY_COMPARE(
+        delegate_->updateController().logMessages(),
+        QStringList{"Skipped the backup record " + corrupt.fileName() + ": not a backup record"});
+
+    RestoreWindow window(index.list(), "SN-A", index.folder());
+    QCOMPARE(rows(window),
+             QStringList({"2024-05-01 16:03:22|Compared|v3.7.8|3 bytes|SN-A (this machine)",
+                          "2024-05-01 14:03:22|Saved|v3.7.8|3 bytes|SN-A (this machine)",
+                          "2024-05-01 15:03:22|Before erase|-|3 bytes|SN-B"}));
+    QSignalSpy compared(&window, &RestoreWindow::compareRequested);
+    QSignalSpy restored(&window, &RestoreWindow::restoreRequested);
+    window.show();
+    window.list()->setCurrentItem(window.list()->topLevelItem(2));
+    QTest::mouseClick(window.compareButton(), Qt::LeftButton);
+    QTest::mouseClick(window.restoreButton(), Qt::LeftButton);
+    QCOMPARE(compared.size(), 1);
+    QCOMPARE(compared[0][0].value<Backup>(), other);
+    QCOMPARE(restored.size(), 1);
+    QCOMPARE(restored[0][0].value<Backup>(), other);
+    QVERIFY(!window.isVisible());
+
+    // The window's Restore reaches the controller, which needs a machine.
+    QTest::mouseClick(shown->restoreButton(), Qt::LeftButton);
+    QTRY_COMPARE(delegate_->updateController().logMessages().last(), "ERROR: No device connected");
+
+    RestoreWindow empty({}, QString(), index.folder());
+    QVERIFY(!empty.restoreButton()->isEnabled() && !empty.compareButton()->isEnabled());
 }
 
 QTEST_MAIN(AppDelegateTest)

@@ -11,6 +11,7 @@
 #include "ui/LogPanel.h"
 #include "ui/LogView.h"
 #include "ui/QuitGuard.h"
+#include "ui/RestoreWindow.h"
 #include "ui/UpdaterView.h"
 
 // Renders the windows in their characteristic states to PNG files in the folder
@@ -27,6 +28,7 @@ class ScreensTest : public QObject {
     void mainWindowStates();
     void aboutWindow();
     void compareWindow();
+    void restoreWindow();
 
   private:
     void save(QWidget* window, const QString& name) {
@@ -116,6 +118,30 @@ void ScreensTest::compareWindow() {
     save(&compare, QStringLiteral("compare-by-key"));
     compare.tabs()->setCurrentIndex(1);
     save(&compare, QStringLiteral("compare-by-line"));
+}
+
+void ScreensTest::restoreWindow() {
+    const QDateTime time(QDate(2024, 5, 1), QTime(14, 3, 22));
+    const QString folder =
+        QStringLiteral("/home/owner/.local/share/teskal-firmware-updater/backups");
+    const auto backup = [&](int hours, BackupReason reason, const QString& machine,
+                            std::optional<QString> firmware) {
+        return Backup{folder + QStringLiteral("/config-%1.yaml").arg(hours),
+                      time.addSecs(3600 * hours),
+                      reason,
+                      machine,
+                      firmware,
+                      2870,
+                      QString(64, '0')};
+    };
+    RestoreWindow restore({backup(0, BackupReason::save, "3C8A1F20B4E2", "v3.7.8"),
+                           backup(3, BackupReason::beforeErase, "3C8A1F20B4E2", "v3.7.8"),
+                           backup(5, BackupReason::compare, "/dev/ttyACM1", "v3.6.2"),
+                           backup(26, BackupReason::beforeUpload, "3C8A1F20B4E2", std::nullopt)},
+                          QStringLiteral("3C8A1F20B4E2"), folder);
+    restore.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&restore));
+    save(&restore, QStringLiteral("restore"));
 }
 
 QTEST_MAIN(ScreensTest)

@@ -1,0 +1,104 @@
+#include "ui/RestoreWindow.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "app/Texts.h"
+#include "ui/Fonts.h"
+
+RestoreWindow::RestoreWindow(QList<Backup> backups, const QString& machine, const QString& folder,
+                             QWidget* parent)
+    : QWidget(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowCloseButtonHint),
+      backups_(ordered(std::move(backups), machine)),
+      summary_(new QLabel(this)),
+      list_(new QTreeWidget(this)),
+      compare_(new QPushButton(QStringLiteral("Compare With Machine"), this)),
+      restore_(new QPushButton(QStringLiteral("Restore"), this)),
+      close_(new QPushButton(QStringLiteral("Close"), this)) {
+    setWindowTitle(QStringLiteral("Restore Machine Config"));
+    resize(600, 360);
+    setMinimumSize(480, 280);
+    buildLayout(backups_.isEmpty() ? Texts::noBackupsToRestore(folder)
+                                   : Texts::backupsToRestore(folder));
+    fillList(machine);
+    connect(compare_, &QPushButton::clicked, this, [this] {
+        if (const Backup* backup = selected()) {
+            emit compareRequested(*backup);
+        }
+    });
+    connect(restore_, &QPushButton::clicked, this, [this] {
+        if (const Backup* backup = selected()) {
+            const Backup chosen = *backup;
+            close();
+            emit restoreRequested(chosen);
+        }
+    });
+    connect(close_, &QPushButton::clicked, this, &QWidget::close);
+    close_->setShortcut(QKeySequence(Qt::Key_Escape));
+}
+
+QList<Backup> RestoreWindow::ordered(QList<Backup> backups, const QString& machine) {
+    std::stable_sort(backups.begin(), backups.end(), [&](const Backup& a, const Backup& b) {
+        const bool aMine = !machine.isEmpty() && a.machine == machine;
+        const bool bMine = !machine.isEmpty() && b.machine == machine;
+        return aMine != bMine ? aMine : a.time > b.time;
+    });
+    return backups;
+}
+
+void RestoreWindow::buildLayout(const QString& summary) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(20, 20, 20, 20);
+    column->setSpacing(12);
+
+    summary_->setTextFormat(Qt::PlainText);
+    summary_->setWordWrap(true);
+    summary_->setFont(Fonts::system(13));
+    summary_->setText(summary);
+    column->addWidget(summary_);
+
+    list_->setFont(Fonts::system(12));
+    list_->setRootIsDecorated(false);
+    list_->setHeaderLabels({QStringLiteral("Date"), QStringLiteral("Reason"),
+                            QStringLiteral("Firmware"), QStringLiteral("Size"),
+                            QStringLiteral("Machine")});
+    list_->header()->setStretchLastSection(true);
+    column->addWidget(list_, 1);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    for (QPushButton* button : {compare_, restore_, close_}) {
+        button->setFont(Fonts::system(13));
+        buttons->addWidget(button);
+    }
+    column->addLayout(buttons);
+}
+
+void RestoreWindow::fillList(const QString& machine) {
+    for (const Backup& backup : backups_) {
+        const QString owner =
+            backup.machine == machine ? Texts::thisMachine(backup.machine) : backup.machine;
+        list_->addTopLevelItem(
+            new QTreeWidgetItem({Texts::backupTime(backup.time), Texts::backupReason(backup.reason),
+                                 backup.firmwareVersion.value_or(QStringLiteral("-")),
+                                 Texts::byteCount(backup.size), owner}));
+    }
+    for (int column = 0; column < list_->columnCount() - 1; ++column) {
+        list_->resizeColumnToContents(column);
+    }
+    list_->setCurrentItem(list_->topLevelItem(0));
+    compare_->setEnabled(!backups_.isEmpty());
+    restore_->setEnabled(!backups_.isEmpty());
+    restore_->setDefault(!backups_.isEmpty());
+}
+
+const Backup* RestoreWindow::selected() const {
+    const int row = list_->indexOfTopLevelItem(list_->currentItem());
+    return row >= 0 ? &backups_[row] : nullptr;
+}
