@@ -1,14 +1,20 @@
 #include <poll.h>
 #include <pty.h>
 #include <signal.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <QSet>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include "cli/Fleet.h"
+#include "tests/support/TestImages.h"
 
 namespace {
 
@@ -65,6 +71,50 @@ qint64 devImageSize(const QString& name) {
     return QFileInfo(kDev + '/' + name + ".bin").size();
 }
 
+QByteArray contentsOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// The processes whose parent is `parent`.
+QList<qint64> childrenOf(qint64 parent) {
+    QList<qint64> children;
+    for (const QString& pid : QDir("/proc").entryList(QDir::Dirs)) {
+        const QList<QByteArray> fields =
+            contentsOf("/proc/" + pid + "/stat").split(')').last().split(' ');
+        if (fields.size() > 2 && fields[2].toLongLong() == parent) {
+            children << pid.toLongLong();
+        }
+    }
+    return children;
+}
+
+// Stands in for teskal-flash as a fleet's child, which is started with "--port P
+// --json": P is "STATUS:SECONDS[:crash|:crash-after]", a result line with that
+// status after that long, killed before or after the line.
+const QByteArray kStandIn =
+    "#!/bin/sh\n"
+    "set -- $(echo \"$2\" | tr : ' ')\n"
+    "sleep \"$2\"\n"
+    "[ \"$3\" = crash ] && kill -KILL $$\n"
+    "echo \"{\\\"type\\\":\\\"result\\\",\\\"code\\\":$1,\\\"message\\\":\\\"status $1\\\"}\"\n"
+    "[ \"$3\" = crash-after ] && kill -KILL $$\n"
+    "exit \"$1\"\n";
+
+// What a fleet reported: "PORT CODE" for a result, "PORT error" for an error.
+class Recorder : public Reporter {
+  public:
+    void report(const QString& port, const Event& event) override {
+        if (const auto* result = std::get_if<event::Result>(&event)) {
+            lines << port + ' ' + QString::number(result->code);
+        } else if (std::holds_alternative<event::Error>(event)) {
+            lines << port + " error";
+        }
+    }
+    void notice(const QString&) override {}
+    QStringList lines;
+};
+
 }  // namespace
 
 /// The program as a user runs it, against simulated plotters on pseudo-terminals.
@@ -77,6 +127,8 @@ class CliTest : public QObject {
     void subcommands();
     void jsonLinesCarryTheBytesOfTheFlashPlan();
     void severalPlottersRunAtOnce();
+    void fleetEndsWithTheFirstFailureInPortOrder_data();
+    void fleetEndsWithTheFirstFailureInPortOrder();
     void terminalProgressIsRedrawnInPlace();
     void ctrlCWarnsOnceDuringAWrite();
 
@@ -86,17 +138,41 @@ class CliTest : public QObject {
 };
 
 void CliTest::initTestCase() {
+    const QByteArray firmware = contentsOf(kDev + "/firmware.bin");
+    const auto unmarkedBytes =
+        testimg::unmarked(std::vector<uint8_t>(firmware.begin(), firmware.end()));
+    const QByteArray unmarked(reinterpret_cast<const char*>(unmarkedBytes.data()),
+                              qsizetype(unmarkedBytes.size()));
+    const QByteArray marker(testimg::kMarker.data(), qsizetype(testimg::kMarker.size()));
+    const qsizetype partition = 0x1E0000;  // the development set's application partition
+    const QByteArray mebibyte = QByteArray("name: x\n").leftJustified(1024 * 1024 - 1, '#') + '\n';
     const std::pair<QString, QByteArray> contents[] = {
         {"text.bin", "{\"name\": \"plotter\"}\n"},
         {"workshop.yml", "name: \"Workshop plotter\"\nmeta: '9.9'\n"},
         {"bad.yaml", "axes:\n  x: [1, 2\n"},
         {"notes.txt", "pens: 12\n"},
+        {"fits.bin", firmware.leftJustified(partition, '\xFF')},
+        {"over.bin", firmware.leftJustified(partition + 1, '\xFF')},
+        {"exact.yaml", mebibyte},
+        {"over.yaml", mebibyte + '\n'},
+        {"late.bin", unmarked.leftJustified(partition - marker.size(), '\xFF') + marker},
+        // Resources a real machine could be given, but for their stub's last bytes.
+        {"real/firmware.bin", unmarked},
+        {"real/bootloader.bin", unmarked},
+        {"real/partitions.bin", contentsOf(kDev + "/partitions.bin")},
+        {"real/boot_app0.bin", QByteArray(8192, '\xFF')},
+        {"real/esp32s3_stub.bin", QByteArray(100 * 1024, '\0') + marker},
+        {"stand-in", kStandIn},
     };
+    QVERIFY(QDir(files_.path()).mkpath("empty-resources") && QDir(files_.path()).mkpath("real"));
     for (const auto& [name, bytes] : contents) {
         QFile out(file(name));
         QVERIFY(out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size());
     }
-    QVERIFY(QDir(files_.path()).mkpath("empty-resources"));
+    QVERIFY(QFile::setPermissions(file("stand-in"), QFile::ReadOwner | QFile::ExeOwner));
+    // Children that teskal-flash leaves behind come to this process, which can tell
+    // how they ended.
+    QVERIFY(::prctl(PR_SET_CHILD_SUBREAPER, 1) == 0);
 }
 
 void CliTest::subcommands_data() {
@@ -227,6 +303,39 @@ void CliTest::subcommands_data() {
            "ERROR: notes.txt is neither a firmware image (.bin) nor a machine configuration "
            "(.yaml, .yml)\n"
            "ERROR: 3 of 3 files refused\n";
+    QTest::newRow("inspect, at the limits and past them")
+        << QStringList{"inspect",          "--sim",          file("fits.bin"), file("over.bin"),
+                       file("exact.yaml"), file("over.yaml")}
+        << 11
+        << QStringList{"fits.bin",
+                       "  partition: fits (the application partition holds 1,966,080 bytes)",
+                       "  result: passes",
+                       "over.bin",
+                       "  partition: too large (the application partition holds 1,966,080 bytes)",
+                       "  result: refused",
+                       "exact.yaml",
+                       "  result: passes",
+                       "over.yaml",
+                       "  result: refused"}
+        << QStringList{}
+        << "ERROR: over.bin cannot be used: too large for the application partition (1,966,081 "
+           "bytes; the partition holds 1,966,080)\n"
+           "ERROR: over.yaml is not a valid machine configuration: larger than 1 MiB\n"
+           "ERROR: 2 of 4 files refused\n";
+    QTest::newRow("flash, real port, marker at the end of the chosen image")
+        << QStringList{"flash", "--resources", file("real"),    "--port",
+                       kNoPort, "--firmware",  file("late.bin")}
+        << 11 << QStringList{} << QStringList{"Checking device status"}
+        << "ERROR: Firmware image refused: a development image, not firmware\n";
+    QTest::newRow("flash, real port, marker at the end of a bundled image")
+        << QStringList{"flash", "--resources", file("real"), "--port", kNoPort} << 11
+        << QStringList{} << QStringList{"Checking device status"}
+        << "ERROR: Bundled esp32s3_stub.bin refused: a development image, not firmware\n";
+    QTest::newRow("detect, 64 simulated")
+        << QStringList{"detect", "--sim", "64"} << 0 << QStringList{"sim1", "sim64"}
+        << QStringList{"sim65"} << "";
+    QTest::newRow("detect, 65 simulated") << QStringList{"detect", "--sim", "65"} << 64
+                                          << QStringList{} << QStringList{} << QString();
     QTest::newRow("usage error") << QStringList{"flash", "--all", "--port", "sim1"} << 64
                                  << QStringList{} << QStringList{} << QString();
 }
@@ -307,6 +416,42 @@ void CliTest::severalPlottersRunAtOnce() {
              kNoPort + ": ERROR: Firmware image refused: a development image, not firmware\n");
 }
 
+void CliTest::fleetEndsWithTheFirstFailureInPortOrder_data() {
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QStringList>("ports");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QStringList>("reported");  // sorted
+    const QString standIn = file("stand-in");
+    QTest::newRow("the first port fails last")
+        << standIn << QStringList{"3:0.5", "5:0"} << 3 << QStringList{"3:0.5 3", "5:0 5"};
+    QTest::newRow("the first port fails first")
+        << standIn << QStringList{"3:0", "5:0.5"} << 3 << QStringList{"3:0 3", "5:0.5 5"};
+    QTest::newRow("a child killed before its result")
+        << standIn << QStringList{"0:0", "0:0.3:crash", "3:0"} << 70
+        << QStringList{"0:0 0", "0:0.3:crash 70", "3:0 3"};
+    QTest::newRow("a child killed after its result")
+        << standIn << QStringList{"0:0.3:crash-after", "3:0"} << 70
+        << QStringList{"0:0.3:crash-after 0", "0:0.3:crash-after error", "3:0 3"};
+    QTest::newRow("children that cannot start")
+        << file("missing") << QStringList{"a", "b"} << 70 << QStringList{"a 70", "b 70"};
+}
+
+void CliTest::fleetEndsWithTheFirstFailureInPortOrder() {
+    QFETCH(QString, program);
+    QFETCH(QStringList, ports);
+    QFETCH(int, exitCode);
+    QFETCH(QStringList, reported);
+
+    Recorder recorder;
+    Fleet fleet(program, ports, {}, false, recorder);
+    QSignalSpy finished(&fleet, &Fleet::finished);
+    fleet.start();
+    QVERIFY(finished.wait(10000));
+    QCOMPARE(finished.first().first().toInt(), exitCode);
+    recorder.lines.sort();
+    QCOMPARE(recorder.lines, reported);
+}
+
 void CliTest::terminalProgressIsRedrawnInPlace() {
     int master = -1;
     int slave = -1;
@@ -335,29 +480,40 @@ void CliTest::terminalProgressIsRedrawnInPlace() {
     QVERIFY(screen.contains(kComplete.toUtf8() + "\r\n"));
 }
 
+// With several plotters the program stops its children before it ends.
 void CliTest::ctrlCWarnsOnceDuringAWrite() {
-    for (const bool duringWrite : {true, false}) {
-        QProcess process;
-        process.start(kProgram, {"flash", "--sim", "--json"});
-        const QByteArray awaited = duringWrite ? "\"type\":\"progress\"" : "\"type\":\"log\"";
-        QByteArray out;
-        QVERIFY(QTest::qWaitFor(
-            [&] {
-                process.waitForReadyRead(50);
-                out += process.readAllStandardOutput();
-                return out.contains(awaited);
-            },
-            20000));
-        ::kill(static_cast<pid_t>(process.processId()), SIGINT);
-        if (duringWrite) {
-            QByteArray err;
-            QTRY_COMPARE(QString::fromUtf8(err += process.readAllStandardError()), kWarning);
-            QVERIFY(!process.waitForFinished(300));  // the write goes on
-            ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+    for (const QStringList& plotters : {QStringList{"--sim"}, QStringList{"--sim", "3", "--all"}}) {
+        for (const bool duringWrite : {true, false}) {
+            QProcess process;
+            process.start(kProgram, QStringList{"flash", "--json"} + plotters);
+            const QByteArray awaited = duringWrite ? "\"type\":\"progress\"" : "\"type\":\"log\"";
+            QByteArray out;
+            QVERIFY(QTest::qWaitFor(
+                [&] {
+                    process.waitForReadyRead(50);
+                    out += process.readAllStandardOutput();
+                    return out.contains(awaited);
+                },
+                20000));
+            const auto pid = static_cast<pid_t>(process.processId());
+            const QList<qint64> children = childrenOf(pid);
+            QCOMPARE(children.size(), plotters.size() == 1 ? 0 : 3);
+            ::kill(pid, SIGINT);
+            if (duringWrite) {
+                QByteArray err;
+                QTRY_COMPARE(QString::fromUtf8(err += process.readAllStandardError()), kWarning);
+                QVERIFY(!process.waitForFinished(300));  // the write goes on
+                ::kill(pid, SIGINT);
+            }
+            QVERIFY(process.waitForFinished(5000));
+            QCOMPARE(process.exitCode(), 130);
+            QVERIFY(!process.readAllStandardOutput().contains("\"type\":\"result\""));
+            for (const qint64 child : children) {
+                int status = 0;
+                QCOMPARE(::waitpid(static_cast<pid_t>(child), &status, 0), child);
+                QVERIFY(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
+            }
         }
-        QVERIFY(process.waitForFinished(5000));
-        QCOMPARE(process.exitCode(), 130);
-        QVERIFY(!process.readAllStandardOutput().contains("\"type\":\"result\""));
     }
 }
 
