@@ -145,15 +145,20 @@ TEST_F(DeviceJobsTest, DownloadGivesBackTheUploadedBytes) {
     }
 }
 
+// Each bound at its limit and one step past it: 25 transmissions of a block, 30
+// transfer requests (the sender waits longer than that), 16 MiB of file.
 TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
-    const auto file = configFile(5000);
+    const auto small = configFile(5000);
     // `failure` null: the file arrives whole.
     const auto expectDownload = [&](const std::function<void(sim::Config&)>& fault,
-                                    const char* failure, int row = __builtin_LINE()) {
+                                    const char* failure, const Bytes& file, int lostRequests = 0,
+                                    int row = __builtin_LINE()) {
         const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
         clearRecords();
         const auto& watched = device([&](auto& d) {
             d.plotter.config().machineConfig = std::string(file.begin(), file.end());
+            d.plotter.config().xmodemIdleTimeoutMs = 40000;
+            d.lostRequests = lostRequests;
             fault(d.plotter.config());
         });
         const auto downloaded = esp::runDownloadFileJob(port, "config.yaml", nullptr, recordLog);
@@ -162,19 +167,24 @@ TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
         EXPECT_EQ(downloaded, failure ? std::nullopt : std::optional(file));
         EXPECT_EQ(logLines, failure ? Lines{failure} : Lines{});
     };
-    expectDownload([](auto& c) { c.xmodemSendCorruptBlock = 2; }, nullptr);
-    expectDownload([](auto& c) { c.xmodemSendDropBlock = 3; }, nullptr);
-    expectDownload([](auto& c) { c.xmodemSendRepeatBlock = 1; }, nullptr);
-    expectDownload(
-        [](auto& c) {
+    const auto corrupt = [](int times) {
+        return [times](sim::Config& c) {
             c.xmodemSendCorruptBlock = 2;
-            c.xmodemSendCorruptTimes = 100;
-        },
-        "XModem download: block 2 failed 25 times");
+            c.xmodemSendCorruptTimes = times;
+        };
+    };
+    const auto healthy = [](sim::Config&) {};
+    expectDownload([](auto& c) { c.xmodemSendDropBlock = 3; }, nullptr, small);
+    expectDownload([](auto& c) { c.xmodemSendRepeatBlock = 1; }, nullptr, small);
+    expectDownload(corrupt(24), nullptr, small);
+    expectDownload(corrupt(25), "XModem download: block 2 failed 25 times", small);
+    expectDownload(healthy, nullptr, small, 29);
+    expectDownload(healthy, "XModem download: no block received", small, 30);
+    expectDownload(healthy, nullptr, configFile(16 * 1024 * 1024));
+    expectDownload(healthy, "XModem download: file larger than 16 MiB",
+                   configFile(16 * 1024 * 1024 + 1024));
     expectDownload([](auto& c) { c.xmodemSendCanBlock = 2; },
-                   "XModem download: cancelled by the device");
-    expectDownload([](auto& c) { c.xmodemSendSilent = true; },
-                   "XModem download: no block received");
+                   "XModem download: cancelled by the device", small);
 }
 
 TEST(PartitionTable, NeedsAReachableApplicationEntryAt0x10000) {

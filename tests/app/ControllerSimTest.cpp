@@ -185,6 +185,19 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
                                  UpdateState::uploadingConfig(1), UpdateState::configComplete()}));
     QVERIFY(progress == QList<float>({0.333333343f, 0.666666687f, 1.0f}));
     QVERIFY(storedConfig(plotter) == workshop);
+
+    // A file past the 16 MiB bound is not saved; the earlier copy stays as it was.
+    sim::Config huge;
+    huge.machineConfig = std::string(16 * 1024 * 1024 + 1024, '#');
+    sim::PtyPlotter hugePlotter(huge);
+    QVERIFY(harness.plug(QString::fromStdString(hugePlotter.path())));
+    controller.saveMachineConfig(saved);
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs),
+             std::optional(UpdateState::error("Could not read config.yaml from the machine: "
+                                              "XModem download: file larger than 16 MiB")));
+    QCOMPARE(readFile(saved), tuned);
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files),
+             QStringList({"saved.yaml", "workshop.yaml", "workshop.yml"}));
 }
 
 QTEST_GUILESS_MAIN(ControllerSimTest)
