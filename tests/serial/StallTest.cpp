@@ -5,44 +5,36 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
 #include "serial/Clock.h"
 #include "serial/SerialPort.h"
 
-// Link seam (--wrap=ppoll) over the virtual clock: the port waits for room in the
-// line with ppoll, so here that wait passes in virtual time, and the device on the
-// pseudo-terminal's master side reads the line once it has rested `restNs` since
-// its last read. The pseudo-terminal itself is the kernel's.
+// Link seam (--wrap=ppoll) over the virtual clock: the port's wait for room in the
+// line passes in virtual time, and the device on the pseudo-terminal's master side
+// reads the line only once it has rested `restNs` since its last read.
 namespace {
-
-struct Device {
-    int master = -1;
-    int64_t restNs = 0;
-    int64_t lastReadNs = 0;
-    size_t received = 0;
-} device;
+int master = -1;
+int64_t restNs = 0;
+int64_t lastReadNs = 0;
+size_t received = 0;
 
 void readLine() {
     char chunk[4096];
-    for (ssize_t n; (n = ::read(device.master, chunk, sizeof chunk)) > 0;) {
-        device.received += static_cast<size_t>(n);
+    for (ssize_t n; (n = ::read(master, chunk, sizeof chunk)) > 0;) {
+        received += static_cast<size_t>(n);
     }
 }
-
 }  // namespace
 
 extern "C" int __real_ppoll(pollfd* fds, nfds_t count, const timespec* limit, const sigset_t* mask);
 
 extern "C" int __wrap_ppoll(pollfd* fds, nfds_t count, const timespec* limit,
                             const sigset_t* mask) {
-    const int64_t now = mono::nowNs();
-    if (now - device.lastReadNs < device.restNs) {
-        const int64_t ns = limit->tv_sec * 1'000'000'000 + limit->tv_nsec;
-        mono::sleepMs(static_cast<int>((ns + 999'999) / 1'000'000));
+    if (mono::nowNs() - lastReadNs < restNs) {
+        mono::sleepMs(static_cast<int>((limit->tv_sec * 1'000'000'000 + limit->tv_nsec + 999'999) /
+                                       1'000'000));
         return 0;
     }
-    device.lastReadNs = now;
+    lastReadNs = mono::nowNs();
     // The kernel frees the writer's room a moment after the device reads.
     const timespec none{0, 0};
     int ready = 0;
@@ -53,33 +45,28 @@ extern "C" int __wrap_ppoll(pollfd* fds, nfds_t count, const timespec* limit,
     return ready;
 }
 
-namespace {
-
-// A device that rests less than 10 s between reads takes a write of many lines'
-// worth; one that rests longer ends it. The stall is counted from the last byte taken.
+// A device that rests under 10 s between reads takes a write many times what the
+// line holds; one that rests longer ends it. The stall counts from the last byte taken.
 TEST(WriteStall, EndsAWriteOnlyAfterTenSecondsWithoutProgress) {
-    const std::vector<uint8_t> block(256 * 1024, 'w');  // far more than the line holds
+    const std::vector<uint8_t> block(256 * 1024, 'w');
     for (const auto& [restMs, written] : {std::pair{9900, true}, std::pair{10100, false}}) {
         SCOPED_TRACE(restMs);
         int slave = -1;
         char path[128];
-        ASSERT_EQ(::openpty(&device.master, &slave, path, nullptr, nullptr), 0);
-        ::fcntl(device.master, F_SETFL, O_NONBLOCK);
+        ASSERT_EQ(::openpty(&master, &slave, path, nullptr, nullptr), 0);
+        ::fcntl(master, F_SETFL, O_NONBLOCK);
         SerialPort port;
         ASSERT_TRUE(port.open(path));
-        device.restNs = int64_t{restMs} * 1'000'000;
-        device.lastReadNs = mono::nowNs();
-        device.received = 0;
+        restNs = int64_t{restMs} * 1'000'000;
+        lastReadNs = mono::nowNs();
+        received = 0;
         EXPECT_EQ(port.write(block), written);
-        for (int i = 0; i < 2000 && written && device.received < block.size(); ++i) {
-            ::usleep(1000);
+        for (int i = 0; i < 2000 && written && received < block.size(); ++i, ::usleep(1000)) {
             readLine();
         }
-        EXPECT_EQ(device.received, written ? block.size() : 0u);
+        EXPECT_EQ(received, written ? block.size() : 0u);
         port.close();
         ::close(slave);
-        ::close(device.master);
+        ::close(master);
     }
 }
-
-}  // namespace
