@@ -3,6 +3,7 @@
 
 #include "ControllerHarness.h"
 #include "sim/PtyPlotter.h"
+#include "tests/support/Descriptors.h"
 
 namespace {
 
@@ -27,11 +28,11 @@ class ControllerSimTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void updatesOfAChosenImageAndAfterEraseAll();
+    void updatesOfAChosenImageAfterEraseAllAndUnplugged();
     void configurationsSavedComparedBackedUpAndUploaded();
 };
 
-void ControllerSimTest::updatesOfAChosenImageAndAfterEraseAll() {
+void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
     sim::PtyPlotter plotter;
     const QString port = QString::fromStdString(plotter.path());
     ControllerHarness harness;
@@ -73,6 +74,21 @@ void ControllerSimTest::updatesOfAChosenImageAndAfterEraseAll() {
             QVERIFY2(QByteArray(flash + address, image.size()) == image, name);
         }
     });
+
+    // The cable pulled during the write: the job fails and releases the port, and
+    // the next poll, which no longer finds the device, shows the waiting state.
+    sim::Config pulled;
+    pulled.goneAfterFlashData = 3;
+    sim::PtyPlotter unplugged(pulled);
+    controller.setEraseAllFlashEnabled(false);
+    QVERIFY(harness.plug(QString::fromStdString(unplugged.path())));
+    controller.updateFirmware();
+    const QString failed = QStringLiteral("Flash write failed. Try again.");
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::error(failed)));
+    QCOMPARE(fdcheck::descriptorsOn(unplugged.path()), size_t{0});
+    QVERIFY(harness.plug({}));
+    QCOMPARE(controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
+    QCOMPARE(controller.logMessages().last(), "ERROR: " + failed);
 }
 
 void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
