@@ -159,6 +159,7 @@ void CliTest::initTestCase() {
 }
 
 void CliTest::subcommands_data() {
+    using L = QStringList;  // short rows
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("exitCode");
     QTest::addColumn<QStringList>("outLines");  // in this order, others between them
@@ -170,123 +171,108 @@ void CliTest::subcommands_data() {
         "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for "
         "your machine.");
     QTest::newRow("detect, 64 simulated")
-        << QStringList{"detect", "--sim", "64"} << 0 << QStringList{"sim1", "sim2", "sim64"}
-        << QStringList{"sim65"} << "";
-    QTest::newRow("version") << QStringList{"version", "--sim"} << 0 << QStringList{"v3.7.8"}
-                             << QStringList{} << "";
+        << L{"detect", "--sim", "64"} << 0 << L{"sim1", "sim2", "sim64"} << L{"sim65"} << "";
+    QTest::newRow("version") << L{"version", "--sim"} << 0 << L{"v3.7.8"} << L{} << "";
     QTest::newRow("version, no answer")
-        << QStringList{"version", "--port", kNoPort} << 9 << QStringList{} << QStringList{}
+        << L{"version", "--port", kNoPort} << 9 << L{} << L{}
         << "ERROR: Operation timed out. Try unplugging and reconnecting.\n";
-    QTest::newRow("probe") << QStringList{"probe", "--sim"} << 0
-                           << QStringList{"Partition table: present"} << QStringList{} << "";
+    QTest::newRow("probe") << L{"probe", "--sim"} << 0 << L{"Partition table: present"} << L{}
+                           << "";
     QTest::newRow("flash, application only")
-        << QStringList{"flash", "--sim"} << 0
-        << QStringList{"Updating firmware v2.10.6\u2026", "Checking device status\u2026", device,
-                       kComplete}
-        << QStringList{"Opening port"} << "";
+        << L{"flash", "--sim"} << 0
+        << L{"Updating firmware v2.10.6\u2026", "Checking device status\u2026", device, kComplete}
+        << L{"Opening port"} << "";
     QTest::newRow("flash, erase all, verbose")
-        << QStringList{"flash", "--sim", "--erase-all", "--verbose"} << 0
-        << QStringList{"Updating firmware v2.10.6\u2026",
-                       "Erasing entire flash...",
-                       "Flash plan: 4 entries (FULL)",
-                       kComplete,
-                       "",
-                       note}
-        << QStringList{"Checking device status"} << "";
+        << L{"flash", "--sim", "--erase-all", "--verbose"} << 0
+        << L{"Updating firmware v2.10.6\u2026",
+             "Erasing entire flash...",
+             "Flash plan: 4 entries (FULL)",
+             kComplete,
+             "",
+             note}
+        << L{"Checking device status"} << "";
     QTest::newRow("flash, refused image, nothing sent")
-        << QStringList{"flash", "--sim", "--verbose", "--firmware", file("text.bin")} << 11
-        << QStringList{"Updating firmware (custom: text.bin)\u2026"}
-        << QStringList{"Checking device status", "Opening port"}
+        << L{"flash", "--sim", "--verbose", "--firmware", file("text.bin")} << 11
+        << L{"Updating firmware (custom: text.bin)\u2026"}
+        << L{"Checking device status", "Opening port"}
         << "ERROR: Firmware image refused: not a firmware image (first byte 0x7B, expected "
            "0xE9)\n";
     QTest::newRow("flash, development image for a real port")
-        << QStringList{"flash", "--sim", "--port", kNoPort} << 11 << QStringList{}
-        << QStringList{"Checking device status"}
+        << L{"flash", "--sim", "--port", kNoPort} << 11 << L{} << L{"Checking device status"}
         << "ERROR: Firmware image refused: a development image, not firmware\n";
     QTest::newRow("flash, resources missing")
-        << QStringList{"flash", "--port", kNoPort, "--resources", file("empty-resources")} << 12
-        << QStringList{} << QStringList{} << "ERROR: Bundled firmware not found\n";
+        << L{"flash", "--port", kNoPort, "--resources", file("empty-resources")} << 12 << L{} << L{}
+        << "ERROR: Bundled firmware not found\n";
     QTest::newRow("upload, product")
-        << QStringList{"upload-config", "--sim", "--product", "Corvane Halcot"} << 0
-        << QStringList{"Preparing Corvane Halcot config v1.2.0-devset", kUploaded} << QStringList{}
-        << "";
+        << L{"upload-config", "--sim", "--product", "Corvane Halcot"} << 0
+        << L{"Preparing Corvane Halcot config v1.2.0-devset", kUploaded} << L{} << "";
     QTest::newRow("upload, file after --sim")
-        << QStringList{"upload-config", "--sim", file("workshop.yml")} << 0
-        << QStringList{"Preparing workshop.yml v9.9", "Uploading config file...", kUploaded}
-        << QStringList{} << "";
+        << L{"upload-config", "--sim", file("workshop.yml")} << 0
+        << L{"Preparing workshop.yml v9.9", "Uploading config file...", kUploaded} << L{} << "";
     QTest::newRow("upload, invalid file")
-        << QStringList{"upload-config", "--sim", file("bad.yaml")} << 11 << QStringList{}
-        << QStringList{"Preparing"}
+        << L{"upload-config", "--sim", file("bad.yaml")} << 11 << L{} << L{"Preparing"}
         << "ERROR: bad.yaml is not a valid machine configuration: line 3, column 1: end of "
            "sequence flow not found\n";
     QTest::newRow("upload, development configuration for a real port")
-        << QStringList{"upload-config", "--sim", "--product", "Halcot.yaml", "--port", kNoPort}
-        << 11 << QStringList{} << QStringList{"Preparing"}
+        << L{"upload-config", "--sim", "--product", "Halcot.yaml", "--port", kNoPort} << 11 << L{}
+        << L{"Preparing"}
         << "ERROR: The development set's configurations are only for simulated plotters\n";
     QTest::newRow("upload, port cannot be opened")
-        << QStringList{"upload-config", "--resources", kDev,   "--product",
-                       "Halcot.yaml",   "--port",      kNoPort}
-        << 2 << QStringList{"Preparing Corvane Halcot config v1.2.0-devset"} << QStringList{}
+        << L{"upload-config", "--resources", kDev, "--product", "Halcot.yaml", "--port", kNoPort}
+        << 2 << L{"Preparing Corvane Halcot config v1.2.0-devset"} << L{}
         << "ERROR: Could not open serial port. Is another app using it?\n";
-    QTest::newRow("save-config") << QStringList{"save-config", "--sim", file("saved.yaml")} << 0
-                                 << QStringList{"Machine config saved to " + file("saved.yaml") +
-                                                " (512 bytes)"}
-                                 << QStringList{} << "";
+    QTest::newRow("save-config") << L{"save-config", "--sim", file("saved.yaml")} << 0
+                                 << L{"Machine config saved to " + file("saved.yaml") +
+                                      " (512 bytes)"}
+                                 << L{} << "";
     QTest::newRow("save-config, port cannot be opened")
-        << QStringList{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 8 << QStringList{}
-        << QStringList{}
+        << L{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 8 << L{} << L{}
         << "ERROR: Could not read config.yaml from the machine: Failed to open port\n";
     QTest::newRow("diff-config, different")
-        << QStringList{"diff-config", "--sim", "--product", "Corvane Halcot"} << 1
-        << QStringList{"axes/x/max_travel_mm: 300.000 \u2192 330.000",
-                       "+ axes/z/motor0/rc_servo/pwm_hz: 50",
-                       "name: Simulated plotter \u2192 Corvane Halcot"}
-        << QStringList{} << "";
+        << L{"diff-config", "--sim", "--product", "Corvane Halcot"} << 1
+        << L{"axes/x/max_travel_mm: 300.000 \u2192 330.000", "+ axes/z/motor0/rc_servo/pwm_hz: 50",
+             "name: Simulated plotter \u2192 Corvane Halcot"}
+        << L{} << "";
     QTest::newRow("diff-config, invalid file")
-        << QStringList{"diff-config", "--sim", file("bad.yaml")} << 11 << QStringList{}
-        << QStringList{"Downloading"}
+        << L{"diff-config", "--sim", file("bad.yaml")} << 11 << L{} << L{"Downloading"}
         << "ERROR: bad.yaml is not a valid machine configuration: line 3, column 1: end of "
            "sequence flow not found\n";
     QTest::newRow("inspect, simulated, at the limits and past them")
-        << QStringList{"inspect",        "--sim",
-                       file("fits.bin"), kDev + "/configs/Halcot.yaml",
-                       file("over.bin"), file("exact.yaml"),
-                       file("over.yaml")}
+        << L{"inspect",        "--sim",
+             file("fits.bin"), kDev + "/configs/Halcot.yaml",
+             file("over.bin"), file("exact.yaml"),
+             file("over.yaml")}
         << 11
-        << QStringList{"fits.bin",
-                       "  chip: ESP32-S3 (chip id 9)",
-                       "  version: 0.0.0-devset",
-                       "  project: teskal-devset",
-                       "  partition: fits (the application partition holds 1,966,080 bytes)",
-                       "  result: passes",
-                       "Halcot.yaml",
-                       "  meta: 1.2.0-devset",
-                       "  result: passes",
-                       "  partition: too large (the application partition holds 1,966,080 bytes)"}
-        << QStringList{}
+        << L{"fits.bin",
+             "  chip: ESP32-S3 (chip id 9)",
+             "  version: 0.0.0-devset",
+             "  project: teskal-devset",
+             "  partition: fits (the application partition holds 1,966,080 bytes)",
+             "  result: passes",
+             "Halcot.yaml",
+             "  meta: 1.2.0-devset",
+             "  result: passes",
+             "  partition: too large (the application partition holds 1,966,080 bytes)"}
+        << L{}
         << "ERROR: over.bin cannot be used: too large for the application partition (1,966,081 "
            "bytes; the partition holds 1,966,080)\n"
            "ERROR: over.yaml is not a valid machine configuration: larger than 1 MiB\n"
            "ERROR: 2 of 5 files refused\n";
     QTest::newRow("inspect, refusals")
-        << QStringList{"inspect",
-                       "--resources",
-                       file("empty-resources"),
-                       kDev + "/firmware.bin",
-                       file("text.bin"),
-                       file("notes.txt")}
+        << L{"inspect",        "--resources",    file("empty-resources"), kDev + "/firmware.bin",
+             file("text.bin"), file("notes.txt")}
         << 11
-        << QStringList{"firmware.bin",
-                       "  partition: unknown (no partition table in the resources)",
-                       "  result: refused",
-                       "text.bin",
-                       "  size: 20 bytes",
-                       "  SHA-256: "
-                       "fa9c3e324e6282a583cf5744a6d61770870e8710d7200dcc77af917e46839f13",
-                       "  result: refused",
-                       "notes.txt",
-                       "  result: refused"}
-        << QStringList{"partition: fits"}
+        << L{"firmware.bin",
+             "  partition: unknown (no partition table in the resources)",
+             "  result: refused",
+             "text.bin",
+             "  size: 20 bytes",
+             "  SHA-256: "
+             "fa9c3e324e6282a583cf5744a6d61770870e8710d7200dcc77af917e46839f13",
+             "  result: refused",
+             "notes.txt",
+             "  result: refused"}
+        << L{"partition: fits"}
         << "ERROR: firmware.bin cannot be used: a development image, not firmware\n"
            "ERROR: text.bin cannot be used: not a firmware image (first byte 0x7B, expected "
            "0xE9)\n"
@@ -294,13 +280,13 @@ void CliTest::subcommands_data() {
            "(.yaml, .yml)\n"
            "ERROR: 3 of 3 files refused\n";
     QTest::newRow("flash, real port, marker at the end of a bundled image")
-        << QStringList{"flash", "--resources", file("real"), "--port", kNoPort} << 11
-        << QStringList{} << QStringList{"Checking device status"}
+        << L{"flash", "--resources", file("real"), "--port", kNoPort} << 11 << L{}
+        << L{"Checking device status"}
         << "ERROR: Bundled esp32s3_stub.bin refused: a development image, not firmware\n";
-    QTest::newRow("detect, 65 simulated") << QStringList{"detect", "--sim", "65"} << 64
-                                          << QStringList{} << QStringList{} << QString();
-    QTest::newRow("usage error") << QStringList{"flash", "--all", "--port", "sim1"} << 64
-                                 << QStringList{} << QStringList{} << QString();
+    QTest::newRow("detect, 65 simulated")
+        << L{"detect", "--sim", "65"} << 64 << L{} << L{} << QString();
+    QTest::newRow("usage error") << L{"flash", "--all", "--port", "sim1"} << 64 << L{} << L{}
+                                 << QString();
 }
 
 void CliTest::subcommands() {
