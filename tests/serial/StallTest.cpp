@@ -5,12 +5,15 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+
 #include "serial/Clock.h"
 #include "serial/SerialPort.h"
 
 // Link seam (--wrap=ppoll) over the virtual clock: the port's wait for room in the
-// line passes in virtual time, and the device on the pseudo-terminal's master side
-// reads the line only once it has rested `restNs` since its last read.
+// line passes in virtual time, half of those waits end interrupted, and the device
+// on the pseudo-terminal's master side reads the line only once it has rested
+// `restNs` since its last read.
 namespace {
 int master = -1;
 int64_t restNs = 0;
@@ -32,7 +35,11 @@ extern "C" int __wrap_ppoll(pollfd* fds, nfds_t count, const timespec* limit,
     if (mono::nowNs() - lastReadNs < restNs) {
         mono::sleepMs(static_cast<int>((limit->tv_sec * 1'000'000'000 + limit->tv_nsec + 999'999) /
                                        1'000'000));
-        return 0;
+        // Every other wait ends as a signal would end it, which must not end the write.
+        static bool interrupted = false;
+        interrupted = !interrupted;
+        errno = interrupted ? EINTR : errno;
+        return interrupted ? -1 : 0;
     }
     lastReadNs = mono::nowNs();
     // The kernel frees the writer's room a moment after the device reads.
