@@ -176,21 +176,6 @@ TEST(MisbehavingDevice, FloodingConsoleEndsEveryCallWithinItsBound) {
         2 + 2 + 3 * (2 + 2) + 2 * 1 + 1.5);
 }
 
-// The chip hangs after the first block and takes nothing more. A block of 0xC0
-// bytes, doubled by SLIP escaping, is more than a pseudo-terminal holds.
-TEST(MisbehavingDevice, DeviceThatStopsReadingEndsTheJobAfterTheWriteStall) {
-    sim::Config config;
-    config.hangAfterFlashData = 1;
-    sim::PtyPlotter plotter(config);
-    const std::vector<uint8_t> image(2 * 16384, 0xC0);
-    logLines.clear();
-    const auto start = Clock::now();
-    EXPECT_EQ(flash(plotter.path(), image.data(), image.size()), 6u);
-    EXPECT_LT(secondsSince(start), 1.5 + 10 + 3);
-    EXPECT_EQ(logLines.back(), "SEND FAIL: FLASH_DATA");
-    EXPECT_EQ(descriptorsOn(plotter.path()), 1u) << "only the simulator's own side may stay open";
-}
-
 // The cable is pulled in the middle of a job. The simulator closes its side, the
 // line hangs up, and the step that was waiting runs into its time-out.
 TEST(MisbehavingDevice, UnpluggedMidJobFailsWithinTheStepTimeOutAndReleasesThePort) {
