@@ -451,6 +451,52 @@ QString byteCount(qint64 bytes) {
     return QStringLiteral("%1 bytes").arg(bytes);
 }
 
+QString savingSettings() {
+    return QStringLiteral("Saving the machine's settings before Erase All Flash\u2026");
+}
+
+QString firmwareSilentNothingSaved() {
+    return QStringLiteral(
+        "The machine's firmware does not answer, so its settings cannot be saved.");
+}
+
+QString erasingWithoutSaving() {
+    return QStringLiteral("Erasing all flash without saving the settings.");
+}
+
+QString nothingErased(const QString& reason) {
+    return QStringLiteral("Nothing was erased: ") + reason;
+}
+
+QString restoreLaterInWindow(const QString& path) {
+    return QStringLiteral(
+               "The settings read before the erase were not put back; they are kept in %1. "
+               "Once the machine runs, restore them with Config > Restore Machine Config\u2026.")
+        .arg(path);
+}
+
+QString restoreLaterWithCommand(const QString& path, const QString& port, const QString& name) {
+    return QStringLiteral(
+               "The settings read before the erase were not put back; they are kept in %1. "
+               "Once the machine runs, restore them with: teskal-flash restore-config --port %2 "
+               "%3")
+        .arg(path, port, name);
+}
+
+QString eraseQuestion() {
+    return QStringLiteral(
+        "Erase All Flash also erases the machine's settings (config.yaml). Save them now and "
+        "put them back after the update?");
+}
+
+QString eraseAnywayQuestion() {
+    return QStringLiteral("Erase all flash anyway? The settings will be lost.");
+}
+
+QString retryQuestion() {
+    return QStringLiteral("Try reading them again?");
+}
+
 QString settingsRestored(const QDateTime& time) {
     return QStringLiteral("Settings restored from the backup of %1.").arg(backupTime(time));
 }

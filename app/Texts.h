@@ -125,6 +125,19 @@ QString backupsToRestore(const QString& folder);
 QString noBackupsToRestore(const QString& folder);
 QString thisMachine(const QString& machine);  ///< "MACHINE (this machine)"
 QString byteCount(qint64 bytes);              ///< "N bytes"
+// Erase All Flash that keeps the machine's settings.
+QString savingSettings();  ///< "Saving the machine's settings before Erase All Flash…"
+/// "The machine's firmware does not answer, so its settings cannot be saved."
+QString firmwareSilentNothingSaved();
+QString erasingWithoutSaving();
+QString nothingErased(const QString& reason);  ///< "Nothing was erased: REASON"
+QString restoreLaterInWindow(const QString& path);
+QString restoreLaterWithCommand(const QString& path, const QString& port, const QString& name);
+/// The window's questions: before the erase, after a silent firmware (with
+/// `firmwareSilentNothingSaved` before it), after a failed read (with its reason).
+QString eraseQuestion();
+QString eraseAnywayQuestion();
+QString retryQuestion();
 /// "Settings restored from the backup of TIME."
 QString settingsRestored(const QDateTime& time);
 

@@ -81,8 +81,54 @@ std::optional<QString> UpdateController::extractMetaVersion(const QByteArray& by
 }
 
 void UpdateController::updateFirmware() {
+    const auto port = portForNewJob();
+    if (!port) {
+        return;
+    }
+    if (!eraseAllFlash_) {
+        return startFlash(*port, Log::fresh);
+    }
+    using Answer = SettingsQuestions::BeforeErase;
+    switch (questions_.beforeErase ? questions_.beforeErase() : Answer::saveAndRestore) {
+        case Answer::saveAndRestore:
+            return startKeepingSettings(*port, Log::fresh);
+        case Answer::eraseWithoutSaving:
+            return startFlash(*port, Log::fresh);
+        case Answer::cancel:
+            return;
+    }
+}
+
+void UpdateController::startFlash(const QString& port, Log log) {
+    start(std::make_shared<FlashFirmware>(port, resources_, flashOptions()), {}, {}, log);
+}
+
+void UpdateController::startKeepingSettings(const QString& port, Log log) {
+    EraseKeepingSettings::Options options;
+    options.flash = flashOptions();
+    auto keeping = std::make_shared<EraseKeepingSettings>(port, resources_, options);
+    start(
+        keeping, {},
+        [this, keeping](const Outcome& outcome) { askAfterStop(keeping->stop(), outcome.message); },
+        log);
+}
+
+void UpdateController::askAfterStop(EraseKeepingSettings::Stop stop, const QString& reason) {
+    using Stop = EraseKeepingSettings::Stop;
+    using Answer = SettingsQuestions::AfterFailedRead;
+    Answer answer = Answer::cancel;
+    if (stop == Stop::firmwareSilent) {
+        const bool anyway = questions_.eraseAnyway && questions_.eraseAnyway();
+        answer = anyway ? Answer::eraseWithoutSaving : Answer::cancel;
+    } else if (stop == Stop::notSaved && questions_.afterFailedRead) {
+        answer = questions_.afterFailedRead(reason);
+    }
+    if (answer == Answer::cancel) {
+        return;
+    }
     if (const auto port = portForNewJob()) {
-        start(std::make_shared<FlashFirmware>(*port, resources_, flashOptions()));
+        answer == Answer::retry ? startKeepingSettings(*port, Log::continued)
+                                : startFlash(*port, Log::continued);
     }
 }
 
@@ -161,13 +207,17 @@ std::optional<QString> UpdateController::portForNewJob() {
     return port;
 }
 
-void UpdateController::start(std::shared_ptr<Operation> operation, Then then) {
+void UpdateController::start(std::shared_ptr<Operation> operation, Then then, Then otherwise,
+                             Log log) {
     if (const auto refused = operation->refusal()) {
         post(LogEntry::error(refused->message));
         return;
     }
-    clearLog();
+    if (log == Log::fresh) {
+        clearLog();
+    }
     then_ = std::move(then);
+    otherwise_ = std::move(otherwise);
     runner_.start(std::move(operation));
     emit jobRunningChanged(true);
 }
@@ -179,11 +229,19 @@ void UpdateController::showLibraryLine(const QString& line) {
 }
 
 void UpdateController::finish(const Outcome& outcome) {
+    Then next;
     if (outcome.isFailure()) {
         showFailure(outcome);
+        next = std::move(otherwise_);
     } else if (then_) {
         then_(outcome);
     }
     then_ = {};
+    otherwise_ = {};
     emit jobRunningChanged(false);
+    // Asked from the event loop, once the runner is free for the job it may start.
+    if (next) {
+        QMetaObject::invokeMethod(
+            this, [next, outcome] { next(outcome); }, Qt::QueuedConnection);
+    }
 }

@@ -16,6 +16,8 @@
 #include "app/FirmwareCheck.h"
 #include "app/PublishedState.h"
 #include "app/ResourceBundle.h"
+#include "app/SettingsQuestions.h"
+#include "app/operations/EraseKeepingSettings.h"
 #include "app/operations/FlashFirmware.h"
 #include "app/operations/OperationRunner.h"
 
@@ -73,6 +75,10 @@ class UpdateController : public PublishedState {
     /// Owned by the controller for its whole life.
     DeviceMonitor* deviceMonitor() const { return monitor_; }
 
+    /// The questions "Update Firmware" asks when Erase All Flash is set; the window
+    /// installs its dialogs.
+    void setSettingsQuestions(SettingsQuestions questions) { questions_ = std::move(questions); }
+
     /// True from the moment an operation is accepted (before its state leaves
     /// `ready`) until its outcome has arrived on the GUI thread.
     bool jobRunning() const { return runner_.isRunning(); }
@@ -94,6 +100,12 @@ class UpdateController : public PublishedState {
     /// The start operations refuse, with one error line in the log and no other
     /// change, when no device is connected, an operation is still running, or the
     /// operation refuses its input.
+    ///
+    /// With Erase All Flash set it first asks `SettingsQuestions::beforeErase`:
+    /// saving and restoring runs `EraseKeepingSettings`, and when that stops before
+    /// the erase the follow-up question is asked once its outcome is shown (erase
+    /// anyway, or retry the read), the next job continuing the log; erasing
+    /// without saving runs the flashing job as it is; cancelling starts nothing.
     void updateFirmware();
     /// A product's configuration from the resources.
     void uploadConfig(const QString& configFile, const QString& productName);
@@ -124,8 +136,15 @@ class UpdateController : public PublishedState {
     /// What follows an outcome that is no failure.
     using Then = std::function<void(const Outcome& outcome)>;
 
+    /// Whether a job empties the log when it starts.
+    enum class Log { fresh, continued };
+
     std::optional<QString> portForNewJob();
-    void start(std::shared_ptr<Operation> operation, Then then = {});
+    void start(std::shared_ptr<Operation> operation, Then then = {}, Then otherwise = {},
+               Log log = Log::fresh);
+    void startFlash(const QString& port, Log log);
+    void startKeepingSettings(const QString& port, Log log);
+    void askAfterStop(EraseKeepingSettings::Stop stop, const QString& reason);
     FlashFirmware::Options flashOptions() const;
     void showLibraryLine(const QString& line);
     void finish(const Outcome& outcome);
@@ -139,7 +158,10 @@ class UpdateController : public PublishedState {
     std::atomic<bool> writeBootPartitions_ = false;
     std::atomic<bool> eraseAllFlash_ = false;
     bool backupBeforeUpload_ = false;
+    SettingsQuestions questions_;
     Then then_;
+    /// What follows an outcome that is a failure, once it is shown.
+    Then otherwise_;
     // Last member: destroyed first, so a running operation ends while the rest of
     // the controller still exists.
     OperationRunner runner_;

@@ -1,3 +1,4 @@
+#include "app/operations/EraseKeepingSettings.h"
 #include "app/operations/FlashFirmware.h"
 #include "cli/Commands.h"
 
@@ -18,14 +19,21 @@ class FlashCommand : public Command {
             ->type_name("FILE");
         command->add_flag("--full", full_,
                           "Write the bootloader, partition table and boot-app image too");
-        command->add_flag("--erase-all", eraseAll_,
-                          "Erase the whole flash first (a full flash; the configuration must be "
-                          "uploaded again afterwards)");
+        CLI::Option* eraseAll = command->add_flag(
+            "--erase-all", eraseAll_,
+            "Erase the whole flash first (a full flash). The machine's config.yaml, which the "
+            "erase takes with it, is read into the backups folder before and uploaded back once "
+            "the machine runs; nothing is erased when it cannot be read (status 8). A firmware "
+            "that does not answer has nothing to read: the flash is erased, saying so");
+        command
+            ->add_flag("--discard-config", discardConfig_,
+                       "With --erase-all: do not save the machine's config.yaml; it is lost")
+            ->needs(eraseAll);
         return command;
     }
 
     QString successMeaning() const override { return QStringLiteral("written and verified"); }
-    QList<int> failureStatuses() const override { return {1, 2, 3, 4, 5, 6, 7, 11, 12}; }
+    QList<int> failureStatuses() const override { return {1, 2, 3, 4, 5, 6, 7, 8, 11, 12, 17}; }
     Ports ports() const override { return Ports::several; }
     bool writesFirmware() const override { return true; }
 
@@ -37,13 +45,22 @@ class FlashCommand : public Command {
         options.writeBootPartitions = full_;
         options.eraseAll = eraseAll_;
         options.developmentImages = context.developmentImages();
-        return std::make_shared<FlashFirmware>(context.portPath, context.resources, options);
+        if (!eraseAll_ || discardConfig_) {
+            return std::make_shared<FlashFirmware>(context.portPath, context.resources, options);
+        }
+        EraseKeepingSettings::Options keeping;
+        keeping.flash = options;
+        keeping.goOnWhenSilent = true;
+        keeping.machine = context.machine;
+        keeping.commandLinePort = context.portName;
+        return std::make_shared<EraseKeepingSettings>(context.portPath, context.resources, keeping);
     }
 
   private:
     std::string firmware_;
     bool full_ = false;
     bool eraseAll_ = false;
+    bool discardConfig_ = false;
 };
 
 }  // namespace

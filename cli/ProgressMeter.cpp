@@ -11,7 +11,14 @@ void ProgressMeter::update(const event::Progress& progress, qint64 elapsedMs) {
     if (!progress.stage.isEmpty()) {
         stage_ = progress.stage;
     }
+    const qint64 previous = bytes_;
     bytes_ = progress.bytes;
+    // A later transfer of the same command (the upload of the settings after the
+    // flash) is timed from its own start.
+    if (bytes_ >= 0 && bytes_ < previous) {
+        firstBytes_.reset();
+        bytesPerSecond_.reset();
+    }
     if (bytes_ <= 0) {
         return;
     }

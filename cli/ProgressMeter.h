@@ -7,7 +7,8 @@
 #include "cli/Event.h"
 
 /// The progress of one plotter as a terminal line or a log line shows it: stage,
-/// percentage, bytes written and the rate since the first bytes went out.
+/// percentage, bytes written and the rate since the first bytes of the transfer
+/// went out.
 class ProgressMeter {
   public:
     /// Takes a report that arrived `elapsedMs` after the run began.

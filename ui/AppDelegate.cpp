@@ -17,6 +17,7 @@
 #include "app/operations/SaveMachineConfig.h"
 #include "ui/AboutWindow.h"
 #include "ui/CompareWindow.h"
+#include "ui/EraseQuestions.h"
 #include "ui/RestoreWindow.h"
 #include "ui/UpdaterView.h"
 
@@ -68,6 +69,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     window_->setWindowTitle(QStringLiteral("Teskal Firmware Updater"));
     window_->setCentralWidget(new UpdaterView(*updateController_));
     window_->layout()->setSizeConstraint(QLayout::SetFixedSize);
+    updateController_->setSettingsQuestions(settingsQuestionsAsked(window_.get()));
     quitGuard_ = new QuitGuard(
         window_.get(), [controller = updateController_.get()] { return controller->jobRunning(); },
         askToQuitDuringJob, options_.exitNow, this);

@@ -23,7 +23,8 @@ class UpdateController;
 
 /// The application shell: owns the one update controller, opens the main window
 /// with its menus, shows the About window and turns menu commands into calls on
-/// the controller. While a job runs it keeps the computer from sleeping, and
+/// the controller, whose Erase All Flash questions it asks in dialogs (see
+/// `EraseQuestions.h`). While a job runs it keeps the computer from sleeping, and
 /// closing the window or quitting asks first (see `QuitGuard`). Create it after
 /// the QApplication; GUI thread only.
 class AppDelegate : public QObject {

@@ -3,6 +3,7 @@
 
 #include "ControllerHarness.h"
 #include "app/BackupIndex.h"
+#include "app/Texts.h"
 #include "sim/PtyPlotter.h"
 #include "tests/support/Descriptors.h"
 
@@ -21,6 +22,16 @@ QByteArray storedConfig(const sim::PtyPlotter& plotter) {
     return bytes;
 }
 
+QStringList transcript(const sim::PtyPlotter& plotter) {
+    QStringList entries;
+    plotter.inspect([&](const sim::Plotter& p) {
+        for (const std::string& entry : p.transcript()) {
+            entries << QString::fromStdString(entry);
+        }
+    });
+    return entries;
+}
+
 }  // namespace
 
 /// Whole jobs through the controller, the library and a pseudo-terminal to the
@@ -31,6 +42,8 @@ class ControllerSimTest : public QObject {
   private slots:
     void updatesOfAChosenImageAfterEraseAllAndUnplugged();
     void configurationsSavedComparedBackedUpAndUploaded();
+    void eraseAllKeepsTheMachinesSettings();
+    void teskalFlashErasesASilentMachineSayingNothingWasSaved();
 };
 
 void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
@@ -49,11 +62,15 @@ void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
     // A chosen image carries no version the job could expect afterwards.
     QVERIFY(!controller.logMessages().contains("Verifying firmware version..."));
 
-    // Erase All Flash: the shipped image, no probe, and the NOTE after success.
+    // Erase All Flash, erased without saving: the shipped image, no probe, no
+    // console line before the erase, and the NOTE after success.
     controller.setDetailedLogging(false);
     controller.setCustomFirmwareURL({});
     controller.setEraseAllFlashEnabled(true);
+    controller.setSettingsQuestions(
+        {[] { return SettingsQuestions::BeforeErase::eraseWithoutSaving; }, {}, {}});
     QVERIFY(harness.plug(port));
+    const qsizetype before = transcript(plotter).size();
     controller.updateFirmware();
     QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::flashComplete()));
     const QString note = QStringLiteral(
@@ -65,6 +82,9 @@ void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
     QCOMPARE(harness.busySpan().mid(0, 2),
              QList<UpdateState>({UpdateState::flashing(0), UpdateState::flashing(0.08f)}));
     QVERIFY(harness.published.contains("status: Erasing flash..."));
+    const QStringList job = transcript(plotter).mid(before);
+    QCOMPARE(job.first(), "SYNC");
+    QVERIFY(!job.mid(0, job.indexOf("ERASE_FLASH")).join(' ').contains('$'));
     plotter.inspect([](const sim::Plotter& p) {
         const auto* flash = reinterpret_cast<const char*>(p.flash().data());
         for (const auto& [address, name] :
@@ -224,6 +244,176 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     QCOMPARE(readFile(saved), tuned);
     QCOMPARE(QDir(dir.path()).entryList(QDir::Files),
              QStringList({"saved.yaml", "workshop.yaml", "workshop.yml"}));
+}
+
+void ControllerSimTest::eraseAllKeepsTheMachinesSettings() {
+    QTemporaryDir dir;
+    qputenv("XDG_DATA_HOME", dir.filePath("data").toUtf8());
+    QByteArray tuned = ResourceBundle(TFU_DEV_RESOURCES_DIR).readConfig("Halcot.yaml").value();
+    tuned.replace("steps_per_mm: 80.000", "steps_per_mm: 78.750");
+    sim::Config config;
+    config.machineConfig = tuned.toStdString();
+    sim::PtyPlotter plotter(config);
+    const QString port = QString::fromStdString(plotter.path());
+    ControllerHarness harness;
+    auto& controller = harness.controller;
+    controller.setEraseAllFlashEnabled(true);
+    using BeforeErase = SettingsQuestions::BeforeErase;
+    using AfterFailedRead = SettingsQuestions::AfterFailedRead;
+    QStringList asked;
+    sim::PtyPlotter* const machine = &plotter;
+    const auto answers = [&](BeforeErase first, bool anyway, QList<AfterFailedRead> reads) {
+        auto remaining = std::make_shared<QList<AfterFailedRead>>(reads);
+        SettingsQuestions questions;
+        questions.beforeErase = [&asked, first] {
+            asked << "erase?";
+            return first;
+        };
+        questions.eraseAnyway = [&asked, anyway] {
+            asked << "anyway?";
+            return anyway;
+        };
+        questions.afterFailedRead = [&asked, machine, remaining](const QString& reason) {
+            asked << "failed: " + reason;
+            // The machine lets the next read through.
+            machine->modify([](sim::Plotter& p) { p.config().xmodemSendCorruptBlock.reset(); });
+            return remaining->takeFirst();
+        };
+        controller.setSettingsQuestions(questions);
+    };
+
+    const auto restored = [&] {
+        const QStringList log = controller.logMessages();
+        return !log.isEmpty() && log.last().startsWith("Settings restored from the backup of ");
+    };
+
+    // Cancel: nothing happens.
+    answers(BeforeErase::cancel, false, {});
+    QVERIFY(harness.plug(port));
+    controller.updateFirmware();
+    QCOMPARE(asked, QStringList{"erase?"});
+    QVERIFY(!controller.jobRunning());
+    QVERIFY(transcript(plotter).isEmpty());
+
+    // Save and Restore: read before the erase, put back after the confirmation, byte
+    // for byte, the copy kept.
+    asked.clear();
+    answers(BeforeErase::saveAndRestore, false, {});
+    QVERIFY(harness.plug(port));
+    controller.updateFirmware();
+    QTRY_VERIFY_WITH_TIMEOUT(restored(), kJobTimeoutMs);
+    QCOMPARE(storedConfig(plotter), tuned);
+    const QList<Backup> kept = BackupIndex().list();
+    QCOMPARE(kept.size(), 1);
+    QCOMPARE(kept[0].reason, BackupReason::beforeErase);
+    QCOMPARE(readFile(kept[0].path), tuned);
+    const QStringList wire = transcript(plotter);
+    const qsizetype read = wire.indexOf("$Xmodem/Send=config.yaml");
+    const qsizetype erase = wire.indexOf("ERASE_FLASH");
+    const qsizetype confirmed = wire.lastIndexOf("$I", wire.indexOf("$Xmodem/Receive=config.yaml"));
+    QVERIFY2(read >= 0 && read < erase && erase < confirmed, qPrintable(wire.join(' ')));
+    QVERIFY(wire.mid(erase, confirmed - erase).contains("FLASH_END"));
+    const QStringList log = controller.logMessages();
+    const QString erasedNote = QStringLiteral(
+        "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for "
+        "your machine.");
+    QCOMPARE(
+        log.mid(0, 3),
+        QStringList(
+            {"Saving the machine's settings before Erase All Flash\u2026",
+             QString("Machine config saved to %1 (%2 bytes)").arg(kept[0].path).arg(tuned.size()),
+             "Updating firmware v2.10.6\u2026"}));
+    QCOMPARE(log.mid(log.indexOf(kComplete)),
+             QStringList({kComplete, "", erasedNote,
+                          "Preparing " + QFileInfo(kept[0].path).fileName() + " v1.2.0-devset",
+                          "Uploading config file...", "Uploading config file...", kUploaded,
+                          "Settings restored from the backup of " +
+                              Texts::backupTime(kept[0].time) + "."}));
+    QCOMPARE(asked, QStringList{"erase?"});
+
+    // A read that fails erases nothing; Retry reads again on a console that still
+    // understands it, and the update goes on with the log continued.
+    plotter.modify([](sim::Plotter& p) {
+        p.config().xmodemSendCorruptBlock = 1;
+        p.config().xmodemSendCorruptTimes = 1000;
+    });
+    asked.clear();
+    answers(BeforeErase::saveAndRestore, false, {AfterFailedRead::retry});
+    const qsizetype before = transcript(plotter).size();
+    QVERIFY(harness.plug(port));
+    controller.updateFirmware();
+    QTRY_VERIFY_WITH_TIMEOUT(restored(), kJobTimeoutMs);
+    const QString failed = QStringLiteral(
+        "Nothing was erased: Could not read config.yaml from the machine: XModem download: block "
+        "1 failed 25 times");
+    QCOMPARE(asked.mid(1), QStringList{"failed: " + failed});
+    QCOMPARE(controller.logMessages().mid(0, 3),
+             QStringList({"Saving the machine's settings before Erase All Flash\u2026",
+                          "ERROR: " + failed,
+                          "Saving the machine's settings before Erase All Flash\u2026"}));
+    const QStringList retried = transcript(plotter).mid(before);
+    QCOMPARE(retried.count("$Xmodem/Send=config.yaml"), 2);
+    QVERIFY(retried.lastIndexOf("$Xmodem/Send=config.yaml") < retried.indexOf("ERASE_FLASH"));
+    QCOMPARE(storedConfig(plotter), tuned);
+
+    // A firmware that does not answer: nothing can be saved, and "no" erases nothing.
+    plotter.modify([](sim::Plotter& p) { p.config().silentConsole = true; });
+    asked.clear();
+    answers(BeforeErase::saveAndRestore, false, {});
+    const qsizetype quiet = transcript(plotter).size();
+    QVERIFY(harness.plug(port));
+    controller.updateFirmware();
+    const QString silent =
+        QStringLiteral("The machine's firmware does not answer, so its settings cannot be saved.");
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::error(silent)));
+    QTRY_COMPARE(asked, QStringList({"erase?", "anyway?"}));
+    QVERIFY(!transcript(plotter).mid(quiet).contains("ERASE_FLASH"));
+    QVERIFY(!controller.jobRunning());
+
+    // A backups folder that cannot be made: nothing erased; erasing without saving
+    // then runs the flashing job as it is.
+    plotter.modify([](sim::Plotter& p) { p.config().silentConsole = false; });
+    writeFile(dir, "blocked", "a file where the data folder should be\n");
+    qputenv("XDG_DATA_HOME", dir.filePath("blocked").toUtf8());
+    asked.clear();
+    answers(BeforeErase::saveAndRestore, false, {AfterFailedRead::eraseWithoutSaving});
+    QVERIFY(harness.plug(port));
+    controller.updateFirmware();
+    QTRY_VERIFY_WITH_TIMEOUT(controller.logMessages().contains(kComplete), kJobTimeoutMs);
+    const QString unusable =
+        "Nothing was erased: " +
+        Texts::backupFolderUnusable(dir.filePath("blocked/teskal-firmware-updater/backups"));
+    QCOMPARE(asked, QStringList({"erase?", "failed: " + unusable}));
+    QTRY_COMPARE(controller.logMessages().mid(1, 3),
+                 QStringList({"ERROR: " + unusable, "Updating firmware v2.10.6\u2026", kComplete}));
+}
+
+void ControllerSimTest::teskalFlashErasesASilentMachineSayingNothingWasSaved() {
+    QTemporaryDir dir;
+    qputenv("XDG_DATA_HOME", dir.filePath("data").toUtf8());
+    sim::Config config;
+    config.silentConsole = true;
+    sim::PtyPlotter plotter(config);
+    EraseKeepingSettings::Options options;
+    options.flash.developmentImages = DevelopmentImages::accept;
+    options.goOnWhenSilent = true;
+    options.commandLinePort = "sim1";
+    EraseKeepingSettings erase(QString::fromStdString(plotter.path()),
+                               ResourceBundle(TFU_DEV_RESOURCES_DIR), options);
+    QStringList log;
+    OperationSink sink;
+    sink.log = [&](const LogEntry& entry) { log << entry.line(); };
+    const Outcome outcome = erase.run(sink);
+    QCOMPARE(outcome.kind, Outcome::Kind::succeeded);
+    QCOMPARE(erase.stop(), EraseKeepingSettings::Stop::none);
+    QCOMPARE(log.mid(0, 4),
+             QStringList({"Saving the machine's settings before Erase All Flash\u2026",
+                          "The machine's firmware does not answer, so its settings cannot be "
+                          "saved.",
+                          "Erasing all flash without saving the settings.",
+                          "Updating firmware v2.10.6\u2026"}));
+    QVERIFY(transcript(plotter).contains("ERASE_FLASH"));
+    QVERIFY(BackupIndex().list().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(ControllerSimTest)

@@ -196,14 +196,24 @@ void CliTest::subcommands_data() {
         << L{"flash", "--sim"} << 0
         << L{"Updating firmware v2.10.6\u2026", "Checking device status\u2026", device, kComplete}
         << L{"Opening port"} << "";
-    QTest::newRow("flash, erase all, verbose")
-        << L{"flash", "--sim", "--erase-all", "--verbose"} << 0
+    QTest::newRow("flash, erase all, settings discarded, verbose")
+        << L{"flash", "--sim", "--erase-all", "--discard-config", "--verbose"} << 0
         << L{"Updating firmware v2.10.6\u2026",
              "Erasing entire flash...",
              "Flash plan: 4 entries (FULL)",
              kComplete,
              "",
              note}
+        << L{"Checking device status", "Saving the machine's settings", "Uploading config"} << "";
+    QTest::newRow("flash, erase all keeps the settings")
+        << L{"flash", "--sim", "--erase-all"} << 0
+        << L{"Saving the machine's settings before Erase All Flash\u2026",
+             "Updating firmware v2.10.6\u2026",
+             kComplete,
+             "",
+             note,
+             "Uploading config file...",
+             kUploaded}
         << L{"Checking device status"} << "";
     QTest::newRow("flash, refused image, nothing sent")
         << L{"flash", "--sim", "--verbose", "--firmware", file("text.bin")} << 11

@@ -7,6 +7,7 @@
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
 #include "ui/CompareWindow.h"
+#include "ui/EraseQuestions.h"
 #include "ui/Fonts.h"
 #include "ui/LogPanel.h"
 #include "ui/LogView.h"
@@ -92,6 +93,20 @@ void ScreensTest::mainWindowStates() {
     question->show();
     QVERIFY(QTest::qWaitForWindowExposed(question.get()));
     save(question.get(), QStringLiteral("quit-question"));
+
+    const std::pair<std::unique_ptr<QMessageBox>, QString> eraseQuestions[] = {
+        {eraseQuestion(window), "erase-question"},
+        {eraseAnywayQuestion(window), "erase-anyway-question"},
+        {retryQuestion(window,
+                       "Nothing was erased: Could not read config.yaml from the machine: XModem "
+                       "download: no block received"),
+         "retry-question"},
+    };
+    for (const auto& [box, name] : eraseQuestions) {
+        box->show();
+        QVERIFY(QTest::qWaitForWindowExposed(box.get()));
+        save(box.get(), name);
+    }
 }
 
 void ScreensTest::aboutWindow() {

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+/// The owner's answers when Erase All Flash would also erase the machine's
+/// settings. The window asks them in dialogs; an empty function gives the answer
+/// named in its comment. Called on the GUI thread.
+struct SettingsQuestions {
+    enum class BeforeErase { saveAndRestore, eraseWithoutSaving, cancel };
+    enum class AfterFailedRead { retry, eraseWithoutSaving, cancel };
+
+    /// Before the update: save and restore them? (`saveAndRestore`)
+    std::function<BeforeErase()> beforeErase;
+    /// The firmware did not answer, nothing could be saved: erase anyway? (false)
+    std::function<bool()> eraseAnyway;
+    /// Reading them failed for the reason given, nothing was erased. (`cancel`)
+    std::function<AfterFailedRead(const QString& reason)> afterFailedRead;
+};

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+#include <optional>
+
+#include "app/Backup.h"
+#include "app/ResourceBundle.h"
+#include "app/operations/FlashFirmware.h"
+#include "app/operations/UploadConfig.h"
+
+/// "Update Firmware" with Erase All Flash that keeps the owner's settings: the
+/// machine's config.yaml is read into the backups folder (reason "before-erase")
+/// before the flashing job erases the chip, and uploaded back once the machine runs
+/// again. Composed of the flashing job (`FlashFirmware`, unchanged) and the normal
+/// upload (`UploadConfig`); nothing is erased unless the copy was read, kept and
+/// checked as an upload checks it.
+class EraseKeepingSettings : public Operation {
+  public:
+    /// Where the operation stopped before the erase, if it did.
+    enum class Stop {
+        none,
+        firmwareSilent,  ///< the firmware did not answer, so nothing could be read
+        notSaved,        ///< the copy could not be read, kept or checked
+    };
+
+    struct Options {
+        FlashFirmware::Options flash;  ///< `eraseAll` is always set
+        /// A firmware that does not answer: erase anyway, logging that nothing was
+        /// saved (teskal-flash), instead of stopping (the window asks).
+        bool goOnWhenSilent = false;
+        /// The name the machine's backups are filed under; empty: found from the port.
+        QString machine;
+        /// teskal-flash's name for the port: a copy that was not put back is then
+        /// explained with restore-config; none: with the window's Config menu.
+        std::optional<QString> commandLinePort;
+    };
+
+    EraseKeepingSettings(QString port, ResourceBundle resources, Options options);
+
+    /// Logs "Saving the machine's settings before Erase All Flash…" and asks the
+    /// firmware for its version; then reads config.yaml (logging where the copy went),
+    /// runs the flashing job and, when it succeeded, the upload of the copy, logging
+    /// "Settings restored from the backup of <date time>." and succeeding with it.
+    /// Stops before the erase (see `stop`): `noAnswer` with "The machine's firmware
+    /// does not answer, so its settings cannot be saved.", or the read's, the
+    /// backup's or the check's outcome behind "Nothing was erased: …". A copy kept
+    /// but not put back is named in the log with how to restore it later.
+    Outcome run(const OperationSink& sink) override;
+
+    Stop stop() const { return stop_; }
+    /// The copy read before the erase, once kept.
+    const std::optional<Backup>& backup() const { return backup_; }
+
+  private:
+    std::optional<Outcome> saveSettings(const std::optional<QString>& version,
+                                        const OperationSink& sink);
+    Outcome flash(const OperationSink& sink) const;
+    Outcome notRestored(Outcome outcome, const OperationSink& sink) const;
+
+    QString port_;
+    ResourceBundle resources_;
+    Options options_;
+    Stop stop_ = Stop::none;
+    std::optional<Backup> backup_;
+    std::shared_ptr<UploadConfig> restore_;
+};

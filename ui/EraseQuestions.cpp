@@ -1,0 +1,92 @@
+#include "ui/EraseQuestions.h"
+
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+
+#include "app/Texts.h"
+
+namespace {
+
+const QString kTitle = QStringLiteral("Teskal Firmware Updater");
+
+std::unique_ptr<QMessageBox> question(QWidget* parent, QMessageBox::Icon icon, const QString& text,
+                                      const QString& informative) {
+    auto box = std::make_unique<QMessageBox>(icon, kTitle, text, QMessageBox::NoButton, parent);
+    box->setInformativeText(informative);
+    return box;
+}
+
+QPushButton* addCancel(QMessageBox& box) {
+    QPushButton* cancel = box.addButton(QStringLiteral("Cancel"), QMessageBox::RejectRole);
+    box.setEscapeButton(cancel);
+    return cancel;
+}
+
+QPushButton* addEraseWithoutSaving(QMessageBox& box) {
+    return box.addButton(QStringLiteral("Erase Without Saving"), QMessageBox::DestructiveRole);
+}
+
+QMessageBox::ButtonRole answerOf(QMessageBox& box) {
+    box.exec();
+    return box.buttonRole(box.clickedButton());
+}
+
+}  // namespace
+
+std::unique_ptr<QMessageBox> eraseQuestion(QWidget* parent) {
+    auto box = question(parent, QMessageBox::Question, Texts::eraseQuestion(), QString());
+    box->setDefaultButton(
+        box->addButton(QStringLiteral("Save and Restore"), QMessageBox::AcceptRole));
+    addEraseWithoutSaving(*box);
+    addCancel(*box);
+    return box;
+}
+
+std::unique_ptr<QMessageBox> eraseAnywayQuestion(QWidget* parent) {
+    auto box = question(parent, QMessageBox::Warning, Texts::firmwareSilentNothingSaved(),
+                        Texts::eraseAnywayQuestion());
+    addEraseWithoutSaving(*box);
+    box->setDefaultButton(addCancel(*box));
+    return box;
+}
+
+std::unique_ptr<QMessageBox> retryQuestion(QWidget* parent, const QString& reason) {
+    auto box = question(parent, QMessageBox::Warning, reason, Texts::retryQuestion());
+    box->setDefaultButton(box->addButton(QStringLiteral("Retry"), QMessageBox::AcceptRole));
+    addEraseWithoutSaving(*box);
+    addCancel(*box);
+    return box;
+}
+
+SettingsQuestions settingsQuestionsAsked(QWidget* parent) {
+    // A question that comes after the window has gone is asked on its own.
+    const QPointer<QWidget> window(parent);
+    SettingsQuestions questions;
+    questions.beforeErase = [window] {
+        using Answer = SettingsQuestions::BeforeErase;
+        switch (answerOf(*eraseQuestion(window))) {
+            case QMessageBox::AcceptRole:
+                return Answer::saveAndRestore;
+            case QMessageBox::DestructiveRole:
+                return Answer::eraseWithoutSaving;
+            default:
+                return Answer::cancel;
+        }
+    };
+    questions.eraseAnyway = [window] {
+        return answerOf(*eraseAnywayQuestion(window)) == QMessageBox::DestructiveRole;
+    };
+    questions.afterFailedRead = [window](const QString& reason) {
+        using Answer = SettingsQuestions::AfterFailedRead;
+        switch (answerOf(*retryQuestion(window, reason))) {
+            case QMessageBox::AcceptRole:
+                return Answer::retry;
+            case QMessageBox::DestructiveRole:
+                return Answer::eraseWithoutSaving;
+            default:
+                return Answer::cancel;
+        }
+    };
+    return questions;
+}
