@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 #include <cstdint>
+#include <optional>
 #include <variant>
 
 #include "esp_flasher.h"
@@ -15,9 +16,27 @@ struct DownloadCause {
     friend bool operator==(const DownloadCause&, const DownloadCause&) = default;
 };
 
+/// How the machine started after a write, from what it printed (see
+/// `esp_startup_verdict`).
+struct StartupCause {
+    int verdict = ESP_STARTUP_NO_ANSWER;  ///< enum esp_startup_verdict
+    std::optional<QString> version;       ///< the version it answered
+    std::optional<QString> expected;      ///< the version that was written, when known
+    /// What was written: firmware, or a configuration (the machine restarted with it).
+    enum class Written { firmware, configuration } written = Written::firmware;
+
+    friend bool operator==(const StartupCause&, const StartupCause&) = default;
+};
+
+/// The verdict's name in machine-readable output: "running", "wrong-version",
+/// "boot-loop", "panic", "no-app", "brownout", "config-error" or "no-answer".
+QString verdictName(int verdict);
+/// The verdict of such a name; none for any other text.
+std::optional<int> verdictNamed(const QString& name);
+
 /// What is known, as data, about why an operation ended as it did; empty where
 /// the kind alone tells.
-using Cause = std::variant<std::monostate, DownloadCause>;
+using Cause = std::variant<std::monostate, DownloadCause, StartupCause>;
 
 /// How an operation ended. Created where the result is known and carried
 /// unchanged to the window and to the command line, which present it; neither
@@ -34,6 +53,9 @@ struct Outcome {
         missingResource,   ///< something it needs is missing from the resources folder
         notWritten,        ///< a file on this computer could not be written
         busy,              ///< another operation was still running
+        notConfirmed,      ///< written and verified, but the machine did not confirm it runs
+        notStarting,       ///< written and verified, but the machine does not start
+        configRejected,    ///< the machine runs but rejects its configuration
     };
 
     Kind kind = Kind::succeeded;
@@ -58,4 +80,8 @@ struct Outcome {
     bool isFailure() const {
         return kind != Kind::succeeded && kind != Kind::differs && kind != Kind::noPartitionTable;
     }
+
+    /// True when the write itself succeeded and the outcome tells how the machine
+    /// started afterwards (a `StartupCause`), whatever that was.
+    bool isVerdict() const { return std::holds_alternative<StartupCause>(cause); }
 };

@@ -93,10 +93,14 @@ QString firmwareComplete() {
     return QStringLiteral("Firmware update complete.");
 }
 
-QString flashErasedNote() {
-    return QStringLiteral(
-        "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for "
-        "your machine.");
+QString flashErasedNote(Audience audience) {
+    return audience == Audience::window
+               ? QStringLiteral(
+                     "NOTE: Flash was erased. Use Config > Update Config to upload the "
+                     "configuration for your machine.")
+               : QStringLiteral(
+                     "NOTE: Flash was erased. Run teskal-flash upload-config to upload the "
+                     "configuration for your machine.");
 }
 
 QString firmwareLabel(const QString& version) {
@@ -263,6 +267,138 @@ QString partitionTableAbsent() {
 QString plottersConnected(qsizetype count) {
     return count == 1 ? QStringLiteral("1 plotter connected")
                       : QStringLiteral("%1 plotters connected").arg(count);
+}
+
+QString checkingStartup() {
+    return QStringLiteral("Checking that the machine starts…");
+}
+
+namespace {
+
+// A plotter owner's words for why the machine does not start.
+QString notStartingBecause(int verdict) {
+    switch (verdict) {
+        case ESP_STARTUP_BOOT_LOOP:
+            return QStringLiteral("it restarts in a loop.");
+        case ESP_STARTUP_PANIC:
+            return QStringLiteral("it crashed at start-up.");
+        case ESP_STARTUP_NO_APP:
+            return QStringLiteral("it finds no firmware to start.");
+        default:
+            return QStringLiteral("its power supply is too weak.");
+    }
+}
+
+QString firmwareStartup(const StartupCause& cause) {
+    const QString version = cause.version.value_or(cause.expected.value_or(QString()));
+    switch (cause.verdict) {
+        case ESP_STARTUP_RUNNING:
+            return version.isEmpty()
+                       ? QStringLiteral("Firmware installed and running.")
+                       : QStringLiteral("Firmware %1 installed and running.").arg(version);
+        case ESP_STARTUP_WRONG_VERSION:
+            return QStringLiteral(
+                       "Firmware written and verified, but the machine reports version %1, not %2.")
+                .arg(cause.version.value_or(QString()), cause.expected.value_or(QString()));
+        case ESP_STARTUP_NO_ANSWER:
+            return QStringLiteral(
+                "Firmware written and verified, but the machine did not answer to confirm that it "
+                "runs.");
+        case ESP_STARTUP_CONFIG_ERROR:
+            return QStringLiteral("The machine rejected its configuration:");
+        default:
+            return QStringLiteral("Firmware written, but the machine does not start: ") +
+                   notStartingBecause(cause.verdict);
+    }
+}
+
+QString configurationStartup(const StartupCause& cause) {
+    switch (cause.verdict) {
+        case ESP_STARTUP_RUNNING:
+        case ESP_STARTUP_WRONG_VERSION:
+            return QStringLiteral("Configuration uploaded; the machine restarted with it.");
+        case ESP_STARTUP_NO_ANSWER:
+            return QStringLiteral(
+                "Configuration uploaded, but the machine did not answer after its restart.");
+        case ESP_STARTUP_CONFIG_ERROR:
+            return QStringLiteral("The machine rejected its configuration:");
+        default:
+            return QStringLiteral("Configuration uploaded, but the machine does not start: ") +
+                   notStartingBecause(cause.verdict);
+    }
+}
+
+QString startupNextStep(const StartupCause& cause, Audience audience) {
+    const bool window = audience == Audience::window;
+    switch (cause.verdict) {
+        case ESP_STARTUP_RUNNING:
+            return QString();
+        case ESP_STARTUP_BROWNOUT:
+            return QStringLiteral(
+                "Plug in the machine's own power supply (USB power is not enough), then try "
+                "again.");
+        case ESP_STARTUP_CONFIG_ERROR:
+            return window ? QStringLiteral(
+                                "Correct the configuration and upload it again, or upload a "
+                                "product's configuration from Config > Update Config.")
+                          : QStringLiteral(
+                                "Correct the configuration and run teskal-flash upload-config "
+                                "again, or upload a product's with --product NAME.");
+        case ESP_STARTUP_WRONG_VERSION:
+            return window ? QStringLiteral("Run the update again.")
+                          : QStringLiteral("Run teskal-flash flash again.");
+        case ESP_STARTUP_NO_ANSWER:
+            return window ? QStringLiteral(
+                                "Check that the machine is switched on and connected; if it still "
+                                "does not answer, run the update again.")
+                          : QStringLiteral(
+                                "Check that the machine is switched on and connected, then run "
+                                "teskal-flash version.");
+        default:
+            return window ? QStringLiteral(
+                                "Run the update again with Options > Erase All Flash. If it "
+                                "keeps happening, save the log (File > Save Log…) for support.")
+                          : QStringLiteral(
+                                "Run teskal-flash flash --erase-all. If it keeps happening, keep "
+                                "this output for support.");
+    }
+}
+
+QString failureNextStep(esp_error_t code) {
+    switch (code) {
+        case 2:
+            return QStringLiteral(
+                "Close any other program that uses the port, unplug and reconnect the machine, "
+                "and try again.");
+        case 3:
+        case 9:
+        case 10:
+            return QStringLiteral("Unplug the machine, plug it in again, and try again.");
+        case 4:
+            return QStringLiteral(
+                "This controller cannot take this firmware; contact support before trying again.");
+        case 5:
+        case 6:
+        case 7:
+        case 8:
+            return QStringLiteral("Try again; if it fails again, use another USB cable or port.");
+        default:
+            return QString();
+    }
+}
+
+}  // namespace
+
+QString startupMessage(const StartupCause& cause) {
+    return cause.written == StartupCause::Written::firmware ? firmwareStartup(cause)
+                                                            : configurationStartup(cause);
+}
+
+QString nextStep(const Outcome& outcome, Audience audience) {
+    if (const auto* startup = std::get_if<StartupCause>(&outcome.cause)) {
+        return startupNextStep(*startup, audience);
+    }
+    return outcome.kind == Outcome::Kind::failed ? failureNextStep(outcome.code) : QString();
 }
 
 namespace {

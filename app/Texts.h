@@ -10,6 +10,10 @@
 /// Arguments are inserted where the text names them. Pure functions; any thread.
 namespace Texts {
 
+/// Who reads a text that names what to do: the window's owner (its menus) or
+/// teskal-flash's (its commands and options).
+enum class Audience { window, commandLine };
+
 /// "PROGRAM VERSION, built DATE, bundled firmware FIRMWARE".
 QString programVersion(const QString& program, const QString& version, const QString& buildDate,
                        const QString& firmware);
@@ -29,10 +33,11 @@ QString shippedMissing();                         ///< "Bundled firmware not fou
 QString checkingDevice();                         ///< "Checking device status…"
 QString deviceNotResponding();
 QString deviceRunning(const QString& version);
-QString stubMissing();                          ///< "Flash stub not found in bundle"
-QString bootImagesMissing();                    ///< "Missing bootloader resources for full flash"
-QString firmwareComplete();                     ///< "Firmware update complete."
-QString flashErasedNote();                      ///< the NOTE after an erase
+QString stubMissing();        ///< "Flash stub not found in bundle"
+QString bootImagesMissing();  ///< "Missing bootloader resources for full flash"
+QString firmwareComplete();   ///< "Firmware update complete."
+/// The NOTE after an erase; the window's names Config > Update Config.
+QString flashErasedNote(Audience audience = Audience::window);
 QString firmwareLabel(const QString& version);  ///< "Firmware version VERSION"
 QString usingShipped();                         ///< "Using bundled firmware"
 
@@ -74,6 +79,15 @@ QString different();   ///< "Different"
 QString partitionTablePresent();
 QString partitionTableAbsent();
 QString plottersConnected(qsizetype count);
+
+// How the machine started after a write.
+QString checkingStartup();  ///< the status while the machine is listened to
+/// The outcome's message for `cause`: "Firmware 2.10.6 installed and running.",
+/// "Firmware written, but the machine does not start: it restarts in a loop.", …
+QString startupMessage(const StartupCause& cause);
+/// What to do next about `outcome`, in `audience`'s words; empty when there is
+/// nothing to add to its message.
+QString nextStep(const Outcome& outcome, Audience audience);
 
 // The inspection report of a file, line by line.
 QString reportSize(qint64 bytes);                     ///< "  size: N bytes"

@@ -157,6 +157,7 @@ void UpdateController::start(std::shared_ptr<Operation> operation, Then then) {
         return;
     }
     clearLog();
+    assignResult(std::nullopt);
     then_ = std::move(then);
     runner_.start(std::move(operation));
     emit jobRunningChanged(true);
@@ -169,11 +170,14 @@ void UpdateController::showLibraryLine(const QString& line) {
 }
 
 void UpdateController::finish(const Outcome& outcome) {
-    if (outcome.isFailure()) {
+    if (outcome.isVerdict()) {
+        showVerdict(outcome);
+    } else if (outcome.isFailure()) {
         showFailure(outcome);
     } else if (then_) {
         then_(outcome);
     }
     then_ = {};
+    assignResult(outcome);
     emit jobRunningChanged(false);
 }

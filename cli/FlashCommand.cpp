@@ -1,3 +1,4 @@
+#include "app/Texts.h"
 #include "app/operations/FlashFirmware.h"
 #include "cli/Commands.h"
 
@@ -24,8 +25,12 @@ class FlashCommand : public Command {
         return command;
     }
 
-    QString successMeaning() const override { return QStringLiteral("written and verified"); }
-    QList<int> failureStatuses() const override { return {1, 2, 3, 4, 5, 6, 7, 11, 12}; }
+    QString successMeaning() const override {
+        return QStringLiteral("written, verified, and the machine runs it");
+    }
+    QList<int> failureStatuses() const override {
+        return {1, 2, 3, 4, 5, 6, 7, 10, 11, 12, 13, 14};
+    }
     Ports ports() const override { return Ports::several; }
     bool writesFirmware() const override { return true; }
 
@@ -37,6 +42,7 @@ class FlashCommand : public Command {
         options.writeBootPartitions = full_;
         options.eraseAll = eraseAll_;
         options.developmentImages = context.developmentImages();
+        options.erasedNote = Texts::flashErasedNote(Texts::Audience::commandLine);
         return std::make_shared<FlashFirmware>(context.portPath, context.resources, options);
     }
 

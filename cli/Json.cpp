@@ -28,7 +28,10 @@ QJsonObject progressObject(const event::Progress& progress) {
 QJsonObject resultObject(const event::Result& result) {
     QJsonObject object{
         {"type", "result"}, {"code", result.status}, {"message", result.outcome.message}};
-    if (!result.outcome.evidence.isEmpty()) {
+    if (const auto* startup = std::get_if<StartupCause>(&result.outcome.cause)) {
+        object.insert(QStringLiteral("machine"), verdictName(startup->verdict));
+    }
+    if (!result.outcome.evidence.isEmpty() || result.outcome.isVerdict()) {
         object.insert(QStringLiteral("evidence"),
                       QJsonArray::fromStringList(result.outcome.evidence));
     }
@@ -58,6 +61,11 @@ event::Result resultFrom(const QJsonObject& object) {
                                     object.value(QStringLiteral("message")).toString());
     for (const auto& line : object.value(QStringLiteral("evidence")).toArray()) {
         outcome.evidence << line.toString();
+    }
+    // The machine's verdict decides the words of what to do next.
+    if (const auto verdict = verdictNamed(object.value(QStringLiteral("machine")).toString())) {
+        outcome.cause =
+            StartupCause{*verdict, std::nullopt, std::nullopt, StartupCause::Written::firmware};
     }
     return {status, outcome};
 }

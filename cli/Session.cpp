@@ -78,7 +78,9 @@ class Single {
         context.simulated =
             port.isEmpty() ? options.simulated > 0 : Plotters::isSimulated(port, options.simulated);
         if (!port.isEmpty() && context.simulated) {
-            plotter_ = startSimulatedPlotter(context.resources, SimulatedPace::brisk);
+            sim::Config config;
+            config.startup = sim::parseStartup(options.simStartup).value_or(sim::Startup::Healthy);
+            plotter_ = startSimulatedPlotter(context.resources, SimulatedPace::brisk, config);
             context.portPath = QString::fromStdString(plotter_->path());
         }
         run_ = std::make_unique<LocalRun>(command, std::move(context), reporter, options.verbose);

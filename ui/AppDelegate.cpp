@@ -9,6 +9,7 @@
 #include <QUrl>
 
 #include "app/LogExport.h"
+#include "app/ResultSummary.h"
 #include "app/SleepInhibitor.h"
 #include "app/Texts.h"
 #include "app/UpdateController.h"
@@ -47,6 +48,8 @@ AppDelegate::AppDelegate(std::unique_ptr<UpdateController> controller, Options o
             &SleepInhibitor::setHeld);
     connect(updateController_.get(), &UpdateController::machineConfigCompared, this,
             &AppDelegate::showComparison);
+    connect(updateController_.get(), &UpdateController::resultChanged, this,
+            &AppDelegate::notifyUnseen);
 }
 
 AppDelegate::~AppDelegate() {
@@ -71,6 +74,19 @@ void AppDelegate::applicationDidFinishLaunching() {
     window_->adjustSize();
     centreOnScreen(window_.get());
     bringToFront(window_.get());
+}
+
+// The banner says it in the window; an owner who is looking elsewhere hears it
+// from the desktop.
+void AppDelegate::notifyUnseen(const std::optional<Outcome>& result) {
+    if (!result || !window_ || window_->isActiveWindow()) {
+        return;
+    }
+    if (const auto summary = summarize(*result, Texts::Audience::window)) {
+        options_.notify(
+            summary->headline,
+            (summary->details + QStringList(summary->nextStep)).join(QLatin1Char('\n')).trimmed());
+    }
 }
 
 void AppDelegate::showAbout() {

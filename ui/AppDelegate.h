@@ -7,6 +7,8 @@
 #include "app/BuildConfig.h"
 #include "app/ConfigChoice.h"
 #include "app/ConfigDiff.h"
+#include "app/DesktopNotifier.h"
+#include "app/Outcome.h"
 #include "ui/FileChooser.h"
 #include "ui/QuitGuard.h"
 #include "ui/SaveChooser.h"
@@ -39,6 +41,12 @@ class AppDelegate : public QObject {
         SaveChooser chooseSaveFile = chooseSaveFileWithDialog;
         /// Ends the program when the user quits anyway during a job.
         std::function<void()> exitNow = exitAtOnce;
+        /// Tells the owner how a job ended while the window was not active: a
+        /// desktop notification with a title and a body.
+        std::function<void(const QString& title, const QString& body)> notify =
+            [](const QString& title, const QString& body) {
+                DesktopNotifier().notify(title, body);
+            };
     };
 
     /// Owns a controller on the resources beside the executable and the real
@@ -85,6 +93,7 @@ class AppDelegate : public QObject {
     void showComparison(const ConfigComparison& comparison, const ConfigChoice& chosen);
 
   private:
+    void notifyUnseen(const std::optional<Outcome>& result);
     void setupMenus();
     QMenu* addApplicationMenu();
     QMenu* addFileMenu();

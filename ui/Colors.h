@@ -32,3 +32,16 @@ QColor logText();
 const QColor& secondaryText();
 
 }  // namespace AppColors
+
+/// The result banner's colours, one pair (field, edge) for each tone of
+/// `ResultSummary`. GUI thread only.
+namespace BannerColors {
+
+const QColor& goodField();
+const QColor& goodEdge();
+const QColor& cautionField();
+const QColor& cautionEdge();
+const QColor& badField();
+const QColor& badEdge();
+
+}  // namespace BannerColors

@@ -11,6 +11,7 @@
 #include "ui/ElidedLabel.h"
 #include "ui/Fonts.h"
 #include "ui/LogPanel.h"
+#include "ui/ResultBanner.h"
 #include "ui/StatusDot.h"
 
 namespace {
@@ -37,6 +38,7 @@ UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
       firmware_(makeLabel(13, AppColors::secondaryText(), this)),
       progress_(new QProgressBar(this)),
       button_(new QPushButton(QStringLiteral("Update Firmware"), this)),
+      banner_(new ResultBanner(this)),
       log_(new LogPanel(this)) {
     setFixedSize(480, 420);
     buildLayout();
@@ -70,6 +72,7 @@ void UpdaterView::buildLayout() {
     button_->setMinimumHeight(button_->fontMetrics().height() + 2 * 8);
     button_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     column->addWidget(button_);
+    column->addWidget(banner_);
 
     column->addWidget(log_, 1);
 }
@@ -87,6 +90,7 @@ void UpdaterView::connectTo(UpdateController& controller) {
     connect(&controller, &UpdateController::statusMessageChanged, this,
             &UpdaterView::showStatusMessage);
     connect(&controller, &UpdateController::logChanged, this, &UpdaterView::showLog);
+    connect(&controller, &UpdateController::resultChanged, this, &UpdaterView::showResult);
     connect(&controller, &UpdateController::customFirmwareURLChanged, this,
             [this, &controller] { showFirmwareLabel(controller.firmwareLabel()); });
     const auto followMonitor = [this, monitor] {
@@ -117,6 +121,7 @@ void UpdaterView::showState(const UpdateState& state) {
             break;
         }
         case Kind::downloadingConfig:
+        case Kind::checkingStartup:
             progress_->setPalette(QPalette());
             progress_->setRange(0, 0);
             progress_->show();
@@ -146,6 +151,10 @@ void UpdaterView::showStatusMessage(const QString& message) {
 
 void UpdaterView::showFirmwareLabel(const QString& label) {
     firmware_->setText(label);
+}
+
+void UpdaterView::showResult(const std::optional<Outcome>& result) {
+    banner_->showSummary(result ? summarize(*result, Texts::Audience::window) : std::nullopt);
 }
 
 void UpdaterView::showLog(const LogEntries& entries) {

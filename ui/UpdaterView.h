@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "app/LogEntry.h"
+#include "app/Outcome.h"
 #include "app/UpdateState.h"
 #include "ui/ElidedLabel.h"
 
@@ -12,6 +13,7 @@ class LogPanel;
 class QLabel;
 class QProgressBar;
 class QPushButton;
+class ResultBanner;
 class StatusDot;
 class UpdateController;
 
@@ -36,6 +38,8 @@ class UpdaterView : public QWidget {
     /// One line; a message too long for it is elided, whole in the tooltip.
     void showStatusMessage(const QString& message);
     void showFirmwareLabel(const QString& label);
+    /// How the last job ended, in the result banner; none hides it.
+    void showResult(const std::optional<Outcome>& result);
     /// The log; see `LogView::setEntries` for scrolling.
     void showLog(const LogEntries& entries);
 
@@ -46,6 +50,7 @@ class UpdaterView : public QWidget {
     QProgressBar* progressBar() const { return progress_; }
     QPushButton* updateButton() const { return button_; }
     LogPanel* logPanel() const { return log_; }
+    ResultBanner* resultBanner() const { return banner_; }
 
   private:
     void buildLayout();
@@ -58,6 +63,7 @@ class UpdaterView : public QWidget {
     QLabel* firmware_;
     QProgressBar* progress_;
     QPushButton* button_;
+    ResultBanner* banner_;
     LogPanel* log_;
     bool isConnected_ = false;
     UpdateState state_;

@@ -2,7 +2,8 @@
 #include <QSignalSpy>
 
 #include "ControllerHarness.h"
-#include "sim/PtyPlotter.h"
+#include "app/Outcome.h"
+#include "app/SimulatedPlotter.h"
 #include "tests/support/Descriptors.h"
 
 namespace {
@@ -20,6 +21,11 @@ QByteArray storedConfig(const sim::PtyPlotter& plotter) {
     return bytes;
 }
 
+std::unique_ptr<sim::PtyPlotter> simulated(sim::Config config = {}) {
+    return startSimulatedPlotter(ResourceBundle(TFU_DEV_RESOURCES_DIR), SimulatedPace::instant,
+                                 config);
+}
+
 }  // namespace
 
 /// Whole jobs through the controller, the library and a pseudo-terminal to the
@@ -30,11 +36,12 @@ class ControllerSimTest : public QObject {
   private slots:
     void updatesOfAChosenImageAfterEraseAllAndUnplugged();
     void configurationsSavedComparedBackedUpAndUploaded();
+    void everyStartUpComesBackAsItsVerdict();
 };
 
 void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
-    sim::PtyPlotter plotter;
-    const QString port = QString::fromStdString(plotter.path());
+    const auto plotter = simulated();
+    const QString port = QString::fromStdString(plotter->path());
     ControllerHarness harness;
     auto& controller = harness.controller;
     controller.setDetailedLogging(true);
@@ -64,7 +71,7 @@ void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
     QCOMPARE(harness.busySpan().mid(0, 2),
              QList<UpdateState>({UpdateState::flashing(0), UpdateState::flashing(0.08f)}));
     QVERIFY(harness.published.contains("status: Erasing flash..."));
-    plotter.inspect([](const sim::Plotter& p) {
+    plotter->inspect([](const sim::Plotter& p) {
         const auto* flash = reinterpret_cast<const char*>(p.flash().data());
         for (const auto& [address, name] :
              {std::pair(0x0u, "bootloader"), std::pair(0x8000u, "partitions"),
@@ -79,13 +86,13 @@ void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
     // the next poll, which no longer finds the device, shows the waiting state.
     sim::Config pulled;
     pulled.goneAfterFlashData = 3;
-    sim::PtyPlotter unplugged(pulled);
+    const auto unplugged = simulated(pulled);
     controller.setEraseAllFlashEnabled(false);
-    QVERIFY(harness.plug(QString::fromStdString(unplugged.path())));
+    QVERIFY(harness.plug(QString::fromStdString(unplugged->path())));
     controller.updateFirmware();
     const QString failed = QStringLiteral("Flash write failed. Try again.");
     QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::error(failed)));
-    QCOMPARE(fdcheck::descriptorsOn(unplugged.path()), size_t{0});
+    QCOMPARE(fdcheck::descriptorsOn(unplugged->path()), size_t{0});
     QVERIFY(harness.plug({}));
     QCOMPARE(controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
     QCOMPARE(controller.logMessages().last(), "ERROR: " + failed);
@@ -102,8 +109,8 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     sim::Config config;
     config.machineConfig = tuned.toStdString();
     config.xmodemSendCanBlock = 1;
-    sim::PtyPlotter plotter(config);
-    const QString port = QString::fromStdString(plotter.path());
+    const auto plotter = simulated(config);
+    const QString port = QString::fromStdString(plotter->path());
     ControllerHarness harness;
     auto& controller = harness.controller;
     const ConfigChoice halcotChoice = ConfigChoice::ofProduct({"Corvane Halcot", "Halcot.yaml"});
@@ -120,7 +127,7 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::error(cancelled)));
     QCOMPARE(readFile(saved), QByteArray("earlier copy\n"));
 
-    plotter.modify([](sim::Plotter& p) { p.config().xmodemSendCanBlock.reset(); });
+    plotter->modify([](sim::Plotter& p) { p.config().xmodemSendCanBlock.reset(); });
     QVERIFY(harness.plug(port));
     controller.saveMachineConfig(saved);
     controller.compareWithMachine(halcotChoice);  // refused; the save goes on
@@ -163,10 +170,10 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
                           "Preparing Corvane Halcot config v1.2.0-devset"}));
     QCOMPARE(harness.busySpan().first(), UpdateState::downloadingConfig());
     QCOMPARE(harness.busySpan().last(), UpdateState::configComplete());
-    QCOMPARE(storedConfig(plotter), halcot);
+    QCOMPARE(storedConfig(*plotter), halcot);
 
     // A backup that fails stops the upload before it reaches the machine.
-    plotter.modify([](sim::Plotter& p) { p.config().xmodemSendCanBlock = 1; });
+    plotter->modify([](sim::Plotter& p) { p.config().xmodemSendCanBlock = 1; });
     QVERIFY(harness.plug(port));
     controller.uploadConfigFromFile(writeFile(dir, "workshop.yaml", "name: workshop\n"));
     const QString message =
@@ -174,7 +181,7 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::error(message)));
     QTRY_COMPARE(controller.logMessages(),
                  QStringList({"Preparing workshop.yaml", "ERROR: " + message}));
-    QCOMPARE(storedConfig(plotter), halcot);
+    QCOMPARE(storedConfig(*plotter), halcot);
     QCOMPARE(backups.entryList(QDir::Files), files);
 
     // A configuration from a file, without a backup.
@@ -200,7 +207,7 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
                                  UpdateState::uploadingConfig(0.666666687f),
                                  UpdateState::uploadingConfig(1), UpdateState::configComplete()}));
     QVERIFY(progress == QList<float>({0.333333343f, 0.666666687f, 1.0f}));
-    QVERIFY(storedConfig(plotter) == workshop);
+    QVERIFY(storedConfig(*plotter) == workshop);
 
     // A file past the 16 MiB bound is not saved; the earlier copy stays as it was.
     sim::Config huge;
@@ -218,3 +225,41 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
 
 QTEST_GUILESS_MAIN(ControllerSimTest)
 #include "ControllerSimTest.moc"
+
+// The write succeeds every time; what the machine prints afterwards decides the
+// outcome (a machine that does not start costs the whole confirmation, so one of
+// them stands for all; the core's tests judge each). The log keeps the job's lines, the state stays
+// that of the write.
+void ControllerSimTest::everyStartUpComesBackAsItsVerdict() {
+    using Kind = Outcome::Kind;
+    const std::tuple<sim::Startup, bool, Kind, int, QString> rows[] = {
+        {sim::Startup::Healthy, false, Kind::succeeded, ESP_STARTUP_RUNNING, ""},
+        {sim::Startup::Panic, false, Kind::notStarting, ESP_STARTUP_PANIC, "Guru Meditation"},
+        {sim::Startup::OtherVersion, false, Kind::notConfirmed, ESP_STARTUP_WRONG_VERSION, "[VER:"},
+        {sim::Startup::ConfigError, true, Kind::configRejected, ESP_STARTUP_CONFIG_ERROR,
+         "[MSG:ERR:"},
+    };
+    for (const auto& [startup, upload, kind, verdict, evidence] : rows) {
+        sim::Config config;
+        config.startup = startup;
+        const auto plotter = simulated(config);
+        ControllerHarness harness;
+        QVERIFY(harness.plug(QString::fromStdString(plotter->path())));
+        upload ? harness.controller.uploadConfig("Halcot.yaml", "Corvane Halcot")
+               : harness.controller.updateFirmware();
+        QTRY_VERIFY_WITH_TIMEOUT(harness.controller.result().has_value(), kJobTimeoutMs);
+        const Outcome& outcome = *harness.controller.result();
+        QCOMPARE(outcome.kind, kind);
+        QCOMPARE(std::get<StartupCause>(outcome.cause).verdict, verdict);
+        QVERIFY(outcome.evidence.isEmpty() || outcome.evidence.first().startsWith(evidence));
+        const QStringList log = harness.controller.logMessages();
+        QVERIFY(log.contains(upload ? kUploaded : kComplete));
+        QCOMPARE(log.contains("ERROR: " + outcome.message), kind != Kind::succeeded);
+        // The write's state, never an error: the machine's verdict is the banner's.
+        QVERIFY(harness.states.contains(upload ? UpdateState::configComplete()
+                                               : UpdateState::flashComplete()));
+        QVERIFY(std::none_of(
+            harness.states.begin(), harness.states.end(),
+            [](const UpdateState& s) { return s.kind() == UpdateState::Kind::error; }));
+    }
+}

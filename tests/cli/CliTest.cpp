@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMap>
@@ -25,6 +26,7 @@ const QString kDev = QStringLiteral(TFU_DEV_RESOURCES_DIR);
 const QString kNoPort = QStringLiteral("/dev/tfu-no-such-port");
 const QString kComplete = QStringLiteral("Firmware update complete.");
 const QString kUploaded = QStringLiteral("Upload successful; restarting machine.");
+const QString kRunning = QStringLiteral("Firmware 2.10.6 installed and running.");
 const QString kWarning = QStringLiteral(
     "Writing firmware: stopping now can leave the machine unable to start. Press Ctrl+C again "
     "to stop.\n");
@@ -115,6 +117,7 @@ class CliTest : public QObject {
     void subcommands();
     void versionNamesTheProgramItsBuildAndTheFirmware();
     void jsonLogLinesCarryTheirSeverity();
+    void theMachinesStartDecidesTheStatus();
     void severalPlottersRunAtOnce();
     void fleetEndsWithTheFirstFailureInPortOrder();
     void terminalProgressIsRedrawnInPlace();
@@ -171,8 +174,9 @@ void CliTest::subcommands_data() {
     QTest::addColumn<QString>("err");  // exact; null: not compared
 
     const QString device = "Device running firmware v3.7.8 \u2014 updating firmware only.";
+    // The command line's own words, not the window's menus.
     const QString note = QStringLiteral(
-        "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for "
+        "NOTE: Flash was erased. Run teskal-flash upload-config to upload the configuration for "
         "your machine.");
     QTest::newRow("detect, 64 simulated")
         << L{"detect", "--sim", "64"} << 0 << L{"sim1", "sim2", "sim64"} << L{"sim65"} << "";
@@ -224,14 +228,18 @@ void CliTest::subcommands_data() {
     QTest::newRow("upload, port cannot be opened")
         << L{"upload-config", "--resources", kDev, "--product", "Halcot.yaml", "--port", kNoPort}
         << 2 << L{"Preparing Corvane Halcot config v1.2.0-devset"} << L{}
-        << "ERROR: Could not open serial port. Is another app using it?\n";
+        << "ERROR: Could not open serial port. Is another app using it?\n"
+           "Close any other program that uses the port, unplug and reconnect the machine, and "
+           "try again.\n";
     QTest::newRow("save-config") << L{"save-config", "--sim", file("saved.yaml")} << 0
                                  << L{"Machine config saved to " + file("saved.yaml") +
                                       " (512 bytes)"}
                                  << L{} << "";
     QTest::newRow("save-config, port cannot be opened")
         << L{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 2 << L{} << L{}
-        << "ERROR: Could not read config.yaml from the machine: Failed to open port\n";
+        << "ERROR: Could not read config.yaml from the machine: Failed to open port\n"
+           "Close any other program that uses the port, unplug and reconnect the machine, and "
+           "try again.\n";
     QTest::newRow("save-config, destination cannot be written")
         << QStringList{"save-config", "--sim", "/nonexistent/folder/machine.yaml"} << 17
         << QStringList{} << QStringList{"Machine config saved"} << QString();
@@ -356,6 +364,37 @@ void CliTest::jsonLogLinesCarryTheirSeverity() {
                       "configuration (.yaml, .yml)"}})));
 }
 
+// After the write the machine's own start decides: the status, "machine", its lines
+// as evidence, and the text ends with the verdict, never with "complete".
+void CliTest::theMachinesStartDecidesTheStatus() {
+    const std::tuple<QStringList, int, QString, QString> rows[] = {
+        {{"flash", "--sim-startup", "panic"}, 13, "panic", "Guru Meditation Error"},
+        {{"flash", "--sim-startup", "no-app"}, 13, "no-app", "invalid header: 0xffffffff"},
+        {{"flash", "--sim-startup", "other-version"}, 10, "wrong-version", "[VER:0.9.0"},
+        {{"upload-config", "--sim-startup", "config-error", "--product", "Corvane Halcot"},
+         14,
+         "config-error",
+         "[MSG:ERR: Bad GPIO"},
+    };
+    for (const auto& [arguments, status, machine, evidence] : rows) {
+        const Run json = run(QStringList(arguments) << "--sim"
+                                                    << "--json");
+        QCOMPARE(json.exitCode, status);
+        const QJsonObject result = jsonObjects(json.out).last();
+        QCOMPARE(result["code"].toInt(), status);
+        QCOMPARE(result["machine"].toString(), machine);
+        QVERIFY(result["evidence"].toArray().first().toString().startsWith(evidence));
+    }
+    const Run text = run({"flash", "--sim", "--sim-startup", "panic"});
+    const QStringList ending = text.err.split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(ending.first(),
+             "ERROR: Firmware written, but the machine does not start: it crashed at start-up.");
+    QVERIFY(ending[1].startsWith("  Guru Meditation Error"));
+    QCOMPARE(ending.last(),
+             "Run teskal-flash flash --erase-all. If it keeps happening, keep this output for "
+             "support.");
+}
+
 // Each plotter's JSON lines carry its port; an application-only update writes the
 // boot-app image and the application, and its regions run from 0.12 to 0.85.
 void CliTest::severalPlottersRunAtOnce() {
@@ -370,9 +409,12 @@ void CliTest::severalPlottersRunAtOnce() {
         last[key] = object;
     }
     for (const QString port : {"sim1", "sim2"}) {
-        QCOMPARE(
-            last[port + " result"],
-            QJsonObject({{"type", "result"}, {"code", 0}, {"message", kComplete}, {"port", port}}));
+        QCOMPARE(last[port + " result"], QJsonObject({{"type", "result"},
+                                                      {"code", 0},
+                                                      {"message", kRunning},
+                                                      {"machine", "running"},
+                                                      {"evidence", QJsonArray{"[VER:2.10.6:]"}},
+                                                      {"port", port}}));
         QCOMPARE(last[port + " progress"]["bytes"].toInteger(),
                  devImageSize("boot_app0") + devImageSize("firmware"));
         QCOMPARE(qRound(last[port + " progress"]["fraction"].toDouble() * 100), 85);
@@ -382,8 +424,8 @@ void CliTest::severalPlottersRunAtOnce() {
     const Run mixed =
         run({"flash", "--sim", "2", "--port", "sim2", "--port", kNoPort, "--port", "sim1"});
     QCOMPARE(mixed.exitCode, 11);
-    QVERIFY(mixed.out.contains("sim2: " + kComplete + '\n'));
-    QVERIFY(mixed.out.contains("sim1: " + kComplete + '\n'));
+    QVERIFY(mixed.out.contains("sim2: " + kRunning + '\n'));
+    QVERIFY(mixed.out.contains("sim1: " + kRunning + '\n'));
     QVERIFY2(!mixed.out.contains("Updating firmware"), "log lines only with --verbose");
     QCOMPARE(mixed.err,
              kNoPort + ": ERROR: Firmware image refused: a development image, not firmware\n");

@@ -4,6 +4,7 @@
 #include <QTextBrowser>
 
 #include "UiTestSupport.h"
+#include "app/operations/CheckStartup.h"
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
 #include "ui/CompareWindow.h"
@@ -76,6 +77,38 @@ void ScreensTest::mainWindowStates() {
         view->showLog(lines);
         save(window, name);
     }
+    // Every kind of result banner, over a finished job's log.
+    const auto verdict = [](int kind, const QStringList& evidence) {
+        FlasherBridge::StartupReport report;
+        report.verdict = kind;
+        report.version = kind == ESP_STARTUP_WRONG_VERSION ? std::optional<QString>("2.9.1")
+                                                           : std::optional<QString>("2.10.6");
+        report.evidence = evidence;
+        return startupOutcome(report, StartupCause::Written::firmware, QStringLiteral("2.10.6"));
+    };
+    const std::pair<QString, Outcome> banners[] = {
+        {"banner-running", verdict(ESP_STARTUP_RUNNING, {})},
+        {"banner-wrong-version", verdict(ESP_STARTUP_WRONG_VERSION, {"[VER:2.9.1:]"})},
+        {"banner-panic",
+         verdict(ESP_STARTUP_PANIC,
+                 {"Guru Meditation Error: Core  1 panic'ed (LoadProhibited). Exception was "
+                  "unhandled.",
+                  "Backtrace: 0x4200b9c3:0x3fcebe60 0x4200c1a6:0x3fcebe90",
+                  "rst:0xc (RTC_SW_CPU_RST),boot:0x8 (SPI_FAST_FLASH_BOOT)"})},
+        {"banner-config-error",
+         verdict(ESP_STARTUP_CONFIG_ERROR,
+                 {"[MSG:ERR: Bad GPIO gpio.48 for axes/x/motor0/stepstick/step_pin]"})},
+        {"banner-failed", Outcome::library(3)},
+    };
+    view->showState(UpdateState::flashComplete());
+    view->showStatusMessage(QStringLiteral("Device connected"));
+    view->showLog(LogEntries(log) << LogEntry::info("Firmware update complete."));
+    for (const auto& [name, outcome] : banners) {
+        view->showResult(outcome);
+        save(window, name);
+    }
+    view->showResult(std::nullopt);
+
     // About 60 characters a line: the 56-character sample line must not wrap.
     QVERIFY(view->logPanel()->view()->viewport()->width() >=
             QFontMetrics(Fonts::monospace(11)).horizontalAdvance(sample));
