@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <variant>
 
+#include "app/Checklist.h"
 #include "esp_flasher.h"
 
 /// Why reading a file from the machine failed, as the library tells it.
@@ -15,9 +16,27 @@ struct DownloadCause {
     friend bool operator==(const DownloadCause&, const DownloadCause&) = default;
 };
 
+/// Why a port cannot be used, as the library's port check finds it (esp_check_port).
+struct PortCause {
+    QString path;
+    int problem = ESP_PORT_OK;  ///< enum esp_port_problem
+    int error = 0;              ///< the errno behind it
+    // The node's access, filled whenever the node exists.
+    QString owner;
+    QString group;
+    unsigned mode = 0;           ///< permission bits, e.g. 0660
+    QString user;                ///< the user this program runs as
+    bool userInGroup = false;    ///< the account database puts the user in `group`
+    bool groupInEffect = false;  ///< this process has `group` (false until a new login)
+    int holderPid = 0;           ///< for a port in use: the other program, 0 when unnamed
+    QString holderName;
+
+    friend bool operator==(const PortCause&, const PortCause&) = default;
+};
+
 /// What is known, as data, about why an operation ended as it did; empty where
-/// the kind alone tells.
-using Cause = std::variant<std::monostate, DownloadCause>;
+/// the kind alone tells. A connection check carries its whole checklist.
+using Cause = std::variant<std::monostate, DownloadCause, PortCause, Checklist>;
 
 /// How an operation ended. Created where the result is known and carried
 /// unchanged to the window and to the command line, which present it; neither
@@ -34,6 +53,8 @@ struct Outcome {
         missingResource,   ///< something it needs is missing from the resources folder
         notWritten,        ///< a file on this computer could not be written
         busy,              ///< another operation was still running
+        portUnusable,      ///< the port cannot be used; `cause` is a PortCause
+        notReady,          ///< the connection check found no plotter ready to use
     };
 
     Kind kind = Kind::succeeded;

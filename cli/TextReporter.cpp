@@ -25,6 +25,14 @@ void write(std::FILE* stream, const QString& text) {
     std::fflush(stream);
 }
 
+// A checklist row as "✓ line", a problem's fix indented below its line.
+QString checkLines(const CheckRow& row) {
+    const QString mark = row.mark == CheckRow::Mark::ok        ? QStringLiteral("\u2713 ")
+                         : row.mark == CheckRow::Mark::problem ? QStringLiteral("\u2717 ")
+                                                               : QStringLiteral("\u2022 ");
+    return row.fix.isEmpty() ? mark + row.line : mark + row.line + QStringLiteral("\n  ") + row.fix;
+}
+
 }  // namespace
 
 TextReporter::TextReporter(Style style) : style_(style) {
@@ -92,12 +100,18 @@ void TextReporter::onProgress(Row& row, const event::Progress& progress) {
 }
 
 // A failure goes to standard error in the window's words; with several plotters
-// a success gets a line of its own. The evidence follows the message.
+// a success gets a line of its own. A checklist comes before the message, the
+// evidence after it.
 void TextReporter::onResult(Row& row, const event::Result& result) {
     const Outcome& outcome = result.outcome;
     if (row.meter.active()) {
         row.meter.finish(!outcome.isFailure());
         scheduleDraw();
+    }
+    if (const auto* checklist = std::get_if<Checklist>(&outcome.cause)) {
+        for (const CheckRow& check : checklist->rows) {
+            printLine(stdout, prefixed(row.port, checkLines(check)));
+        }
     }
     std::FILE* stream = outcome.isFailure() ? stderr : stdout;
     if (outcome.isFailure()) {

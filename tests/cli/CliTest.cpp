@@ -1,6 +1,9 @@
+#include <fcntl.h>
+#include <grp.h>
 #include <poll.h>
 #include <pty.h>
 #include <signal.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QJsonDocument>
@@ -8,6 +11,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -28,9 +32,15 @@ struct Run {
     QString err;
 };
 
-Run run(const QStringList& arguments) {
+// `launcher`, when given, starts the program: its first word with the rest, the
+// program and `arguments` as arguments.
+Run run(const QStringList& arguments, const QStringList& launcher = {}) {
     QProcess process;
-    process.start(kProgram, arguments);
+    if (launcher.isEmpty()) {
+        process.start(kProgram, arguments);
+    } else {
+        process.start(launcher.first(), launcher.mid(1) + QStringList{kProgram} + arguments);
+    }
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit) {
         qFatal("teskal-flash %s did not end", qPrintable(arguments.join(' ')));
     }
@@ -62,6 +72,21 @@ bool containsInOrder(const QString& text, const QStringList& lines) {
     return next == lines.size();
 }
 
+// Whether a plotter (USB 303a:1001) is attached to this computer.
+bool plotterAttached() {
+    const QDir devices(QStringLiteral("/sys/bus/usb/devices"));
+    for (const QString& device : devices.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const auto id = [&](const char* name) {
+            QFile file(devices.filePath(device + '/' + name));
+            return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+        };
+        if (id("idVendor") == "303a" && id("idProduct") == "1001") {
+            return true;
+        }
+    }
+    return false;
+}
+
 qint64 devImageSize(const QString& name) {
     return QFileInfo(kDev + '/' + name + ".bin").size();
 }
@@ -82,10 +107,15 @@ class CliTest : public QObject {
     void severalPlottersRunAtOnce();
     void terminalProgressIsRedrawnInPlace();
     void ctrlCWarnsOnceDuringAWrite();
+    void aPortTheUserMayNotOpenIsNamedAndGetsNothing();
+    void doctorAndDetectSayWhyNoPlotterIsReady();
 
   private:
     QString file(const QString& name) const { return files_.filePath(name); }
     QTemporaryDir files_;
+    // A serial port nobody serves: it opens, and stays silent.
+    int freeMaster_ = -1;
+    QString freePort_;
 };
 
 void CliTest::initTestCase() {
@@ -100,6 +130,9 @@ void CliTest::initTestCase() {
         QVERIFY(out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size());
     }
     QVERIFY(QDir(files_.path()).mkpath("empty-resources"));
+    freeMaster_ = ::posix_openpt(O_RDWR | O_NOCTTY);
+    QVERIFY(freeMaster_ >= 0 && ::grantpt(freeMaster_) == 0 && ::unlockpt(freeMaster_) == 0);
+    freePort_ = QString::fromLatin1(::ptsname(freeMaster_));
 }
 
 void CliTest::subcommands_data() {
@@ -119,8 +152,16 @@ void CliTest::subcommands_data() {
                             << QStringList{"sim1", "sim2", "sim3"} << QStringList{} << "";
     QTest::newRow("version") << QStringList{"version", "--sim"} << 0 << QStringList{"v3.7.8"}
                              << QStringList{} << "";
+    // A port that cannot be used is named as such, never as a silent machine.
+    QTest::newRow("version, port missing")
+        << QStringList{"version", "--port", kNoPort} << 2 << QStringList{} << QStringList{}
+        << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
+    QTest::newRow("version, not a serial port")
+        << QStringList{"version", "--port", "/dev/null"} << 2 << QStringList{} << QStringList{}
+        << "ERROR: /dev/null is not a serial port. Name the plotter's port, for example "
+           "/dev/ttyACM0.\n";
     QTest::newRow("version, no answer")
-        << QStringList{"version", "--port", kNoPort} << 9 << QStringList{} << QStringList{}
+        << QStringList{"version", "--port", freePort_} << 9 << QStringList{} << QStringList{}
         << "ERROR: Operation timed out. Try unplugging and reconnecting.\n";
     QTest::newRow("probe") << QStringList{"probe", "--sim"} << 0
                            << QStringList{"Partition table: present"} << QStringList{} << "";
@@ -145,11 +186,11 @@ void CliTest::subcommands_data() {
         << "ERROR: Firmware image refused: not a firmware image (first byte 0x7B, expected "
            "0xE9)\n";
     QTest::newRow("flash, development image for a real port")
-        << QStringList{"flash", "--sim", "--port", kNoPort} << 11 << QStringList{}
+        << QStringList{"flash", "--sim", "--port", freePort_} << 11 << QStringList{}
         << QStringList{"Checking device status"}
         << "ERROR: Firmware image refused: a development image, not firmware\n";
     QTest::newRow("flash, resources missing")
-        << QStringList{"flash", "--port", kNoPort, "--resources", file("empty-resources")} << 12
+        << QStringList{"flash", "--port", freePort_, "--resources", file("empty-resources")} << 12
         << QStringList{} << QStringList{} << "ERROR: Bundled firmware not found\n";
     QTest::newRow("upload, product")
         << QStringList{"upload-config", "--sim", "--product", "Corvane Halcot"} << 0
@@ -171,8 +212,8 @@ void CliTest::subcommands_data() {
     QTest::newRow("upload, port cannot be opened")
         << QStringList{"upload-config", "--resources", kDev,   "--product",
                        "Halcot.yaml",   "--port",      kNoPort}
-        << 2 << QStringList{"Preparing Corvane Halcot config v1.2.0-devset"} << QStringList{}
-        << "ERROR: Could not open serial port. Is another app using it?\n";
+        << 2 << QStringList{} << QStringList{"Preparing"}
+        << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
     QTest::newRow("save-config") << QStringList{"save-config", "--sim", file("saved.yaml")} << 0
                                  << QStringList{"Machine config saved to " + file("saved.yaml") +
                                                 " (512 bytes)"}
@@ -180,7 +221,7 @@ void CliTest::subcommands_data() {
     QTest::newRow("save-config, port cannot be opened")
         << QStringList{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 2 << QStringList{}
         << QStringList{}
-        << "ERROR: Could not read config.yaml from the machine: Failed to open port\n";
+        << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
     QTest::newRow("save-config, destination cannot be written")
         << QStringList{"save-config", "--sim", "/nonexistent/folder/machine.yaml"} << 17
         << QStringList{} << QStringList{"Machine config saved"} << QString();
@@ -189,7 +230,9 @@ void CliTest::subcommands_data() {
         << QStringList{"Exit status:",
                        "  0  saved",
                        "  1  no plotter is connected",
-                       "  2  the port could not be opened",
+                       "  2  the port cannot be used (missing, not a serial port, not permitted, "
+                       "in "
+                       "use) or could not be opened",
                        "  8  a configuration transfer with the machine failed (upload or download)",
                        "  17 a file could not be written on this computer"}
         << QStringList{"  9 "} << "";
@@ -199,6 +242,10 @@ void CliTest::subcommands_data() {
                        "  8  a configuration transfer with the machine failed (upload or "
                        "download) (also when no plotter is connected)"}
         << QStringList{"  1  no plotter"} << "";
+    QTest::newRow("doctor's statuses")
+        << QStringList{"doctor", "--help"} << 0
+        << QStringList{"  0  a plotter is ready to use", "  1  no plotter is ready to use"}
+        << QStringList{"  2 "} << "";
     QTest::newRow("diff-config, different")
         << QStringList{"diff-config", "--sim", "--product", "Corvane Halcot"} << 1
         << QStringList{"axes/x/max_travel_mm: 300.000 \u2192 330.000",
@@ -343,12 +390,12 @@ void CliTest::severalPlottersRunAtOnce() {
     // Text: one result line each; the status is the first failure in port order.
     const Run mixed =
         run({"flash", "--sim", "2", "--port", "sim2", "--port", kNoPort, "--port", "sim1"});
-    QCOMPARE(mixed.exitCode, 11);
+    QCOMPARE(mixed.exitCode, 2);
     QVERIFY(mixed.out.contains("sim2: " + kComplete + '\n'));
     QVERIFY(mixed.out.contains("sim1: " + kComplete + '\n'));
     QVERIFY2(!mixed.out.contains("Updating firmware"), "log lines only with --verbose");
-    QCOMPARE(mixed.err,
-             kNoPort + ": ERROR: Firmware image refused: a development image, not firmware\n");
+    QCOMPARE(mixed.err, kNoPort + ": ERROR: " + kNoPort +
+                            " does not exist. Plug the plotter in, or name another port.\n");
 }
 
 void CliTest::terminalProgressIsRedrawnInPlace() {
@@ -403,6 +450,85 @@ void CliTest::ctrlCWarnsOnceDuringAWrite() {
         QCOMPARE(process.exitCode(), 130);
         QVERIFY(!process.readAllStandardOutput().contains("\"type\":\"result\""));
     }
+}
+
+// As an ordinary user on a port they may not open, every command that opens a port
+// says "permission", names the group and the fix, exits 2 and sends nothing.
+void CliTest::aPortTheUserMayNotOpenIsNamedAndGetsNothing() {
+    const int master = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
+    QVERIFY(master >= 0 && ::grantpt(master) == 0 && ::unlockpt(master) == 0);
+    const QString port = QString::fromLatin1(::ptsname(master));
+    QString denied;
+    QStringList launcher;
+    if (::geteuid() == 0) {
+        // Mode bits stop no open by root: the port is given to root and dialout, and
+        // the program runs as user nobody, who is in neither.
+        const group* dialout = ::getgrnam("dialout");
+        if (dialout == nullptr || QStandardPaths::findExecutable("setpriv").isEmpty()) {
+            QSKIP("needs the group dialout and setpriv to drop privileges");
+        }
+        QVERIFY(::chown(qPrintable(port), 0, dialout->gr_gid) == 0);
+        QVERIFY(::chmod(qPrintable(port), 0660) == 0);
+        launcher = QStringList{"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"};
+        denied = "Permission denied on " + port +
+                 " (group dialout). Install the permission rule (teskal-flash doctor), or join "
+                 "the group: sudo usermod -aG dialout $USER, then log out and in again.";
+    } else {
+        // The user's own node, without permission bits.
+        QVERIFY(::chmod(qPrintable(port), 0) == 0);
+        denied = "Permission denied on " + port + " (owner " + qgetenv("USER") +
+                 ", mode 0000). Install the permission rule (teskal-flash doctor).";
+    }
+    const QStringList commands[] = {
+        {"version", "--port", port},
+        {"flash", "--port", port},
+        {"probe", "--port", port},
+        {"save-config", "--port", port, file("denied.yaml")},
+        {"upload-config", "--resources", kDev, "--product", "Halcot.yaml", "--port", port},
+        {"diff-config", "--resources", kDev, "--product", "Halcot.yaml", "--port", port},
+    };
+    for (const QStringList& command : commands) {
+        const Run result = run(command, launcher);
+        QCOMPARE(result.exitCode, 2);
+        QCOMPARE(result.err, "ERROR: " + denied + '\n');
+        QCOMPARE(result.out, QString());
+        char received[64];
+        QVERIFY2(::read(master, received, sizeof received) <= 0, qPrintable(command.first()));
+    }
+    ::close(master);
+}
+
+void CliTest::doctorAndDetectSayWhyNoPlotterIsReady() {
+    if (plotterAttached()) {
+        QSKIP("a plotter is attached to this computer");
+    }
+    const QString noPlotter = QStringLiteral("No plotter seen on USB.");
+    const QString fix = QStringLiteral(
+        "Switch it on, try another USB port, and use a cable that carries data: some cables only "
+        "charge.");
+    const Run text = run({"doctor"});
+    QCOMPARE(text.exitCode, 1);
+    QCOMPARE(text.out.section('\n', 0, 1), "\u2717 " + noPlotter + "\n  " + fix);
+    QCOMPARE(text.err, QStringLiteral("ERROR: No plotter is ready to use.\n"));
+
+    // One object per row, then the result; the rows after the first are the
+    // computer's other USB serial devices.
+    const QList<QJsonObject> objects = jsonObjects(run({"doctor", "--json"}).out);
+    QCOMPARE(
+        objects.first(),
+        QJsonObject({{"type", "check"}, {"mark", "problem"}, {"line", noPlotter}, {"fix", fix}}));
+    QCOMPARE(
+        objects.last(),
+        QJsonObject({{"type", "result"}, {"code", 1}, {"message", "No plotter is ready to use."}}));
+    for (const QJsonObject& other : objects.mid(1, objects.size() - 2)) {
+        QCOMPARE(other["mark"].toString(), QStringLiteral("info"));
+    }
+
+    const Run detect = run({"detect"});
+    QCOMPARE(detect.exitCode, 1);
+    QCOMPARE(detect.err,
+             QStringLiteral(
+                 "ERROR: No device found. Is it connected? Run teskal-flash doctor to see why.\n"));
 }
 
 QTEST_GUILESS_MAIN(CliTest)
