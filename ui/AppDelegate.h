@@ -7,12 +7,14 @@
 #include "app/BuildConfig.h"
 #include "app/ConfigChoice.h"
 #include "app/ConfigDiff.h"
+#include "app/operations/CheckConnection.h"
 #include "ui/FileChooser.h"
 #include "ui/QuitGuard.h"
 #include "ui/SaveChooser.h"
 
 class AboutWindow;
 class CompareWindow;
+class ConnectionCheckWindow;
 class EscapeCloser;
 class QAction;
 class QMainWindow;
@@ -39,6 +41,8 @@ class AppDelegate : public QObject {
         SaveChooser chooseSaveFile = chooseSaveFileWithDialog;
         /// Ends the program when the user quits anyway during a job.
         std::function<void()> exitNow = exitAtOnce;
+        /// Where the Connection Check looks for the plotter.
+        CheckConnection::Places devicePlaces = {};
     };
 
     /// Owns a controller on the resources beside the executable and the real
@@ -57,6 +61,8 @@ class AppDelegate : public QObject {
     AboutWindow* aboutWindow() const { return aboutWindow_.get(); }
     /// The window of the last comparison; null until one ended.
     CompareWindow* compareWindow() const { return compareWindow_.get(); }
+    /// The Connection Check; null until it was first asked for.
+    ConnectionCheckWindow* connectionCheckWindow() const { return connectionCheckWindow_.get(); }
 
   public slots:
     void showAbout();
@@ -83,6 +89,8 @@ class AppDelegate : public QObject {
     /// Shows `comparison` in a new compare window, in place of an earlier one; its
     /// "Upload This Configuration" uploads `chosen` as the Config menu would.
     void showComparison(const ConfigComparison& comparison, const ConfigChoice& chosen);
+    /// Shows the Connection Check, a new one unless it is open already.
+    void showConnectionCheck();
 
   private:
     void setupMenus();
@@ -101,6 +109,7 @@ class AppDelegate : public QObject {
     std::unique_ptr<UpdateController> updateController_;
     std::unique_ptr<AboutWindow> aboutWindow_;
     std::unique_ptr<CompareWindow> compareWindow_;
+    std::unique_ptr<ConnectionCheckWindow> connectionCheckWindow_;
     EscapeCloser* escapeCloser_ = nullptr;
     QuitGuard* quitGuard_ = nullptr;
     SleepInhibitor* sleepInhibitor_;

@@ -51,4 +51,9 @@ const QColor& secondaryText() {
     return CV::darkGray();
 }
 
+const QColor& problem() {
+    static const QColor colour(198, 40, 40);
+    return colour;
+}
+
 }  // namespace AppColors

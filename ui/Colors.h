@@ -30,5 +30,7 @@ const QColor& accent();
 QColor logText();
 /// Port path, firmware label, copy icon.
 const QColor& secondaryText();
+/// The mark of a check that failed.
+const QColor& problem();
 
 }  // namespace AppColors
