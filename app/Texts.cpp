@@ -541,6 +541,11 @@ QString connectionCheck() {
     return QStringLiteral("Connection Check");
 }
 
+QString connectionCheckIntro() {
+    return QStringLiteral(
+        "Checked again every second. This window closes once the plotter can be used.");
+}
+
 QString installRule() {
     return QStringLiteral("Install Permission Rule…");
 }

@@ -133,6 +133,7 @@ QString ruleShipped();  ///< the rule's name, when no installed copy is found
 // The Connection Check window.
 QString plotterNotFound();                          ///< "Plotter not found?"
 QString connectionCheck();                          ///< "Connection Check"
+QString connectionCheckIntro();                     ///< checked every second, closes when ready
 QString installRule();                              ///< "Install Permission Rule…"
 QString installRuleByHand(const QString& command);  ///< the button's tooltip without pkexec
 QString ruleInstallerNotStarted();

@@ -92,7 +92,9 @@ void ConnectionCheckWindow::buildLayout() {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(20, 20, 20, 20);
     column->setSpacing(16);
-    column->setSizeConstraint(QLayout::SetMinAndMaxSize);
+
+    column->addWidget(
+        makeLabel(Texts::connectionCheckIntro(), 12, AppColors::secondaryText(), this));
 
     auto* rows = new QVBoxLayout(rows_);
     rows->setContentsMargins(0, 0, 0, 0);
@@ -131,15 +133,29 @@ void ConnectionCheckWindow::showRows() {
         delete item;
     }
     for (const CheckRow& row : checklist_.rows) {
-        rows->addWidget(makeRow(row, rows_));
+        QWidget* shown = makeRow(row, rows_);
+        rows->addWidget(shown);
+        // At once, not when the layout would show it later, so that it counts for
+        // the height.
+        shown->show();
     }
     installRule_->setVisible(checklist_.permissionDenied);
+    fitHeight();
+}
+
+// Wrapped lines make the height depend on the fixed width.
+void ConnectionCheckWindow::fitHeight() {
+    QLayout* column = layout();
+    column->activate();
+    setFixedHeight(column->hasHeightForWidth() ? column->totalHeightForWidth(kWidth)
+                                               : column->totalSizeHint().height());
 }
 
 void ConnectionCheckWindow::installRule() {
     const bool started = launch_(rule_.program(), rule_.arguments());
     notice_->setText(started ? QString() : Texts::ruleInstallerNotStarted());
     notice_->setVisible(!started);
+    fitHeight();
 }
 
 void ConnectionCheckWindow::showEvent(QShowEvent* event) {

@@ -54,6 +54,7 @@ class ConnectionCheckWindow : public QWidget {
   private:
     void buildLayout();
     void showRows();
+    void fitHeight();
     void installRule();
 
     CheckConnection checks_;

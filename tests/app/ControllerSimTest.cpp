@@ -1,6 +1,7 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 
+#include "../support/HoldingProcess.h"
 #include "ControllerHarness.h"
 #include "sim/PtyPlotter.h"
 
@@ -29,6 +30,7 @@ class ControllerSimTest : public QObject {
   private slots:
     void updatesOfAChosenImageAndAfterEraseAll();
     void configurationsSavedComparedBackedUpAndUploaded();
+    void aPortHeldByAnotherProgramIsRefusedBeforeAnythingIsSent();
 };
 
 void ControllerSimTest::updatesOfAChosenImageAndAfterEraseAll() {
@@ -185,6 +187,28 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
                                  UpdateState::uploadingConfig(1), UpdateState::configComplete()}));
     QVERIFY(progress == QList<float>({0.333333343f, 0.666666687f, 1.0f}));
     QVERIFY(storedConfig(plotter) == workshop);
+}
+
+// A serial monitor left open on the plotter's port: the job says who holds it,
+// sends nothing and asks nothing, and the window offers its Connection Check.
+void ControllerSimTest::aPortHeldByAnotherProgramIsRefusedBeforeAnythingIsSent() {
+    sim::PtyPlotter plotter;
+    const QString port = QString::fromStdString(plotter.path());
+    const HoldingProcess monitor(plotter.path());
+    ControllerHarness harness;
+    auto& controller = harness.controller;
+    QVERIFY(harness.plug(port));
+    QVERIFY(!controller.connectionHint()->offered());
+
+    controller.updateFirmware();
+    const QString held =
+        QString("%1 is in use by sleep (pid %2). Close that program and try again.")
+            .arg(port)
+            .arg(monitor.pid);
+    QCOMPARE(harness.waitForOutcome(5000), std::optional(UpdateState::error(held)));
+    QCOMPARE(controller.logMessages(), QStringList{"ERROR: " + held});
+    QVERIFY(controller.connectionHint()->offered());
+    plotter.inspect([](const sim::Plotter& p) { QVERIFY(p.transcript().empty()); });
 }
 
 QTEST_GUILESS_MAIN(ControllerSimTest)
