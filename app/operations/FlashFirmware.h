@@ -29,7 +29,8 @@ class FlashFirmware : public Operation {
     /// the library's job and `firmwareWritten` when it succeeded, then logs
     /// "Firmware update complete." (after an erase also an empty line and the NOTE).
     /// Ends refused or missing a resource before the port is touched, or with the
-    /// library's code.
+    /// library's code; first of all, and after the library could not open the port,
+    /// `portUnusable` when the port cannot be used (see `PortDiagnosis`).
     Outcome run(const OperationSink& sink) override;
 
     /// The share, 0..1, of the flash plan's bytes written when the library reports

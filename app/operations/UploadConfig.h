@@ -35,7 +35,9 @@ class UploadConfig : public Operation {
     /// file is missing) and logs "Preparing PRODUCT config" and its suffix, or
     /// "Uploading config file..."; uploads; on success enters `configUploaded` and
     /// logs "Upload successful; restarting machine.". Ends missing a resource, with
-    /// the backup's failure, or with the library's code.
+    /// the backup's failure, or with the library's code; `portUnusable` before it
+    /// logs anything, or after the library could not open the port, when the port
+    /// cannot be used (see `PortDiagnosis`).
     Outcome run(const OperationSink& sink) override;
 
   private:
