@@ -254,6 +254,9 @@ void ConnectionTest::portProblemsInWords() {
         {cause(ESP_PORT_PERMISSION, "dialout", 0600),
          "Permission denied on /dev/ttyACM0 (owner root, mode 0600). Install the permission "
          "rule (Connection Check)."},
+        {cause(ESP_PORT_PERMISSION, "dialout", 0640),
+         "Permission denied on /dev/ttyACM0 (owner root, mode 0640). Install the permission "
+         "rule (Connection Check)."},
         {cause(ESP_PORT_PERMISSION, "root", 0660),
          "Permission denied on /dev/ttyACM0 (owner root, mode 0660). Install the permission "
          "rule (Connection Check)."},
