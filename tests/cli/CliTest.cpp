@@ -116,6 +116,10 @@ class CliTest : public QObject {
     // A serial port nobody serves: it opens, and stays silent.
     int freeMaster_ = -1;
     QString freePort_;
+    // One that looks free but was never unlocked, so that every open fails as a USB
+    // node's does once its device has gone.
+    int goneMaster_ = -1;
+    QString gonePort_;
 };
 
 void CliTest::initTestCase() {
@@ -133,6 +137,9 @@ void CliTest::initTestCase() {
     freeMaster_ = ::posix_openpt(O_RDWR | O_NOCTTY);
     QVERIFY(freeMaster_ >= 0 && ::grantpt(freeMaster_) == 0 && ::unlockpt(freeMaster_) == 0);
     freePort_ = QString::fromLatin1(::ptsname(freeMaster_));
+    goneMaster_ = ::posix_openpt(O_RDWR | O_NOCTTY);
+    QVERIFY(goneMaster_ >= 0 && ::grantpt(goneMaster_) == 0);
+    gonePort_ = QString::fromLatin1(::ptsname(goneMaster_));
 }
 
 void CliTest::subcommands_data() {
@@ -222,6 +229,12 @@ void CliTest::subcommands_data() {
         << QStringList{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 2 << QStringList{}
         << QStringList{}
         << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
+    QTest::newRow("save-config, the port's device has gone")
+        << QStringList{"save-config", "--port", gonePort_, file("unsaved.yaml")} << 2
+        << QStringList{} << QStringList{}
+        << "ERROR: " + gonePort_ +
+               " does not answer: its device has gone. Unplug the plotter, plug it in again and "
+               "try again.\n";
     QTest::newRow("save-config, destination cannot be written")
         << QStringList{"save-config", "--sim", "/nonexistent/folder/machine.yaml"} << 17
         << QStringList{} << QStringList{"Machine config saved"} << QString();
