@@ -7,7 +7,7 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
     commands.push_back(makeFlashCommand());
     commands.push_back(makeUploadConfigCommand());
     commands.push_back(makeProbeCommand());
-    commands.push_back(makeInspectCommand());
+    commands.push_back(makeFileReportCommand());
     commands.push_back(makeSaveConfigCommand());
     commands.push_back(makeDiffConfigCommand());
     commands.push_back(makeDoctorCommand());

@@ -10,7 +10,7 @@ std::unique_ptr<Command> makeVersionCommand();
 std::unique_ptr<Command> makeFlashCommand();
 std::unique_ptr<Command> makeUploadConfigCommand();
 std::unique_ptr<Command> makeProbeCommand();
-std::unique_ptr<Command> makeInspectCommand();
+std::unique_ptr<Command> makeFileReportCommand();
 std::unique_ptr<Command> makeSaveConfigCommand();
 std::unique_ptr<Command> makeDiffConfigCommand();
 std::unique_ptr<Command> makeDoctorCommand();

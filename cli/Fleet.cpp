@@ -2,8 +2,8 @@
 
 #include <signal.h>
 #include <unistd.h>
-#include <QCoreApplication>
 #include <algorithm>
+#include <utility>
 
 #include "app/Texts.h"
 #include "cli/ExitStatus.h"
@@ -23,9 +23,12 @@ QStringList childArguments(const QStringList& arguments, const QString& port) {
     return kept << QStringLiteral("--port") << port << QStringLiteral("--json");
 }
 
-Fleet::Fleet(const QStringList& ports, const QStringList& arguments, bool writesFirmware,
-             Reporter& reporter)
-    : arguments_(arguments), writesFirmware_(writesFirmware), reporter_(reporter) {
+Fleet::Fleet(QString program, const QStringList& ports, const QStringList& arguments,
+             bool writesFirmware, Reporter& reporter)
+    : program_(std::move(program)),
+      arguments_(arguments),
+      writesFirmware_(writesFirmware),
+      reporter_(reporter) {
     for (const QString& port : ports) {
         auto child = std::make_unique<Child>();
         child->port = port;
@@ -64,8 +67,7 @@ void Fleet::start() {
                 [this, raw](int exitCode, QProcess::ExitStatus status) {
                     childEnded(*raw, exitCode, status);
                 });
-        process.start(QCoreApplication::applicationFilePath(),
-                      childArguments(arguments_, child->port));
+        process.start(program_, childArguments(arguments_, child->port));
     }
 }
 

@@ -16,18 +16,19 @@
 QStringList childArguments(const QStringList& arguments, const QString& port);
 
 /// Runs one command for several plotters at once: a child process per plotter,
-/// this same program for that one port with --json, whose events the reporter
-/// gets with the plotter's port. Each child runs in a process group of its own, so
+/// `program` for that one port with --json, whose events the reporter gets with
+/// the plotter's port. Each child runs in a process group of its own, so
 /// that a terminal's Ctrl+C reaches only this process, which decides.
 class Fleet : public QObject {
     Q_OBJECT
 
   public:
+    /// `program`: the child to start for each port, as a rule this same program.
     /// `arguments`: this program's, without the program name. With
     /// `writesFirmware`, a child counts as writing from its first progress report to
     /// its result. `reporter` must outlive the fleet.
-    Fleet(const QStringList& ports, const QStringList& arguments, bool writesFirmware,
-          Reporter& reporter);
+    Fleet(QString program, const QStringList& ports, const QStringList& arguments,
+          bool writesFirmware, Reporter& reporter);
     /// Ends the children still running.
     ~Fleet() override;
 
@@ -55,6 +56,7 @@ class Fleet : public QObject {
     void readOutput(Child& child);
     void childEnded(Child& child, int exitCode, QProcess::ExitStatus status);
 
+    const QString program_;
     const QStringList arguments_;
     const bool writesFirmware_;
     Reporter& reporter_;

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <csignal>
 #include <cstdio>
@@ -145,7 +146,8 @@ int runSession(const Command& command, const CommonOptions& options, const QStri
 
     QEventLoop loop;
     if (ports.size() > 1) {
-        Fleet fleet(ports, arguments, command.writesFirmware(), *reporter);
+        Fleet fleet(QCoreApplication::applicationFilePath(), ports, arguments,
+                    command.writesFirmware(), *reporter);
         QObject::connect(&fleet, &Fleet::finished, &loop, &QEventLoop::exit);
         stopOnInterrupts(
             interrupts, *reporter, [&fleet] { return fleet.writing(); },

@@ -1,7 +1,10 @@
+#include <algorithm>
+
 #include "api/Jobs.h"
 #include "esp/EspLoader.h"
 #include "fluidnc/Console.h"
 #include "fluidnc/Download.h"
+#include "fluidnc/Drain.h"
 #include "fluidnc/Transcript.h"
 #include "fluidnc/XModem.h"
 #include "image/Partitions.h"
@@ -65,12 +68,23 @@ std::optional<std::string> runQueryVersionJob(SerialPort& port) {
     return fluidnc::queryVersion(port, kVersionQueryMs);
 }
 
-StartupRecord runCheckStartupJob(SerialPort& port) {
+// Each step is shortened so that the ones after it keep their time; the version
+// query also keeps room for the drain before it, which a console that never stops
+// printing fills to its bound.
+StartupRecord runCheckStartupJob(SerialPort& port, int timeoutMs) {
+    const mono::Deadline deadline(timeoutMs);
+    const auto share = [&](int reserveMs, int mostMs) {
+        return std::clamp(deadline.remainingMs() - reserveMs, 0, mostMs);
+    };
     fluidnc::Transcript transcript;
-    fluidnc::listen(port, kStartupListenMs, transcript);
-    fluidnc::replayStartup(port, kStartupReplayMs, transcript);
+    fluidnc::listen(
+        port, share(kStartupReplayMs + fluidnc::kDrainLimitMs + kVersionQueryMs, kStartupListenMs),
+        transcript);
+    fluidnc::replayStartup(port, share(fluidnc::kDrainLimitMs + kVersionQueryMs, kStartupReplayMs),
+                           transcript);
     StartupRecord record;
-    record.version = fluidnc::queryVersion(port, kVersionQueryMs, &transcript);
+    record.version =
+        fluidnc::queryVersion(port, share(fluidnc::kDrainLimitMs, kVersionQueryMs), &transcript);
     record.listened = true;
     record.portLost = port.hungUp();
     record.transcript = transcript.bytes();

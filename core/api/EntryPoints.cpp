@@ -163,14 +163,14 @@ esp_error_t esp_flash_firmware_checked(const char* port, const uint8_t* firmware
     return code;
 }
 
-esp_error_t esp_check_startup(const char* port, const char* expectedVersion,
+esp_error_t esp_check_startup(const char* port, const char* expectedVersion, int timeoutMs,
                               esp_startup_report* report, esp_log_cb log) {
     SerialPort serial;
     if (!openPort(serial, port, log, true)) {
         fillReport(report, {}, expectedVersion);
         return esp::result::PortOpenFailed;
     }
-    fillReport(report, esp::runCheckStartupJob(serial), expectedVersion);
+    fillReport(report, esp::runCheckStartupJob(serial, timeoutMs), expectedVersion);
     return esp::result::Success;
 }
 

@@ -62,8 +62,9 @@ esp_error_t runFlashJob(SerialPort& port, const FlashRequest& request, esp_progr
 
 /// The start-up check after the port has been opened: listens 1500 ms, asks for a
 /// replay of the start-up messages ("$SS", up to 1500 ms), then for the version
-/// ("$I", 2000 ms after a bounded drain). Within 7.5 s.
-StartupRecord runCheckStartupJob(SerialPort& port);
+/// ("$I", 2000 ms after a bounded drain), each step shortened so that all of it
+/// ends within `timeoutMs` (7000 gives every step its whole time).
+StartupRecord runCheckStartupJob(SerialPort& port, int timeoutMs);
 
 /// Fills every field of `report` from `record`, judging the start-up against
 /// `expectedVersion` (null or empty: any version). Texts and the transcript become

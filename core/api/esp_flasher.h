@@ -107,12 +107,13 @@ esp_error_t esp_flash_firmware_checked(const char* port, const uint8_t* firmware
 /* Opens the port, listens to the restarting firmware (1.5 s), asks it to replay its
  * start-up messages ("$SS", up to 1.5 s), asks for its version once ("$I", a drain
  * of at most 2 s and 2 s for the answer), and classifies; the report is filled in
- * every case (a null report is allowed). Returns 0, or 2 when the port cannot be
- * opened (same open rules and log lines as the other entry points: refused when
- * another program holds it; "Failed to open port"). Logs nothing else. The whole
- * check ends within 7.5 s of the call; it never writes anything but "$SS\n"
- * and "$I\n". expectedVersion null or empty: any version counts as running. */
-esp_error_t esp_check_startup(const char* port, const char* expectedVersion,
+ * every case (a null report is allowed). Each step is shortened so that the check
+ * ends within timeoutMs (7000 gives every step its whole time). Returns 0, or 2
+ * when the port cannot be opened (same open rules and log lines as the other
+ * entry points: refused when another program holds it; "Failed to open port").
+ * Logs nothing else; it never writes anything but "$SS\n" and "$I\n".
+ * expectedVersion null or empty: any version counts as running. */
+esp_error_t esp_check_startup(const char* port, const char* expectedVersion, int timeoutMs,
                               esp_startup_report* report, esp_log_cb log);
 
 /* Uploads a configuration file as config.yaml over XModem and restarts the

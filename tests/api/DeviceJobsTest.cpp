@@ -145,17 +145,23 @@ TEST_F(DeviceJobsTest, DownloadGivesBackTheUploadedBytes) {
     }
 }
 
+// Each bound at its limit and one step past it: 25 transmissions of a block, 30
+// transfer requests (the sender waits longer than that), 16 MiB of file. A failure
+// is told by its log line and as data.
 TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
-    const auto file = configFile(5000);
     using Reason = fluidnc::DownloadFailure::Reason;
-    // `failure` null: the file arrives whole. A failure is told by its log line and as data.
+    const auto small = configFile(5000);
+    // `failure` null: the file arrives whole.
     const auto expectDownload = [&](const std::function<void(sim::Config&)>& fault,
-                                    const char* failure, fluidnc::DownloadFailure cause = {},
+                                    const char* failure, fluidnc::DownloadFailure cause,
+                                    const Bytes& file, int lostRequests = 0,
                                     int row = __builtin_LINE()) {
         const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
         clearRecords();
         const auto& watched = device([&](auto& d) {
             d.plotter.config().machineConfig = std::string(file.begin(), file.end());
+            d.plotter.config().xmodemIdleTimeoutMs = 40000;
+            d.lostRequests = lostRequests;
             fault(d.plotter.config());
         });
         fluidnc::DownloadFailure told;
@@ -168,19 +174,26 @@ TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
         EXPECT_EQ(told.reason, cause.reason);
         EXPECT_EQ(told.block, cause.block);
     };
-    expectDownload([](auto& c) { c.xmodemSendCorruptBlock = 2; }, nullptr);
-    expectDownload([](auto& c) { c.xmodemSendDropBlock = 3; }, nullptr);
-    expectDownload([](auto& c) { c.xmodemSendRepeatBlock = 1; }, nullptr);
-    expectDownload(
-        [](auto& c) {
+    const auto corrupt = [](int times) {
+        return [times](sim::Config& c) {
             c.xmodemSendCorruptBlock = 2;
-            c.xmodemSendCorruptTimes = 100;
-        },
-        "XModem download: block 2 failed 25 times", {Reason::blockFailed, 2});
+            c.xmodemSendCorruptTimes = times;
+        };
+    };
+    const auto healthy = [](sim::Config&) {};
+    const fluidnc::DownloadFailure none;
+    expectDownload([](auto& c) { c.xmodemSendDropBlock = 3; }, nullptr, none, small);
+    expectDownload([](auto& c) { c.xmodemSendRepeatBlock = 1; }, nullptr, none, small);
+    expectDownload(corrupt(24), nullptr, none, small);
+    expectDownload(corrupt(25), "XModem download: block 2 failed 25 times",
+                   {Reason::blockFailed, 2}, small);
+    expectDownload(healthy, nullptr, none, small, 29);
+    expectDownload(healthy, "XModem download: no block received", {Reason::noBlock}, small, 30);
+    expectDownload(healthy, nullptr, none, configFile(16 * 1024 * 1024));
+    expectDownload(healthy, "XModem download: file larger than 16 MiB", {Reason::tooLarge},
+                   configFile(16 * 1024 * 1024 + 1024));
     expectDownload([](auto& c) { c.xmodemSendCanBlock = 2; },
-                   "XModem download: cancelled by the device", {Reason::cancelled});
-    expectDownload([](auto& c) { c.xmodemSendSilent = true; }, "XModem download: no block received",
-                   {Reason::noBlock});
+                   "XModem download: cancelled by the device", {Reason::cancelled}, small);
 }
 
 TEST(PartitionTable, NeedsAReachableApplicationEntryAt0x10000) {

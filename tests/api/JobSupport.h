@@ -102,6 +102,7 @@ class WatchedPlotter {
     Bytes afterVersion;                ///< console output that follows the answer to "$I"
     bool answerVersion = true;         ///< false: "$I" goes unanswered
     bool quietAfterUpload = false;     ///< no "ok" or other output after the upload's EOT
+    int lostRequests = 0;              ///< XModem transfer requests ('C', NAK) lost on the line
 
   private:
     void noteAction() {
@@ -117,6 +118,10 @@ class WatchedPlotter {
         noteAction();
         writes.emplace_back(elapsedMs(), describe(data, len));
         uploaded_ = uploaded_ || writes.back().second == "EOT";
+        if (len == 1 && (data[0] == 'C' || data[0] == 0x15) && lostRequests > 0) {
+            --lostRequests;
+            return {};
+        }
         Bytes reply = plotter.onHostBytes(data, len);
         if (writes.back().second == "$I") {
             reply = answerVersion ? reply : Bytes{};

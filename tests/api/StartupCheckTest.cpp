@@ -29,7 +29,7 @@ TEST(StartupEntryPoints, CheckClassifiesAHealthyAndAPanickingRestart) {
         sayBye(plotter.path());
         clearRecords();
         esp_startup_report report;
-        ASSERT_EQ(esp_check_startup(plotter.path().c_str(), "3.7.8", &report, recordLog), 0u);
+        ASSERT_EQ(esp_check_startup(plotter.path().c_str(), "3.7.8", 7000, &report, recordLog), 0u);
         EXPECT_EQ(report.listened, 1);
         EXPECT_EQ(report.portLost, 0);
         EXPECT_EQ(report.verdict, verdict);
@@ -52,7 +52,7 @@ TEST(StartupEntryPoints, CheckClassifiesAHealthyAndAPanickingRestart) {
 
     clearRecords();
     esp_startup_report report;
-    EXPECT_EQ(esp_check_startup("/nonexistent/ttyACM0", "3.7.8", &report, recordLog), 2u);
+    EXPECT_EQ(esp_check_startup("/nonexistent/ttyACM0", "3.7.8", 7000, &report, recordLog), 2u);
     EXPECT_EQ(logLines, Lines{"Failed to open port"});
     EXPECT_EQ(report.listened, 0);
     EXPECT_EQ(report.verdict, ESP_STARTUP_NO_ANSWER);

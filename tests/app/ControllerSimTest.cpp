@@ -4,6 +4,7 @@
 #include "../support/HoldingProcess.h"
 #include "ControllerHarness.h"
 #include "sim/PtyPlotter.h"
+#include "tests/support/Descriptors.h"
 
 namespace {
 
@@ -28,12 +29,12 @@ class ControllerSimTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void updatesOfAChosenImageAndAfterEraseAll();
+    void updatesOfAChosenImageAfterEraseAllAndUnplugged();
     void configurationsSavedComparedBackedUpAndUploaded();
     void aPortHeldByAnotherProgramIsRefusedBeforeAnythingIsSent();
 };
 
-void ControllerSimTest::updatesOfAChosenImageAndAfterEraseAll() {
+void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
     sim::PtyPlotter plotter;
     const QString port = QString::fromStdString(plotter.path());
     ControllerHarness harness;
@@ -75,6 +76,21 @@ void ControllerSimTest::updatesOfAChosenImageAndAfterEraseAll() {
             QVERIFY2(QByteArray(flash + address, image.size()) == image, name);
         }
     });
+
+    // The cable pulled during the write: the job fails and releases the port, and
+    // the next poll, which no longer finds the device, shows the waiting state.
+    sim::Config pulled;
+    pulled.goneAfterFlashData = 3;
+    sim::PtyPlotter unplugged(pulled);
+    controller.setEraseAllFlashEnabled(false);
+    QVERIFY(harness.plug(QString::fromStdString(unplugged.path())));
+    controller.updateFirmware();
+    const QString failed = QStringLiteral("Flash write failed. Try again.");
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs), std::optional(UpdateState::error(failed)));
+    QCOMPARE(fdcheck::descriptorsOn(unplugged.path()), size_t{0});
+    QVERIFY(harness.plug({}));
+    QCOMPARE(controller.statusMessage(), QStringLiteral("Waiting for device\u2026"));
+    QCOMPARE(controller.logMessages().last(), "ERROR: " + failed);
 }
 
 void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
@@ -187,6 +203,19 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
                                  UpdateState::uploadingConfig(1), UpdateState::configComplete()}));
     QVERIFY(progress == QList<float>({0.333333343f, 0.666666687f, 1.0f}));
     QVERIFY(storedConfig(plotter) == workshop);
+
+    // A file past the 16 MiB bound is not saved; the earlier copy stays as it was.
+    sim::Config huge;
+    huge.machineConfig = std::string(16 * 1024 * 1024 + 1024, '#');
+    sim::PtyPlotter hugePlotter(huge);
+    QVERIFY(harness.plug(QString::fromStdString(hugePlotter.path())));
+    controller.saveMachineConfig(saved);
+    QCOMPARE(harness.waitForOutcome(kJobTimeoutMs),
+             std::optional(UpdateState::error("Could not read config.yaml from the machine: "
+                                              "XModem download: file larger than 16 MiB")));
+    QCOMPARE(readFile(saved), tuned);
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files),
+             QStringList({"saved.yaml", "workshop.yaml", "workshop.yml"}));
 }
 
 // A serial monitor left open on the plotter's port: the job says who holds it,

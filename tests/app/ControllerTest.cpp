@@ -1,10 +1,10 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <QCryptographicHash>
 #include <QDirIterator>
 
 #include "ControllerHarness.h"
+#include "tests/support/TestImages.h"
 
 namespace {
 
@@ -45,22 +45,11 @@ struct ResourcesWithout {
     QTemporaryDir dir;
 };
 
-/// The development application made into one the real program takes: each marker
-/// text overwritten with another of its length, the checksum byte (right before
-/// the appended SHA-256) and the SHA-256 made to match again.
+/// The development application made into one the real program takes.
 inline QByteArray unmarkedApplication() {
-    QByteArray image = ResourceBundle(TFU_DEV_RESOURCES_DIR).read("firmware", "bin").value_or("");
-    const QByteArray marker("TESKAL DEVELOPMENT IMAGE - NOT FIRMWARE");
-    const QByteArray other("TESKAL TEST APPLICATION - NOT FIRMWARE!");
-    const qsizetype checksumAt = image.size() - 33;
-    for (qsizetype at = image.indexOf(marker); at >= 0; at = image.indexOf(marker, at)) {
-        for (qsizetype i = 0; i < marker.size(); ++i) {
-            image[checksumAt] = char(image[checksumAt] ^ marker[i] ^ other[i]);
-        }
-        image.replace(at, marker.size(), other);
-    }
-    const QByteArray hashed = image.left(image.size() - 32);
-    return hashed + QCryptographicHash::hash(hashed, QCryptographicHash::Sha256);
+    const QByteArray image = readFile(TFU_DEV_RESOURCES_DIR "/firmware.bin");
+    const auto bytes = testimg::unmarked(std::vector<uint8_t>(image.begin(), image.end()));
+    return QByteArray(reinterpret_cast<const char*>(bytes.data()), qsizetype(bytes.size()));
 }
 
 }  // namespace

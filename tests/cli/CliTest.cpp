@@ -3,17 +3,24 @@
 #include <poll.h>
 #include <pty.h>
 #include <signal.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMap>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
+#include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include "cli/Fleet.h"
+#include "tests/support/TestImages.h"
 
 namespace {
 
@@ -91,6 +98,36 @@ qint64 devImageSize(const QString& name) {
     return QFileInfo(kDev + '/' + name + ".bin").size();
 }
 
+QByteArray contentsOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Stands in for teskal-flash as a fleet's child, which is started with "--port P
+// --json": P is "STATUS:SECONDS[:crash|:crash-after]", a result line with that
+// status after that long, killed before or after the line.
+const QByteArray kStandIn =
+    "#!/bin/sh\n"
+    "set -- $(echo \"$2\" | tr : ' ')\n"
+    "sleep \"$2\"\n"
+    "[ \"$3\" = crash ] && kill -KILL $$\n"
+    "echo \"{\\\"type\\\":\\\"result\\\",\\\"code\\\":$1,\\\"message\\\":\\\"status $1\\\"}\"\n"
+    "[ \"$3\" = crash-after ] && kill -KILL $$\n"
+    "exit \"$1\"\n";
+
+class Recorder : public Reporter {
+  public:
+    void report(const QString& port, const Event& event) override {
+        if (const auto* result = std::get_if<event::Result>(&event)) {
+            lines << port + ' ' + QString::number(result->status);
+        } else if (const auto* entry = std::get_if<LogEntry>(&event); entry && entry->isError()) {
+            lines << port + " error";
+        }
+    }
+    void notice(const QString&) override {}
+    QStringList lines;
+};
+
 }  // namespace
 
 /// The program as a user runs it, against simulated plotters on pseudo-terminals.
@@ -103,8 +140,8 @@ class CliTest : public QObject {
     void subcommands();
     void versionNamesTheProgramItsBuildAndTheFirmware();
     void jsonLogLinesCarryTheirSeverity();
-    void jsonLinesCarryTheBytesOfTheFlashPlan();
     void severalPlottersRunAtOnce();
+    void fleetEndsWithTheFirstFailureInPortOrder();
     void terminalProgressIsRedrawnInPlace();
     void ctrlCWarnsOnceDuringAWrite();
     void aPortTheUserMayNotOpenIsNamedAndGetsNothing();
@@ -123,17 +160,40 @@ class CliTest : public QObject {
 };
 
 void CliTest::initTestCase() {
+    const QByteArray firmware = contentsOf(kDev + "/firmware.bin");
+    const auto unmarkedBytes =
+        testimg::unmarked(std::vector<uint8_t>(firmware.begin(), firmware.end()));
+    const QByteArray unmarked(reinterpret_cast<const char*>(unmarkedBytes.data()),
+                              qsizetype(unmarkedBytes.size()));
+    const QByteArray marker(testimg::kMarker.data(), qsizetype(testimg::kMarker.size()));
+    const qsizetype partition = 0x1E0000;  // the development set's application partition
+    const QByteArray mebibyte = QByteArray("name: x\n").leftJustified(1024 * 1024 - 1, '#') + '\n';
     const std::pair<QString, QByteArray> contents[] = {
         {"text.bin", "{\"name\": \"plotter\"}\n"},
         {"workshop.yml", "name: \"Workshop plotter\"\nmeta: '9.9'\n"},
         {"bad.yaml", "axes:\n  x: [1, 2\n"},
         {"notes.txt", "pens: 12\n"},
+        {"fits.bin", firmware.leftJustified(partition, '\xFF')},
+        {"over.bin", firmware.leftJustified(partition + 1, '\xFF')},
+        {"exact.yaml", mebibyte},
+        {"over.yaml", mebibyte + '\n'},
+        // Resources a real machine could be given, but for their stub's last bytes.
+        {"real/firmware.bin", unmarked},
+        {"real/bootloader.bin", unmarked},
+        {"real/partitions.bin", contentsOf(kDev + "/partitions.bin")},
+        {"real/boot_app0.bin", QByteArray(8192, '\xFF')},
+        {"real/esp32s3_stub.bin", QByteArray(100 * 1024, '\0') + marker},
+        {"stand-in", kStandIn},
     };
+    QVERIFY(QDir(files_.path()).mkpath("empty-resources") && QDir(files_.path()).mkpath("real"));
     for (const auto& [name, bytes] : contents) {
         QFile out(file(name));
         QVERIFY(out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size());
     }
-    QVERIFY(QDir(files_.path()).mkpath("empty-resources"));
+    QVERIFY(QFile::setPermissions(file("stand-in"), QFile::ReadOwner | QFile::ExeOwner));
+    // Children that teskal-flash leaves behind come to this process, which can tell
+    // how they ended.
+    QVERIFY(::prctl(PR_SET_CHILD_SUBREAPER, 1) == 0);
     freeMaster_ = ::posix_openpt(O_RDWR | O_NOCTTY);
     QVERIFY(freeMaster_ >= 0 && ::grantpt(freeMaster_) == 0 && ::unlockpt(freeMaster_) == 0);
     freePort_ = QString::fromLatin1(::ptsname(freeMaster_));
@@ -143,95 +203,85 @@ void CliTest::initTestCase() {
 }
 
 void CliTest::subcommands_data() {
+    using L = QStringList;  // short rows
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("exitCode");
     QTest::addColumn<QStringList>("outLines");  // in this order, others between them
     QTest::addColumn<QStringList>("notInOut");
     QTest::addColumn<QString>("err");  // exact; null: not compared
 
-    const QString device = QStringLiteral(
-        "Device running firmware v3.7.8 \u2014 updating "
-        "firmware only.");
+    const QString device = "Device running firmware v3.7.8 \u2014 updating firmware only.";
     const QString note = QStringLiteral(
         "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for "
         "your machine.");
-    QTest::newRow("detect") << QStringList{"detect", "--sim", "3"} << 0
-                            << QStringList{"sim1", "sim2", "sim3"} << QStringList{} << "";
-    QTest::newRow("version") << QStringList{"version", "--sim"} << 0 << QStringList{"v3.7.8"}
-                             << QStringList{} << "";
+    QTest::newRow("detect, 64 simulated")
+        << L{"detect", "--sim", "64"} << 0 << L{"sim1", "sim2", "sim64"} << L{"sim65"} << "";
+    QTest::newRow("version") << L{"version", "--sim"} << 0 << L{"v3.7.8"} << L{} << "";
     // A port that cannot be used is named as such, never as a silent machine.
     QTest::newRow("version, port missing")
-        << QStringList{"version", "--port", kNoPort} << 2 << QStringList{} << QStringList{}
+        << L{"version", "--port", kNoPort} << 2 << L{} << L{}
         << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
     QTest::newRow("version, not a serial port")
-        << QStringList{"version", "--port", "/dev/null"} << 2 << QStringList{} << QStringList{}
+        << L{"version", "--port", "/dev/null"} << 2 << L{} << L{}
         << "ERROR: /dev/null is not a serial port. Name the plotter's port, for example "
            "/dev/ttyACM0.\n";
     QTest::newRow("version, no answer")
-        << QStringList{"version", "--port", freePort_} << 9 << QStringList{} << QStringList{}
+        << L{"version", "--port", freePort_} << 9 << L{} << L{}
         << "ERROR: Operation timed out. Try unplugging and reconnecting.\n";
-    QTest::newRow("probe") << QStringList{"probe", "--sim"} << 0
-                           << QStringList{"Partition table: present"} << QStringList{} << "";
+    QTest::newRow("probe") << L{"probe", "--sim"} << 0 << L{"Partition table: present"} << L{}
+                           << "";
     QTest::newRow("flash, application only")
-        << QStringList{"flash", "--sim"} << 0
-        << QStringList{"Updating firmware v2.10.6\u2026", "Checking device status\u2026", device,
-                       kComplete}
-        << QStringList{"Opening port"} << "";
+        << L{"flash", "--sim"} << 0
+        << L{"Updating firmware v2.10.6\u2026", "Checking device status\u2026", device, kComplete}
+        << L{"Opening port"} << "";
     QTest::newRow("flash, erase all, verbose")
-        << QStringList{"flash", "--sim", "--erase-all", "--verbose"} << 0
-        << QStringList{"Updating firmware v2.10.6\u2026",
-                       "Erasing entire flash...",
-                       "Flash plan: 4 entries (FULL)",
-                       kComplete,
-                       "",
-                       note}
-        << QStringList{"Checking device status"} << "";
+        << L{"flash", "--sim", "--erase-all", "--verbose"} << 0
+        << L{"Updating firmware v2.10.6\u2026",
+             "Erasing entire flash...",
+             "Flash plan: 4 entries (FULL)",
+             kComplete,
+             "",
+             note}
+        << L{"Checking device status"} << "";
     QTest::newRow("flash, refused image, nothing sent")
-        << QStringList{"flash", "--sim", "--verbose", "--firmware", file("text.bin")} << 11
-        << QStringList{"Updating firmware (custom: text.bin)\u2026"}
-        << QStringList{"Checking device status", "Opening port"}
+        << L{"flash", "--sim", "--verbose", "--firmware", file("text.bin")} << 11
+        << L{"Updating firmware (custom: text.bin)\u2026"}
+        << L{"Checking device status", "Opening port"}
         << "ERROR: Firmware image refused: not a firmware image (first byte 0x7B, expected "
            "0xE9)\n";
     QTest::newRow("flash, development image for a real port")
-        << QStringList{"flash", "--sim", "--port", freePort_} << 11 << QStringList{}
-        << QStringList{"Checking device status"}
+        << L{"flash", "--sim", "--port", freePort_} << 11 << L{} << L{"Checking device status"}
         << "ERROR: Firmware image refused: a development image, not firmware\n";
     QTest::newRow("flash, resources missing")
-        << QStringList{"flash", "--port", freePort_, "--resources", file("empty-resources")} << 12
-        << QStringList{} << QStringList{} << "ERROR: Bundled firmware not found\n";
+        << L{"flash", "--port", freePort_, "--resources", file("empty-resources")} << 12 << L{}
+        << L{} << "ERROR: Bundled firmware not found\n";
     QTest::newRow("upload, product")
-        << QStringList{"upload-config", "--sim", "--product", "Corvane Halcot"} << 0
-        << QStringList{"Preparing Corvane Halcot config v1.2.0-devset", kUploaded} << QStringList{}
-        << "";
+        << L{"upload-config", "--sim", "--product", "Corvane Halcot"} << 0
+        << L{"Preparing Corvane Halcot config v1.2.0-devset", kUploaded} << L{} << "";
     QTest::newRow("upload, file after --sim")
-        << QStringList{"upload-config", "--sim", file("workshop.yml")} << 0
-        << QStringList{"Preparing workshop.yml v9.9", "Uploading config file...", kUploaded}
-        << QStringList{} << "";
+        << L{"upload-config", "--sim", file("workshop.yml")} << 0
+        << L{"Preparing workshop.yml v9.9", "Uploading config file...", kUploaded} << L{} << "";
     QTest::newRow("upload, invalid file")
-        << QStringList{"upload-config", "--sim", file("bad.yaml")} << 11 << QStringList{}
-        << QStringList{"Preparing"}
+        << L{"upload-config", "--sim", file("bad.yaml")} << 11 << L{} << L{"Preparing"}
         << "ERROR: bad.yaml is not a valid machine configuration: line 3, column 1: end of "
            "sequence flow not found\n";
     QTest::newRow("upload, development configuration for a real port")
-        << QStringList{"upload-config", "--sim", "--product", "Halcot.yaml", "--port", kNoPort}
-        << 11 << QStringList{} << QStringList{"Preparing"}
+        << L{"upload-config", "--sim", "--product", "Halcot.yaml", "--port", kNoPort} << 11 << L{}
+        << L{"Preparing"}
         << "ERROR: The development set's configurations are only for simulated plotters\n";
     QTest::newRow("upload, port cannot be opened")
-        << QStringList{"upload-config", "--resources", kDev,   "--product",
-                       "Halcot.yaml",   "--port",      kNoPort}
-        << 2 << QStringList{} << QStringList{"Preparing"}
+        << L{"upload-config", "--resources", kDev, "--product", "Halcot.yaml", "--port", kNoPort}
+        << 2 << L{} << L{"Preparing"}
         << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
-    QTest::newRow("save-config") << QStringList{"save-config", "--sim", file("saved.yaml")} << 0
-                                 << QStringList{"Machine config saved to " + file("saved.yaml") +
-                                                " (512 bytes)"}
-                                 << QStringList{} << "";
+    QTest::newRow("save-config") << L{"save-config", "--sim", file("saved.yaml")} << 0
+                                 << L{"Machine config saved to " + file("saved.yaml") +
+                                      " (512 bytes)"}
+                                 << L{} << "";
     QTest::newRow("save-config, port cannot be opened")
-        << QStringList{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 2 << QStringList{}
-        << QStringList{}
+        << L{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 2 << L{} << L{}
         << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
     QTest::newRow("save-config, the port's device has gone")
-        << QStringList{"save-config", "--port", gonePort_, file("unsaved.yaml")} << 2
-        << QStringList{} << QStringList{}
+        << L{"save-config", "--port", gonePort_, file("unsaved.yaml")} << 2 << L{} << L{}
         << "ERROR: " + gonePort_ +
                " does not answer: its device has gone. Unplug the plotter, plug it in again and "
                "try again.\n";
@@ -260,56 +310,64 @@ void CliTest::subcommands_data() {
         << QStringList{"  0  a plotter is ready to use", "  1  no plotter is ready to use"}
         << QStringList{"  2 "} << "";
     QTest::newRow("diff-config, different")
-        << QStringList{"diff-config", "--sim", "--product", "Corvane Halcot"} << 1
-        << QStringList{"axes/x/max_travel_mm: 300.000 \u2192 330.000",
-                       "+ axes/z/motor0/rc_servo/pwm_hz: 50",
-                       "name: Simulated plotter \u2192 Corvane Halcot"}
-        << QStringList{} << "";
+        << L{"diff-config", "--sim", "--product", "Corvane Halcot"} << 1
+        << L{"axes/x/max_travel_mm: 300.000 \u2192 330.000", "+ axes/z/motor0/rc_servo/pwm_hz: 50",
+             "name: Simulated plotter \u2192 Corvane Halcot"}
+        << L{} << "";
     QTest::newRow("diff-config, invalid file")
-        << QStringList{"diff-config", "--sim", file("bad.yaml")} << 11 << QStringList{}
-        << QStringList{"Downloading"}
+        << L{"diff-config", "--sim", file("bad.yaml")} << 11 << L{} << L{"Downloading"}
         << "ERROR: bad.yaml is not a valid machine configuration: line 3, column 1: end of "
            "sequence flow not found\n";
-    QTest::newRow("inspect, simulated")
-        << QStringList{"inspect", "--sim", kDev + "/firmware.bin", kDev + "/configs/Halcot.yaml"}
-        << 0
-        << QStringList{"firmware.bin",
-                       "  chip: ESP32-S3 (chip id 9)",
-                       "  version: 0.0.0-devset",
-                       "  project: teskal-devset",
-                       "  partition: fits (the application partition holds 1,966,080 bytes)",
-                       "  result: passes",
-                       "Halcot.yaml",
-                       "  meta: 1.2.0-devset",
-                       "  result: passes"}
-        << QStringList{} << "";
-    QTest::newRow("inspect, refusals")
-        << QStringList{"inspect",
-                       "--resources",
-                       file("empty-resources"),
-                       kDev + "/firmware.bin",
-                       file("text.bin"),
-                       file("notes.txt")}
+    QTest::newRow("inspect, simulated, at the limits and past them")
+        << L{"inspect",        "--sim",
+             file("fits.bin"), kDev + "/configs/Halcot.yaml",
+             file("over.bin"), file("exact.yaml"),
+             file("over.yaml")}
         << 11
-        << QStringList{"firmware.bin",
-                       "  partition: unknown (no partition table in the resources)",
-                       "  result: refused",
-                       "text.bin",
-                       "  size: 20 bytes",
-                       "  SHA-256: "
-                       "fa9c3e324e6282a583cf5744a6d61770870e8710d7200dcc77af917e46839f13",
-                       "  result: refused",
-                       "notes.txt",
-                       "  result: refused"}
-        << QStringList{"partition: fits"}
+        << L{"fits.bin",
+             "  chip: ESP32-S3 (chip id 9)",
+             "  version: 0.0.0-devset",
+             "  project: teskal-devset",
+             "  partition: fits (the application partition holds 1,966,080 bytes)",
+             "  result: passes",
+             "Halcot.yaml",
+             "  meta: 1.2.0-devset",
+             "  result: passes",
+             "  partition: too large (the application partition holds 1,966,080 bytes)"}
+        << L{}
+        << "ERROR: over.bin cannot be used: too large for the application partition (1,966,081 "
+           "bytes; the partition holds 1,966,080)\n"
+           "ERROR: over.yaml is not a valid machine configuration: larger than 1 MiB\n"
+           "ERROR: 2 of 5 files refused\n";
+    QTest::newRow("inspect, refusals")
+        << L{"inspect",        "--resources",    file("empty-resources"), kDev + "/firmware.bin",
+             file("text.bin"), file("notes.txt")}
+        << 11
+        << L{"firmware.bin",
+             "  partition: unknown (no partition table in the resources)",
+             "  result: refused",
+             "text.bin",
+             "  size: 20 bytes",
+             "  SHA-256: "
+             "fa9c3e324e6282a583cf5744a6d61770870e8710d7200dcc77af917e46839f13",
+             "  result: refused",
+             "notes.txt",
+             "  result: refused"}
+        << L{"partition: fits"}
         << "ERROR: firmware.bin cannot be used: a development image, not firmware\n"
            "ERROR: text.bin cannot be used: not a firmware image (first byte 0x7B, expected "
            "0xE9)\n"
            "ERROR: notes.txt is neither a firmware image (.bin) nor a machine configuration "
            "(.yaml, .yml)\n"
            "ERROR: 3 of 3 files refused\n";
-    QTest::newRow("usage error") << QStringList{"flash", "--all", "--port", "sim1"} << 64
-                                 << QStringList{} << QStringList{} << QString();
+    QTest::newRow("flash, real port, marker at the end of a bundled image")
+        << L{"flash", "--resources", file("real"), "--port", freePort_} << 11 << L{}
+        << L{"Checking device status"}
+        << "ERROR: Bundled esp32s3_stub.bin refused: a development image, not firmware\n";
+    QTest::newRow("detect, 65 simulated")
+        << L{"detect", "--sim", "65"} << 64 << L{} << L{} << QString();
+    QTest::newRow("usage error") << L{"flash", "--all", "--port", "sim1"} << 64 << L{} << L{}
+                                 << QString();
 }
 
 void CliTest::subcommands() {
@@ -357,48 +415,27 @@ void CliTest::jsonLogLinesCarryTheirSeverity() {
                       "configuration (.yaml, .yml)"}})));
 }
 
-void CliTest::jsonLinesCarryTheBytesOfTheFlashPlan() {
-    const Run result = run({"flash", "--sim", "--json"});
-    QCOMPARE(result.exitCode, 0);
-    const QList<QJsonObject> objects = jsonObjects(result.out);
-    QCOMPARE(objects.last(),
-             QJsonObject({{"type", "result"}, {"code", 0}, {"message", kComplete}}));
-    double fraction = 0.0;
-    qint64 bytes = 0;
-    for (const QJsonObject& object : objects) {
-        QVERIFY(!object.contains("port"));
-        const QString type = object["type"].toString();
-        QVERIFY2(type == "log" || type == "progress" || type == "result", qPrintable(type));
-        if (type == "progress") {
-            QVERIFY(object["fraction"].toDouble() >= fraction);
-            QVERIFY(object["bytes"].toInteger() >= bytes);
-            fraction = object["fraction"].toDouble();
-            bytes = object["bytes"].toInteger();
-        }
-    }
-    // An application-only update writes the boot-app image and the application;
-    // the regions run from 0.12 to 0.85.
-    QCOMPARE(bytes, devImageSize("boot_app0") + devImageSize("firmware"));
-    QCOMPARE(qRound(fraction * 100), 85);
-}
-
+// Each plotter's JSON lines carry its port; an application-only update writes the
+// boot-app image and the application, and its regions run from 0.12 to 0.85.
 void CliTest::severalPlottersRunAtOnce() {
-    const Run three = run({"flash", "--sim", "3", "--all", "--json"});
-    QVERIFY2(three.exitCode == 0, qPrintable(three.out + three.err));
-    QSet<QString> succeeded;
-    QSet<QString> progressed;
-    for (const QJsonObject& object : jsonObjects(three.out)) {
-        const QString port = object["port"].toString();
-        QVERIFY2(QStringList({"sim1", "sim2", "sim3"}).contains(port), qPrintable(port));
-        if (object["type"] == "progress") {
-            progressed << port;
-        }
-        if (object["type"] == "result" && object["code"] == 0) {
-            succeeded << port;
-        }
+    const Run two = run({"flash", "--sim", "2", "--all", "--json"});
+    QVERIFY2(two.exitCode == 0, qPrintable(two.out + two.err));
+    QMap<QString, QJsonObject> last;  // by port and type
+    for (const QJsonObject& object : jsonObjects(two.out)) {
+        const QString key = object["port"].toString() + ' ' + object["type"].toString();
+        QVERIFY2(QStringList({"sim1", "sim2"}).contains(key.section(' ', 0, 0)), qPrintable(key));
+        QVERIFY(object["fraction"].toDouble() >= last[key]["fraction"].toDouble() &&
+                object["bytes"].toInteger() >= last[key]["bytes"].toInteger());
+        last[key] = object;
     }
-    QCOMPARE(succeeded, QSet<QString>({"sim1", "sim2", "sim3"}));
-    QCOMPARE(progressed, succeeded);
+    for (const QString port : {"sim1", "sim2"}) {
+        QCOMPARE(
+            last[port + " result"],
+            QJsonObject({{"type", "result"}, {"code", 0}, {"message", kComplete}, {"port", port}}));
+        QCOMPARE(last[port + " progress"]["bytes"].toInteger(),
+                 devImageSize("boot_app0") + devImageSize("firmware"));
+        QCOMPARE(qRound(last[port + " progress"]["fraction"].toDouble() * 100), 85);
+    }
 
     // Text: one result line each; the status is the first failure in port order.
     const Run mixed =
@@ -409,6 +446,31 @@ void CliTest::severalPlottersRunAtOnce() {
     QVERIFY2(!mixed.out.contains("Updating firmware"), "log lines only with --verbose");
     QCOMPARE(mixed.err, kNoPort + ": ERROR: " + kNoPort +
                             " does not exist. Plug the plotter in, or name another port.\n");
+}
+
+// Each child as "PORT CODE" for a result, "PORT error" for an error after it.
+void CliTest::fleetEndsWithTheFirstFailureInPortOrder() {
+    const QString standIn = file("stand-in");
+    const std::tuple<QString, QStringList, int, QStringList> rows[] = {
+        {standIn, {"3:0.5", "5:0"}, 3, {"3:0.5 3", "5:0 5"}},
+        {standIn, {"3:0", "5:0.5"}, 3, {"3:0 3", "5:0.5 5"}},
+        {standIn, {"0:0", "0:0.3:crash", "3:0"}, 70, {"0:0 0", "0:0.3:crash 70", "3:0 3"}},
+        {standIn,
+         {"0:0.3:crash-after", "3:0"},
+         70,
+         {"0:0.3:crash-after 0", "0:0.3:crash-after error", "3:0 3"}},
+        {file("missing"), {"a", "b"}, 70, {"a 70", "b 70"}},
+    };
+    for (const auto& [program, ports, exitCode, reported] : rows) {
+        Recorder recorder;
+        Fleet fleet(program, ports, {}, false, recorder);
+        QSignalSpy finished(&fleet, &Fleet::finished);
+        fleet.start();
+        QVERIFY(finished.wait(10000));
+        QCOMPARE(finished.first().first().toInt(), exitCode);
+        recorder.lines.sort();
+        QCOMPARE(recorder.lines, reported);
+    }
 }
 
 void CliTest::terminalProgressIsRedrawnInPlace() {
@@ -439,29 +501,41 @@ void CliTest::terminalProgressIsRedrawnInPlace() {
     QVERIFY(screen.contains(kComplete.toUtf8() + "\r\n"));
 }
 
+// With several plotters the program stops its children before it ends.
 void CliTest::ctrlCWarnsOnceDuringAWrite() {
-    for (const bool duringWrite : {true, false}) {
-        QProcess process;
-        process.start(kProgram, {"flash", "--sim", "--json"});
-        const QByteArray awaited = duringWrite ? "\"type\":\"progress\"" : "\"type\":\"log\"";
-        QByteArray out;
-        QVERIFY(QTest::qWaitFor(
-            [&] {
-                process.waitForReadyRead(50);
-                out += process.readAllStandardOutput();
-                return out.contains(awaited);
-            },
-            20000));
-        ::kill(static_cast<pid_t>(process.processId()), SIGINT);
-        if (duringWrite) {
-            QByteArray err;
-            QTRY_COMPARE(QString::fromUtf8(err += process.readAllStandardError()), kWarning);
-            QVERIFY(!process.waitForFinished(300));  // the write goes on
-            ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+    for (const QStringList& plotters : {QStringList{"--sim"}, QStringList{"--sim", "3", "--all"}}) {
+        for (const bool duringWrite : {true, false}) {
+            QProcess process;
+            process.start(kProgram, QStringList{"flash", "--json"} + plotters);
+            const QByteArray awaited = duringWrite ? "\"type\":\"progress\"" : "\"type\":\"log\"";
+            QByteArray out;
+            QVERIFY(QTest::qWaitFor(
+                [&] {
+                    process.waitForReadyRead(50);
+                    out += process.readAllStandardOutput();
+                    return out.contains(awaited);
+                },
+                20000));
+            const auto pid = static_cast<pid_t>(process.processId());
+            const QList<QByteArray> children =
+                contentsOf(QStringLiteral("/proc/%1/task/%1/children").arg(pid)).split(' ');
+            QCOMPARE(children.size(), plotters.size() == 1 ? 1 : 4);  // and an empty last
+            ::kill(pid, SIGINT);
+            if (duringWrite) {
+                QByteArray err;
+                QTRY_COMPARE(QString::fromUtf8(err += process.readAllStandardError()), kWarning);
+                QVERIFY(!process.waitForFinished(300));  // the write goes on
+                ::kill(pid, SIGINT);
+            }
+            QVERIFY(process.waitForFinished(5000));
+            QCOMPARE(process.exitCode(), 130);
+            QVERIFY(!process.readAllStandardOutput().contains("\"type\":\"result\""));
+            for (const QByteArray& child : children.mid(0, children.size() - 1)) {
+                int status = 0;
+                QCOMPARE(::waitpid(child.toInt(), &status, 0), child.toInt());
+                QVERIFY(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
+            }
         }
-        QVERIFY(process.waitForFinished(5000));
-        QCOMPARE(process.exitCode(), 130);
-        QVERIFY(!process.readAllStandardOutput().contains("\"type\":\"result\""));
     }
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "fluidnc/Console.h"
+#include "fluidnc/Drain.h"
 #include "fluidnc/Transcript.h"
 #include "serial/Clock.h"
 #include "tests/support/VirtualTime.h"
@@ -133,6 +134,32 @@ TEST(ConsoleTranscript, KeepsEveryByteTheConsoleReads) {
     EXPECT_NEAR(virtualMsSince(start), 2000, 1);
     EXPECT_EQ(kept(heard), "later");
     EXPECT_EQ(console.written, "");
+}
+
+// A drain ends at 64 KiB or after 2 s of unbroken input, whichever comes first:
+// `queued` bytes wait in the port, then the console prints a byte every 10 ms
+// until `printingMs`. Whether input is left shows where the drain stopped.
+TEST(Drain, EndsAt64KiBOrAfterTwoSecondsOfUnbrokenInput) {
+    const struct {
+        size_t queued;
+        int64_t printingMs;
+        bool leftOver;
+    } rows[] = {{64 * 1024, 0, false}, {64 * 1024 + 1, 0, true}, {0, 1990, false}, {0, 2010, true}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.queued << " bytes, printing " << row.printingMs);
+        const int64_t start = mono::nowNs();
+        SerialPort port;
+        port.openLoopback([&](const uint8_t*, size_t) { return std::vector<uint8_t>(row.queued); },
+                          [&](int timeoutMs) {
+                              const bool printing = virtualMsSince(start) < row.printingMs;
+                              mono::sleepMs(printing ? 10 : timeoutMs);
+                              return std::vector<uint8_t>(printing ? 1 : 0);
+                          });
+        port.write(nullptr, 0);
+        fluidnc::drainInput(port, 256, 500);
+        uint8_t byte = 0;
+        EXPECT_EQ(port.read(&byte, 1, 100) == 1, row.leftOver);
+    }
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 
 #include "image/FirmwareCheck.h"
 #include "image/Partitions.h"
+#include "tests/support/TestImages.h"
 
 namespace {
 
@@ -70,6 +71,13 @@ TEST(ImageInspection, RefusesWhatMustNotBeWrittenAsFirmware) {
     const image::FirmwareRules real{kDevApplicationPartition, false};
     const image::FirmwareRules simulated{kDevApplicationPartition, true};
     const image::FirmwareRules noTable{std::nullopt, true};
+    // The marker is looked for in the whole file: halfway through it (in the largest
+    // segment), and in the last bytes of an image as large as the partition.
+    const Bytes unmarked = testimg::unmarked(firmware);
+    const Bytes halfway = testimg::withText(unmarked, {unmarked.size() / 2}, testimg::kMarker);
+    Bytes full = resized(unmarked, kDevApplicationPartition - testimg::kMarker.size());
+    full.insert(full.end(), testimg::kMarker.begin(), testimg::kMarker.end());
+    const std::string development = "a development image, not firmware";
     // The file, the rules it is checked under, and the refusal expected (none: accepted).
     const std::tuple<const char*, Bytes, image::FirmwareRules, std::optional<std::string>> rows[] =
         {
@@ -94,13 +102,16 @@ TEST(ImageInspection, RefusesWhatMustNotBeWrittenAsFirmware) {
              simulated, "damaged: its SHA-256 does not match"},
             {"bootloader", devImage("bootloader.bin"), simulated,
              "not an application image (it has no application description)"},
-            {"4 MiB", resized(firmware, 4 * 1024 * 1024), simulated,
-             "too large for the application partition (4,194,304 bytes; the partition holds "
-             "1,966,080)"},
-            {"development image", firmware, real, "a development image, not firmware"},
+            {"development image", firmware, real, development},
             {"development image, simulated", firmware, simulated, std::nullopt},
-            {"4 MiB, no partition table", resized(firmware, 4 * 1024 * 1024), noTable,
-             std::nullopt},
+            {"unmarked", unmarked, real, std::nullopt},
+            {"marker halfway", halfway, real, development},
+            {"marker last, the partition's size", full, real, development},
+            {"the partition's size, simulated", full, simulated, std::nullopt},
+            {"a byte more than the partition", resized(full, full.size() + 1), simulated,
+             "too large for the application partition (1,966,081 bytes; the partition holds "
+             "1,966,080)"},
+            {"larger, no partition table", resized(full, 4 * 1024 * 1024), noTable, std::nullopt},
         };
     for (const auto& [name, bytes, rules, refusal] : rows) {
         EXPECT_EQ(image::firmwareRefusal(image::inspectImage(bytes.data(), bytes.size()), rules),

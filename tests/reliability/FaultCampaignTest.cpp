@@ -14,6 +14,7 @@
 #include "esp/Packet.h"
 #include "serial/Clock.h"
 #include "sim/PlotterLoopback.h"
+#include "tests/support/Descriptors.h"
 #include "tests/support/Records.h"
 #include "tests/support/TestImages.h"
 #include "tests/support/VirtualTime.h"
@@ -189,12 +190,17 @@ bool explainsFailure(const std::vector<std::string>& lines, unsigned code) {
 /// Runs `runs` seeds from `seedBase`. Each run draws faults from `menu` for a fresh
 /// plotter on a loopback port; `run` then draws its request, runs the job, checks it
 /// and returns its code. A healthy plotter must never fail, and every code in `codes`
-/// must occur. Stops after the first failed run.
+/// must occur. Stops after the first failed run. No run, good or bad, may leave
+/// anything behind: no descriptor, and no heap that grows with the number of runs (a
+/// leak of one job's buffers, KiB each, over hundreds of runs would not fit).
 void campaign(int runs, uint32_t seedBase, const std::vector<Fault>& menu,
               const std::set<unsigned>& codes,
               const std::function<unsigned(Rng&, sim::Plotter&, SerialPort&)>& run) {
     std::set<unsigned> outcomes;
+    const size_t descriptors = fdcheck::openDescriptorCount();
+    size_t heapAfterWarmUp = 0;
     for (int i = 0; i < runs && !::testing::Test::HasFailure(); ++i) {
+        heapAfterWarmUp = i == runs / 10 ? fdcheck::heapInUse() : heapAfterWarmUp;
         const uint32_t seed = seedBase + static_cast<uint32_t>(i);
         Rng rng(seed);
         C config;
@@ -209,6 +215,8 @@ void campaign(int runs, uint32_t seedBase, const std::vector<Fault>& menu,
         outcomes.insert(code);
     }
     EXPECT_EQ(outcomes, codes) << "results the runs ended with";
+    EXPECT_EQ(fdcheck::openDescriptorCount(), descriptors);
+    EXPECT_LE(fdcheck::heapInUse(), heapAfterWarmUp + 64 * 1024);
 }
 
 TEST(FaultCampaign, FlashingJobKeepsItsPromisesUnderRandomFaults) {

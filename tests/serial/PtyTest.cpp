@@ -1,5 +1,4 @@
 #include <poll.h>
-#include <pthread.h>
 #include <pty.h>
 #include <termios.h>
 #include <unistd.h>
@@ -10,7 +9,6 @@
 #include <atomic>
 #include <cerrno>
 #include <chrono>
-#include <csignal>
 #include <string>
 #include <thread>
 #include <tuple>
@@ -179,36 +177,6 @@ TEST_F(PosixPort, InterruptedReadAndWriteAreRetried) {
     EXPECT_TRUE(port.write(Bytes{'x', 'y', 'z'}));
     EXPECT_FALSE(interruptNextWrite) << "the write never reached write()";
     EXPECT_EQ(pty.received(3), "xyz");
-}
-
-std::atomic<int> signalsCaught{0};
-
-void countSignal(int) {
-    ++signalsCaught;
-}
-
-// Without SA_RESTART the signal ends the wait for room with EINTR; the device
-// starts reading only after the signals, so the write must have outlived them.
-TEST_F(PosixPort, SignalsDuringAStalledWriteDoNotEndIt) {
-    struct sigaction action {};
-    action.sa_handler = countSignal;
-    sigemptyset(&action.sa_mask);
-    struct sigaction previous {};
-    ASSERT_EQ(sigaction(SIGUSR1, &action, &previous), 0);
-    const Bytes block(256 * 1024, 'w');  // far more than a pseudo-terminal holds
-    bool written = false;
-    std::thread writer([&] { written = port.write(block); });
-    std::this_thread::sleep_for(200ms);
-    for (int i = 0; i < 5; ++i) {
-        pthread_kill(writer.native_handle(), SIGUSR1);
-        std::this_thread::sleep_for(20ms);
-    }
-    const std::string got = pty.received(block.size());
-    writer.join();
-    sigaction(SIGUSR1, &previous, nullptr);
-    EXPECT_EQ(signalsCaught, 5);
-    EXPECT_TRUE(written);
-    EXPECT_EQ(got.size(), block.size());
 }
 
 // Closing the master hangs the slave up, as pulling the cable does to a USB port:

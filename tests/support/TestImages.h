@@ -1,8 +1,12 @@
 #pragma once
 
+#include <openssl/sha.h>
+
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
+#include <string_view>
 #include <vector>
 
 #include "api/Jobs.h"
@@ -51,6 +55,35 @@ inline esp::FlashRequest flashRequest(const std::vector<uint8_t>& firmware,
             .partitionsLen = partitions.size(),
             .stub = stub.data(),
             .stubLen = stub.size()};
+}
+
+/// The text that marks every image of the development set.
+inline constexpr std::string_view kMarker = "TESKAL DEVELOPMENT IMAGE - NOT FIRMWARE";
+
+/// `app`, an application image that ends in its appended SHA-256, with `text`
+/// written at each of `offsets` (inside its segments), and its checksum byte (the
+/// one before the SHA-256) and SHA-256 made to match again.
+inline std::vector<uint8_t> withText(std::vector<uint8_t> app, const std::vector<size_t>& offsets,
+                                     std::string_view text) {
+    uint8_t& checksum = app[app.size() - 33];
+    for (const size_t at : offsets) {
+        for (size_t i = 0; i < text.size(); ++i) {
+            checksum ^= app[at + i] ^ static_cast<uint8_t>(text[i]);
+            app[at + i] = static_cast<uint8_t>(text[i]);
+        }
+    }
+    SHA256(app.data(), app.size() - 32, app.data() + app.size() - 32);
+    return app;
+}
+
+/// `app` with every development marker overwritten by other text of its length.
+inline std::vector<uint8_t> unmarked(const std::vector<uint8_t>& app) {
+    std::vector<size_t> offsets;
+    for (auto at = app.begin();
+         (at = std::search(at, app.end(), kMarker.begin(), kMarker.end())) != app.end(); ++at) {
+        offsets.push_back(static_cast<size_t>(at - app.begin()));
+    }
+    return withText(app, offsets, "TESKAL TEST APPLICATION - NOT FIRMWARE!");
 }
 
 }  // namespace testimg

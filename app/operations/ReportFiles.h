@@ -11,9 +11,9 @@
 /// fits the application partition of the resources' partition table; for each
 /// .yaml or .yml whether it is a valid machine configuration. Each file is
 /// checked as the firmware job and an upload would check it.
-class InspectFiles : public Operation {
+class ReportFiles : public Operation {
   public:
-    InspectFiles(QStringList paths, ResourceBundle resources, DevelopmentImages developmentImages);
+    ReportFiles(QStringList paths, ResourceBundle resources, DevelopmentImages developmentImages);
 
     /// Logs each file's report and, for a file refused, an error with the reason.
     /// Succeeds with "All files pass", or is refused with "N of M files refused".

@@ -1,9 +1,9 @@
-#include "app/operations/InspectFiles.h"
+#include "app/operations/ReportFiles.h"
 #include "cli/Commands.h"
 
 namespace {
 
-class InspectCommand : public Command {
+class FileReportCommand : public Command {
   public:
     CLI::App* define(CLI::App& parent) override {
         CLI::App* command = parent.add_subcommand(
@@ -26,8 +26,7 @@ class InspectCommand : public Command {
         for (const std::string& file : files_) {
             paths << QString::fromStdString(file);
         }
-        return std::make_shared<InspectFiles>(paths, context.resources,
-                                              context.developmentImages());
+        return std::make_shared<ReportFiles>(paths, context.resources, context.developmentImages());
     }
 
   private:
@@ -36,6 +35,6 @@ class InspectCommand : public Command {
 
 }  // namespace
 
-std::unique_ptr<Command> makeInspectCommand() {
-    return std::make_unique<InspectCommand>();
+std::unique_ptr<Command> makeFileReportCommand() {
+    return std::make_unique<FileReportCommand>();
 }

@@ -1,4 +1,4 @@
-#include "app/operations/InspectFiles.h"
+#include "app/operations/ReportFiles.h"
 
 #include <QFileInfo>
 
@@ -50,13 +50,13 @@ bool concluded(const Outcome& checked, const OperationSink& sink) {
 
 }  // namespace
 
-InspectFiles::InspectFiles(QStringList paths, ResourceBundle resources,
-                           DevelopmentImages developmentImages)
+ReportFiles::ReportFiles(QStringList paths, ResourceBundle resources,
+                         DevelopmentImages developmentImages)
     : paths_(std::move(paths)),
       resources_(std::move(resources)),
       developmentImages_(developmentImages) {}
 
-Outcome InspectFiles::run(const OperationSink& sink) {
+Outcome ReportFiles::run(const OperationSink& sink) {
     qsizetype refused = 0;
     for (const QString& path : paths_) {
         sink.info(QFileInfo(path).fileName());
@@ -79,7 +79,7 @@ Outcome InspectFiles::run(const OperationSink& sink) {
     return Outcome::success(Texts::allFilesPass());
 }
 
-bool InspectFiles::inspectImage(const QString& path, const OperationSink& sink) const {
+bool ReportFiles::inspectImage(const QString& path, const OperationSink& sink) const {
     CheckFirmwareFile check(path, resources_, developmentImages_);
     const Outcome checked = check.run(sink);
     if (check.report()) {
@@ -88,7 +88,7 @@ bool InspectFiles::inspectImage(const QString& path, const OperationSink& sink) 
     return concluded(checked, sink);
 }
 
-bool InspectFiles::inspectConfig(const QString& path, const OperationSink& sink) const {
+bool ReportFiles::inspectConfig(const QString& path, const OperationSink& sink) const {
     CheckConfigFile check(path);
     const Outcome checked = check.run(sink);
     if (check.bytes()) {
