@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "../support/FakeSysfs.h"
+#include "../support/FreePty.h"
 #include "../support/HoldingProcess.h"
 #include "app/ConnectionHint.h"
 #include "app/PortDiagnosis.h"
@@ -16,20 +17,6 @@
 #include "app/operations/CheckConnection.h"
 
 namespace {
-
-/// A pseudo-terminal whose slave nobody has open; `unlocked` false makes every open
-/// of it fail with EIO, as a USB node's does once its device has gone.
-struct Pty {
-    explicit Pty(bool unlocked = true) : master(::posix_openpt(O_RDWR | O_NOCTTY)) {
-        if (master < 0 || ::grantpt(master) != 0 || (unlocked && ::unlockpt(master) != 0)) {
-            qFatal("no pseudo-terminal");
-        }
-        path = QString::fromLatin1(::ptsname(master));
-    }
-    ~Pty() { ::close(master); }
-    int master;
-    QString path;
-};
 
 // A USB device with its ids, product name and serial number ("" leaves one out).
 void usbDevice(FakeSysfs& tree, const std::string& folder, const std::string& ids,
@@ -45,7 +32,7 @@ void usbDevice(FakeSysfs& tree, const std::string& folder, const std::string& id
 // A plotter at usb1/<place> with serial `serial` whose port, ttyACM<n>, leads to
 // `node` ("" for no node; no driver at all when `node` is "-").
 void plotter(FakeSysfs& tree, const std::string& place, const std::string& serial, int n,
-             const QString& node) {
+             const std::string& node) {
     const std::string folder = "usb1/" + place;
     usbDevice(tree, folder, "303a:1001", "USB JTAG/serial debug unit", serial);
     const std::string interface = folder + "/" + place + ":1.0";
@@ -55,8 +42,8 @@ void plotter(FakeSysfs& tree, const std::string& place, const std::string& seria
     }
     const std::string name = "ttyACM" + std::to_string(n);
     tree.tty(name, interface, true, false);
-    if (!node.isEmpty()) {
-        std::filesystem::create_symlink(node.toStdString(), tree.dev + "/" + name);
+    if (!node.empty()) {
+        std::filesystem::create_symlink(node, tree.dev + "/" + name);
     }
 }
 
@@ -114,7 +101,7 @@ void ConnectionTest::checklistFollowsTheUsbTree_data() {
 void ConnectionTest::checklistFollowsTheUsbTree() {
     QFETCH(QString, setup);
     FakeSysfs tree;
-    const Pty pty;
+    const FreePty pty;
     const QString dev = QString::fromStdString(tree.dev);
     const QString acm1 = dev + "/ttyACM1";
     const QString seen = "ok | Plotter seen on USB (303a:1001, serial F4:12:FA:00:00:01).";
@@ -175,13 +162,13 @@ void ConnectionTest::checklistFollowsTheUsbTree() {
 // nobody (65534), who is not in the node's group.
 void ConnectionTest::checklistNamesTheGroupOfAPortTheUserMayNotOpen() {
     FakeSysfs tree;
-    const Pty pty;
+    const FreePty pty;
     plotter(tree, "1-1", "", 0, pty.path);
     const QString acm0 = QString::fromStdString(tree.dev) + "/ttyACM0";
     QStringList expected{"ok | Plotter seen on USB (303a:1001).",
                          "ok | Serial port " + acm0 + " made for it by cdc_acm."};
     if (::geteuid() != 0) {
-        QVERIFY(::chmod(qPrintable(pty.path), 0) == 0);
+        QVERIFY(::chmod(pty.path.c_str(), 0) == 0);
         const Checklist found = checkTree(tree);
         QVERIFY(found.permissionDenied);
         QCOMPARE(rowTexts(found),
@@ -194,8 +181,8 @@ void ConnectionTest::checklistNamesTheGroupOfAPortTheUserMayNotOpen() {
     if (dialout == nullptr) {
         QSKIP("needs the group dialout");
     }
-    QVERIFY(::chown(qPrintable(pty.path), 0, dialout->gr_gid) == 0);
-    QVERIFY(::chmod(qPrintable(pty.path), 0660) == 0);
+    QVERIFY(::chown(pty.path.c_str(), 0, dialout->gr_gid) == 0);
+    QVERIFY(::chmod(pty.path.c_str(), 0660) == 0);
     QVERIFY(::chmod(tree.base.c_str(), 0755) == 0);
     int report[2];
     QVERIFY(::pipe(report) == 0);
@@ -279,19 +266,21 @@ void ConnectionTest::portProblemsInWords() {
 }
 
 void ConnectionTest::portIsDiagnosedAgainAfterTheLibraryCouldNotOpenIt() {
-    const Pty free, gone(false);
+    const FreePty freePty, gonePty(false);
+    const QString free = QString::fromStdString(freePty.path);
+    const QString gone = QString::fromStdString(gonePty.path);
     // Looking finds nothing wrong with either; only opening tells the gone one.
-    QVERIFY(!PortDiagnosis::beforeJob(free.path));
-    QVERIFY(!PortDiagnosis::beforeJob(gone.path));
+    QVERIFY(!PortDiagnosis::beforeJob(free));
+    QVERIFY(!PortDiagnosis::beforeJob(gone));
     const Outcome openFailed = Outcome::library(2);
-    const Outcome afterGone = PortDiagnosis::afterJob(gone.path, openFailed);
+    const Outcome afterGone = PortDiagnosis::afterJob(gone, openFailed);
     QCOMPARE(afterGone.kind, Outcome::Kind::portUnusable);
     QCOMPARE(afterGone.code, esp_error_t(2));
     QCOMPARE(std::get<PortCause>(afterGone.cause).problem, int(ESP_PORT_UNPLUGGED));
     // Nothing found, or another failure: the library's outcome stands.
-    QCOMPARE(PortDiagnosis::afterJob(free.path, openFailed).message, openFailed.message);
+    QCOMPARE(PortDiagnosis::afterJob(free, openFailed).message, openFailed.message);
     const Outcome noSync = Outcome::library(3);
-    QCOMPARE(PortDiagnosis::afterJob(gone.path, noSync).kind, Outcome::Kind::failed);
+    QCOMPARE(PortDiagnosis::afterJob(gone, noSync).kind, Outcome::Kind::failed);
 }
 
 void ConnectionTest::hintOffersTheCheckAfterLongWaitsAndRefusedPorts() {

@@ -1,9 +1,7 @@
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <QDirIterator>
 
 #include "ControllerHarness.h"
+#include "tests/support/FreePty.h"
 #include "tests/support/TestImages.h"
 
 namespace {
@@ -14,20 +12,6 @@ const QString kGone = QStringLiteral(
     "PORT does not answer: its device has gone. Unplug the plotter, plug it in again and try "
     "again.");
 const QByteArray kNotes = "{\"name\": \"plotter\", \"pens\": 12}\n";
-
-/// A pseudo-terminal that was never unlocked: it looks like a free serial port, but
-/// every open fails with EIO, as a USB node's does once its device has gone.
-struct GonePort {
-    GonePort() : master(::posix_openpt(O_RDWR | O_NOCTTY)) {
-        if (master < 0 || ::grantpt(master) != 0) {
-            qFatal("no pseudo-terminal");
-        }
-        path = QString::fromLatin1(::ptsname(master));
-    }
-    ~GonePort() { ::close(master); }
-    int master;
-    QString path;
-};
 
 /// A copy of the development resources without the named files.
 struct ResourcesWithout {
@@ -107,7 +91,8 @@ void ControllerTest::followsTheConnectionAndRefusesStartsWithoutIt() {
 }
 
 void ControllerTest::failures_data() {
-    // The plotter's port: "gone" for a GonePort, whose path replaces PORT in the texts.
+    // The plotter's port: "gone" for a pseudo-terminal that looks free but fails every
+    // open, as a USB node does once its device has gone; its path replaces PORT.
     QTest::addColumn<QString>("port");
     QTest::addColumn<QStringList>("missing");
     // "update" or "config"; an update may ask the console first ("probe"), log in detail
@@ -177,9 +162,9 @@ void ControllerTest::failures() {
     QFETCH(QStringList, busy);
     QFETCH(QString, message);
     QFETCH(QStringList, logBeforeError);
-    const GonePort gone;
+    const FreePty gone(false);
     if (port == "gone") {
-        port = gone.path;
+        port = QString::fromStdString(gone.path);
         message.replace("PORT", port);
         logBeforeError.replaceInStrings("PORT", port);
     }

@@ -20,6 +20,7 @@
 #include <QTest>
 
 #include "cli/Fleet.h"
+#include "tests/support/FreePty.h"
 #include "tests/support/TestImages.h"
 
 namespace {
@@ -150,13 +151,12 @@ class CliTest : public QObject {
   private:
     QString file(const QString& name) const { return files_.filePath(name); }
     QTemporaryDir files_;
-    // A serial port nobody serves: it opens, and stays silent.
-    int freeMaster_ = -1;
-    QString freePort_;
-    // One that looks free but was never unlocked, so that every open fails as a USB
-    // node's does once its device has gone.
-    int goneMaster_ = -1;
-    QString gonePort_;
+    // A serial port nobody serves, and one whose every open fails as a USB node's
+    // does once its device has gone.
+    const FreePty free_;
+    const FreePty gone_{false};
+    const QString freePort_ = QString::fromStdString(free_.path);
+    const QString gonePort_ = QString::fromStdString(gone_.path);
 };
 
 void CliTest::initTestCase() {
@@ -194,12 +194,6 @@ void CliTest::initTestCase() {
     // Children that teskal-flash leaves behind come to this process, which can tell
     // how they ended.
     QVERIFY(::prctl(PR_SET_CHILD_SUBREAPER, 1) == 0);
-    freeMaster_ = ::posix_openpt(O_RDWR | O_NOCTTY);
-    QVERIFY(freeMaster_ >= 0 && ::grantpt(freeMaster_) == 0 && ::unlockpt(freeMaster_) == 0);
-    freePort_ = QString::fromLatin1(::ptsname(freeMaster_));
-    goneMaster_ = ::posix_openpt(O_RDWR | O_NOCTTY);
-    QVERIFY(goneMaster_ >= 0 && ::grantpt(goneMaster_) == 0);
-    gonePort_ = QString::fromLatin1(::ptsname(goneMaster_));
 }
 
 void CliTest::subcommands_data() {
@@ -542,9 +536,9 @@ void CliTest::ctrlCWarnsOnceDuringAWrite() {
 // As an ordinary user on a port they may not open, every command that opens a port
 // says "permission", names the group and the fix, exits 2 and sends nothing.
 void CliTest::aPortTheUserMayNotOpenIsNamedAndGetsNothing() {
-    const int master = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
-    QVERIFY(master >= 0 && ::grantpt(master) == 0 && ::unlockpt(master) == 0);
-    const QString port = QString::fromLatin1(::ptsname(master));
+    const FreePty pty;
+    QVERIFY(::fcntl(pty.master, F_SETFL, O_NONBLOCK) == 0);
+    const QString port = QString::fromStdString(pty.path);
     QString denied;
     QStringList launcher;
     if (::geteuid() == 0) {
@@ -580,9 +574,8 @@ void CliTest::aPortTheUserMayNotOpenIsNamedAndGetsNothing() {
         QCOMPARE(result.err, "ERROR: " + denied + '\n');
         QCOMPARE(result.out, QString());
         char received[64];
-        QVERIFY2(::read(master, received, sizeof received) <= 0, qPrintable(command.first()));
+        QVERIFY2(::read(pty.master, received, sizeof received) <= 0, qPrintable(command.first()));
     }
-    ::close(master);
 }
 
 void CliTest::doctorAndDetectSayWhyNoPlotterIsReady() {

@@ -5,10 +5,8 @@
 #include <QSignalSpy>
 #include <QTextBrowser>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include "../support/FakeSysfs.h"
+#include "../support/FreePty.h"
 #include "UiTestSupport.h"
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
@@ -313,19 +311,17 @@ void AppDelegateTest::theLinkOpensTheConnectionCheckWhichClosesOnceThePlotterIsR
 
     // The plotter is plugged in while the window is open; its node leads to a free
     // pseudo-terminal.
-    const int master = ::posix_openpt(O_RDWR | O_NOCTTY);
-    QVERIFY(master >= 0 && ::grantpt(master) == 0 && ::unlockpt(master) == 0);
+    const FreePty pty;
     devices_.ids("usb1/1-1", "303a", "1001", true);
     devices_.interface("usb1/1-1/1-1:1.0", "cdc_acm");
     devices_.tty("ttyACM0", "usb1/1-1/1-1:1.0", true, false);
     const std::string node = devices_.dev + "/ttyACM0";
-    std::filesystem::create_symlink(::ptsname(master), node);
+    std::filesystem::create_symlink(pty.path, node);
     QTRY_COMPARE_WITH_TIMEOUT(ready.count(), 1, 5000);
     QCOMPARE(ready.first().first().toString(), QString::fromStdString(node));
     QCOMPARE(check->checklist().rows.last().line,
              QString::fromStdString("Ready: the plotter on " + node + " can be used."));
     QTRY_VERIFY_WITH_TIMEOUT(!check->isVisible(), 5000);
-    ::close(master);
 }
 
 void AppDelegateTest::thePermissionRuleIsInstalledByItsOneFixedCommand() {
