@@ -38,15 +38,6 @@ struct Checklist {
     bool permissionDenied = false;
 
     bool ready() const { return readyPort.has_value(); }
-    /// The first problem's line; empty when there is none.
-    QString firstProblem() const {
-        for (const CheckRow& row : rows) {
-            if (row.mark == CheckRow::Mark::problem) {
-                return row.line;
-            }
-        }
-        return {};
-    }
 
     friend bool operator==(const Checklist&, const Checklist&) = default;
 };

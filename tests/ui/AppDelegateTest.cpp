@@ -306,7 +306,7 @@ void AppDelegateTest::theLinkOpensTheConnectionCheckWhichClosesOnceThePlotterIsR
     ConnectionCheckWindow* check = delegate_->connectionCheckWindow();
     QVERIFY(check != nullptr && check->isVisible());
     QCOMPARE(check->windowTitle(), QStringLiteral("Connection Check"));
-    QCOMPARE(check->checklist().firstProblem(), QStringLiteral("No plotter seen on USB."));
+    QCOMPARE(check->checklist().rows.first().line, QStringLiteral("No plotter seen on USB."));
     QSignalSpy ready(check, &ConnectionCheckWindow::plotterReady);
 
     // The plotter is plugged in while the window is open; its node leads to a free
