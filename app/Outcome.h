@@ -6,6 +6,7 @@
 #include <optional>
 #include <variant>
 
+#include "app/Checklist.h"
 #include "esp_flasher.h"
 
 /// Why reading a file from the machine failed, as the library tells it.
@@ -14,6 +15,24 @@ struct DownloadCause {
     uint32_t block = 0;             ///< the block that failed, counted from 1
 
     friend bool operator==(const DownloadCause&, const DownloadCause&) = default;
+};
+
+/// Why a port cannot be used, as the library's port check finds it (esp_check_port).
+struct PortCause {
+    QString path;
+    int problem = ESP_PORT_OK;  ///< enum esp_port_problem
+    int error = 0;              ///< the errno behind it
+    // The node's access, filled whenever the node exists.
+    QString owner;
+    QString group;
+    unsigned mode = 0;           ///< permission bits, e.g. 0660
+    QString user;                ///< the user this program runs as
+    bool userInGroup = false;    ///< the account database puts the user in `group`
+    bool groupInEffect = false;  ///< this process has `group` (false until a new login)
+    int holderPid = 0;           ///< for a port in use: the other program, 0 when unnamed
+    QString holderName;
+
+    friend bool operator==(const PortCause&, const PortCause&) = default;
 };
 
 /// How the machine started after a write, from what it printed (see
@@ -35,8 +54,8 @@ QString verdictName(int verdict);
 std::optional<int> verdictNamed(const QString& name);
 
 /// What is known, as data, about why an operation ended as it did; empty where
-/// the kind alone tells.
-using Cause = std::variant<std::monostate, DownloadCause, StartupCause>;
+/// the kind alone tells. A connection check carries its whole checklist.
+using Cause = std::variant<std::monostate, DownloadCause, PortCause, Checklist, StartupCause>;
 
 /// How an operation ended. Created where the result is known and carried
 /// unchanged to the window and to the command line, which present it; neither
@@ -56,6 +75,8 @@ struct Outcome {
         notConfirmed,      ///< written and verified, but the machine did not confirm it runs
         notStarting,       ///< written and verified, but the machine does not start
         configRejected,    ///< the machine runs but rejects its configuration
+        portUnusable,      ///< the port cannot be used; `cause` is a PortCause
+        notReady,          ///< the connection check found no plotter ready to use
     };
 
     Kind kind = Kind::succeeded;

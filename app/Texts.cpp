@@ -481,6 +481,219 @@ QString simulatorNotStarted(const QString& reason) {
     return QStringLiteral("Could not start the simulated plotter: ") + reason;
 }
 
+QString ruleInWindow() {
+    return QStringLiteral("Connection Check");
+}
+
+QString ruleOnCommandLine() {
+    return QStringLiteral("teskal-flash doctor");
+}
+
+namespace {
+
+// Joining the group helps only when the node's mode lets its group read and write,
+// and never for root's group.
+bool groupWouldHelp(const PortCause& cause) {
+    return !cause.group.isEmpty() && cause.group != QLatin1String("root") &&
+           (cause.mode & 0060) == 0060;
+}
+
+QString permissionProblem(const PortCause& cause) {
+    if (groupWouldHelp(cause)) {
+        return QStringLiteral("Permission denied on %1 (group %2).").arg(cause.path, cause.group);
+    }
+    if (!cause.owner.isEmpty()) {
+        return QStringLiteral("Permission denied on %1 (owner %2, mode %3).")
+            .arg(cause.path, cause.owner)
+            .arg(cause.mode, 4, 8, QLatin1Char('0'));
+    }
+    return QStringLiteral("Permission denied on %1.").arg(cause.path);
+}
+
+QString permissionFix(const PortCause& cause, const QString& rule) {
+    if (!groupWouldHelp(cause)) {
+        return QStringLiteral("Install the permission rule (%1).").arg(rule);
+    }
+    if (cause.userInGroup && !cause.groupInEffect) {
+        return QStringLiteral(
+                   "You are in the group %1, but this session began before you joined it: log "
+                   "out and in again.")
+            .arg(cause.group);
+    }
+    return QStringLiteral(
+               "Install the permission rule (%1), or join the group: sudo usermod -aG %2 $USER, "
+               "then log out and in again.")
+        .arg(rule, cause.group);
+}
+
+}  // namespace
+
+QString portProblem(const PortCause& cause) {
+    switch (cause.problem) {
+        case ESP_PORT_MISSING:
+            return QStringLiteral("%1 does not exist.").arg(cause.path);
+        case ESP_PORT_NOT_SERIAL:
+            return QStringLiteral("%1 is not a serial port.").arg(cause.path);
+        case ESP_PORT_PERMISSION:
+            return permissionProblem(cause);
+        case ESP_PORT_HELD:
+            return cause.holderPid > 0
+                       ? QStringLiteral("%1 is in use by %2 (pid %3).")
+                             .arg(cause.path, cause.holderName)
+                             .arg(cause.holderPid)
+                       : QStringLiteral("%1 is in use by another program.").arg(cause.path);
+        case ESP_PORT_UNPLUGGED:
+            return QStringLiteral("%1 does not answer: its device has gone.").arg(cause.path);
+        default:
+            return QStringLiteral("%1 can be used.").arg(cause.path);
+    }
+}
+
+QString portFix(const PortCause& cause, const QString& rule) {
+    switch (cause.problem) {
+        case ESP_PORT_MISSING:
+            return QStringLiteral("Plug the plotter in, or name another port.");
+        case ESP_PORT_NOT_SERIAL:
+            return QStringLiteral("Name the plotter's port, for example /dev/ttyACM0.");
+        case ESP_PORT_PERMISSION:
+            return permissionFix(cause, rule);
+        case ESP_PORT_HELD:
+            return cause.holderPid > 0 ? QStringLiteral("Close that program and try again.")
+                                       : QStringLiteral("Close it and try again.");
+        case ESP_PORT_UNPLUGGED:
+            return QStringLiteral("Unplug the plotter, plug it in again and try again.");
+        default:
+            return QString();
+    }
+}
+
+QString portUnusable(const PortCause& cause, const QString& rule) {
+    const QString fix = portFix(cause, rule);
+    return fix.isEmpty() ? portProblem(cause) : portProblem(cause) + QLatin1Char(' ') + fix;
+}
+
+QString plotterSeen(const QString& serial) {
+    return serial.isEmpty()
+               ? QStringLiteral("Plotter seen on USB (303a:1001).")
+               : QStringLiteral("Plotter seen on USB (303a:1001, serial %1).").arg(serial);
+}
+
+QString noPlotterSeen() {
+    return QStringLiteral("No plotter seen on USB.");
+}
+
+QString noPlotterFix() {
+    return QStringLiteral(
+        "Switch it on, try another USB port, and use a cable that carries data: some cables "
+        "only charge.");
+}
+
+QString portMade(const QString& path, const QString& driver) {
+    return QStringLiteral("Serial port %1 made for it by %2.").arg(path, driver);
+}
+
+QString noDriver() {
+    return QStringLiteral("No serial port made for it: the kernel's cdc_acm driver is missing.");
+}
+
+QString noDriverFix() {
+    return QStringLiteral(
+        "Install your system's extra kernel modules, or load the driver: sudo modprobe cdc_acm");
+}
+
+QString noNode() {
+    return QStringLiteral("No serial port made for it yet.");
+}
+
+QString noNodeFix() {
+    return QStringLiteral(
+        "Wait a moment; if it stays so, unplug the plotter and plug it in again.");
+}
+
+QString mayOpen(const QString& path) {
+    return QStringLiteral("You may open %1.").arg(path);
+}
+
+QString notHeld(const QString& path) {
+    return QStringLiteral("No other program is using %1.").arg(path);
+}
+
+QString otherPlotter(const QString& serial, const QString& path) {
+    const QString where = path.isEmpty() ? QStringLiteral("without a port") : path;
+    return serial.isEmpty() ? QStringLiteral("Another plotter: %1.").arg(where)
+                            : QStringLiteral("Another plotter (serial %1): %2.").arg(serial, where);
+}
+
+QString otherDevice(uint16_t vendorId, uint16_t productId, const QString& product,
+                    const QString& driver, const QString& path) {
+    QString device = QStringLiteral("%1:%2")
+                         .arg(vendorId, 4, 16, QLatin1Char('0'))
+                         .arg(productId, 4, 16, QLatin1Char('0'));
+    if (!product.isEmpty()) {
+        device += QLatin1Char(' ') + product;
+    }
+    if (!driver.isEmpty()) {
+        device += QStringLiteral(" (%1)").arg(driver);
+    }
+    return QStringLiteral("Not a plotter: %1 on %2.").arg(device, path);
+}
+
+QString portReady(const QString& path) {
+    return QStringLiteral("Ready: the plotter on %1 can be used.").arg(path);
+}
+
+QString noPlotterReady() {
+    return QStringLiteral("No plotter is ready to use.");
+}
+
+QString doctorPointer() {
+    return QStringLiteral("Run teskal-flash doctor to see why.");
+}
+
+QString ruleBelow() {
+    return QStringLiteral("button below");
+}
+
+QString ruleHelperCommand(const QString& program, const QString& helper) {
+    return program + QLatin1Char(' ') + helper;
+}
+
+QString ruleByHand(const QString& ruleFile) {
+    return QStringLiteral(
+               "sudo cp %1 /etc/udev/rules.d/ && sudo udevadm control --reload && sudo udevadm "
+               "trigger")
+        .arg(ruleFile);
+}
+
+QString ruleShipped() {
+    return QStringLiteral("60-teskal-firmware-updater.rules in /etc/udev/rules.d");
+}
+
+QString plotterNotFound() {
+    return QStringLiteral("Plotter not found?");
+}
+
+QString connectionCheck() {
+    return QStringLiteral("Connection Check");
+}
+
+QString connectionCheckIntro() {
+    return QStringLiteral(
+        "Checked again every second. This window closes once the plotter can be used.");
+}
+
+QString installRule() {
+    return QStringLiteral("Install Permission Rule…");
+}
+
+QString installRuleByHand(const QString& command) {
+    return QStringLiteral("pkexec or the rule's installer is missing. Run by hand: ") + command;
+}
+
+QString ruleInstallerNotStarted() {
+    return QStringLiteral("The permission rule's installer could not be started.");
+}
+
 QString endedWithoutResult() {
     return QStringLiteral("ended without a result");
 }

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QtGlobal>
+#include <cstdint>
 
 #include "app/Outcome.h"
 #include "esp_flasher.h"
@@ -108,6 +109,48 @@ QString neitherImageNorConfig(const QString& fileName);
 QString allFilesPass();
 QString filesRefused(qsizetype refused, qsizetype total);
 QString simulatorNotStarted(const QString& reason);
+
+// A port that cannot be used. `rule` says where the permission rule comes from, in
+// the window "Connection Check", on the command line "teskal-flash doctor".
+QString ruleInWindow();       ///< "Connection Check"
+QString ruleOnCommandLine();  ///< "teskal-flash doctor"
+/// What is wrong, one sentence: "Permission denied on PATH (group G).", "PATH does
+/// not exist.", "PATH is not a serial port.", "PATH is in use by NAME (pid N)." ...
+QString portProblem(const PortCause& cause);
+/// What fixes it, one or two sentences.
+QString portFix(const PortCause& cause, const QString& rule);
+/// The problem and its fix, as an outcome's message.
+QString portUnusable(const PortCause& cause, const QString& rule);
+
+// The connection check's lines.
+QString plotterSeen(const QString& serial);  ///< "Plotter seen on USB (303a:1001, serial S)."
+QString noPlotterSeen();                     ///< "No plotter seen on USB."
+QString noPlotterFix();                      ///< switch it on, another port, a data cable
+QString portMade(const QString& path, const QString& driver);
+QString noDriver();  ///< no port made: the kernel's cdc_acm driver is missing
+QString noDriverFix();
+QString noNode();  ///< the driver is there, the node is not (yet)
+QString noNodeFix();
+QString mayOpen(const QString& path);  ///< "You may open PATH."
+QString notHeld(const QString& path);  ///< "No other program is using PATH."
+QString otherPlotter(const QString& serial, const QString& path);
+QString otherDevice(uint16_t vendorId, uint16_t productId, const QString& product,
+                    const QString& driver, const QString& path);
+QString portReady(const QString& path);  ///< "Ready: the plotter on PATH can be used."
+QString noPlotterReady();                ///< "No plotter is ready to use."
+QString doctorPointer();                 ///< "Run teskal-flash doctor to see why."
+QString ruleBelow();                     ///< "button below", the window's rule
+QString ruleHelperCommand(const QString& program, const QString& helper);
+QString ruleByHand(const QString& ruleFile);
+QString ruleShipped();  ///< the rule's name, when no installed copy is found
+
+// The Connection Check window.
+QString plotterNotFound();                          ///< "Plotter not found?"
+QString connectionCheck();                          ///< "Connection Check"
+QString connectionCheckIntro();                     ///< checked every second, closes when ready
+QString installRule();                              ///< "Install Permission Rule…"
+QString installRuleByHand(const QString& command);  ///< the button's tooltip without pkexec
+QString ruleInstallerNotStarted();
 
 // Several plotters at once, one process each.
 QString endedWithoutResult();  ///< "ended without a result"

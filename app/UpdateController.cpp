@@ -22,8 +22,11 @@ UpdateController::UpdateController(ResourceBundle resources, DeviceMonitor::Dete
     : PublishedState(parent),
       resources_(std::move(resources)),
       developmentImages_(developmentImages),
-      monitor_(new DeviceMonitor(std::move(detector), this)) {
+      monitor_(new DeviceMonitor(std::move(detector), this)),
+      connectionHint_(new ConnectionHint(statusMessage(), ConnectionHint::kPatienceMs, this)) {
     monitor_->startPolling();
+    connect(this, &UpdateController::statusMessageChanged, connectionHint_,
+            &ConnectionHint::followStatus);
     connect(monitor_, &DeviceMonitor::isConnectedChanged, this, &UpdateController::followConnection,
             Qt::QueuedConnection);
     connect(&runner_, &OperationRunner::phaseEntered, this, &UpdateController::enterPhase);
@@ -160,6 +163,7 @@ void UpdateController::start(std::shared_ptr<Operation> operation, Then then) {
     assignResult(std::nullopt);
     then_ = std::move(then);
     runner_.start(std::move(operation));
+    connectionHint_->jobStarted();
     emit jobRunningChanged(true);
 }
 
@@ -179,5 +183,6 @@ void UpdateController::finish(const Outcome& outcome) {
     }
     then_ = {};
     assignResult(outcome);
+    connectionHint_->jobEnded(outcome);
     emit jobRunningChanged(false);
 }

@@ -11,6 +11,7 @@
 
 #include "app/ConfigChoice.h"
 #include "app/ConfigDiff.h"
+#include "app/ConnectionHint.h"
 #include "app/DeviceMonitor.h"
 #include "app/FirmwareCheck.h"
 #include "app/PublishedState.h"
@@ -71,6 +72,8 @@ class UpdateController : public PublishedState {
 
     /// Owned by the controller for its whole life.
     DeviceMonitor* deviceMonitor() const { return monitor_; }
+    /// When to offer the Connection Check; owned by the controller.
+    ConnectionHint* connectionHint() const { return connectionHint_; }
 
     /// True from the moment an operation is accepted (before its state leaves
     /// `ready`) until its outcome has arrived on the GUI thread.
@@ -130,6 +133,7 @@ class UpdateController : public PublishedState {
     const ResourceBundle resources_;
     const DevelopmentImages developmentImages_;
     DeviceMonitor* monitor_;
+    ConnectionHint* connectionHint_;
     mutable QMutex customFirmwareMutex_;
     QUrl customFirmwareURL_;
     std::atomic<bool> detailedLogging_ = false;

@@ -10,5 +10,6 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
     commands.push_back(makeFileReportCommand());
     commands.push_back(makeSaveConfigCommand());
     commands.push_back(makeDiffConfigCommand());
+    commands.push_back(makeDoctorCommand());
     return commands;
 }

@@ -13,6 +13,7 @@ std::unique_ptr<Command> makeProbeCommand();
 std::unique_ptr<Command> makeFileReportCommand();
 std::unique_ptr<Command> makeSaveConfigCommand();
 std::unique_ptr<Command> makeDiffConfigCommand();
+std::unique_ptr<Command> makeDoctorCommand();
 
 /// Every subcommand, in the order --help lists them.
 std::vector<std::unique_ptr<Command>> makeCommands();

@@ -70,14 +70,37 @@ event::Result resultFrom(const QJsonObject& object) {
     return {status, outcome};
 }
 
-}  // namespace
-
-QByteArray toJsonLine(const QString& port, const Event& event) {
-    QJsonObject object = objectFor(event);
+QByteArray compact(const QString& port, QJsonObject object) {
     if (!port.isEmpty()) {
         object.insert(QStringLiteral("port"), port);
     }
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+QString markName(CheckRow::Mark mark) {
+    switch (mark) {
+        case CheckRow::Mark::ok:
+            return QStringLiteral("ok");
+        case CheckRow::Mark::problem:
+            return QStringLiteral("problem");
+        case CheckRow::Mark::info:
+            break;
+    }
+    return QStringLiteral("info");
+}
+
+}  // namespace
+
+QByteArray toJsonLine(const QString& port, const Event& event) {
+    return compact(port, objectFor(event));
+}
+
+QByteArray toJsonLine(const QString& port, const CheckRow& row) {
+    QJsonObject object{{"type", "check"}, {"mark", markName(row.mark)}, {"line", row.line}};
+    if (!row.fix.isEmpty()) {
+        object.insert(QStringLiteral("fix"), row.fix);
+    }
+    return compact(port, object);
 }
 
 std::optional<Event> eventFromJsonLine(const QByteArray& line) {
@@ -99,8 +122,17 @@ std::optional<Event> eventFromJsonLine(const QByteArray& line) {
 }
 
 void JsonReporter::report(const QString& port, const Event& event) {
-    const QByteArray line = toJsonLine(withPorts_ ? port : QString(), event) + '\n';
-    std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stdout);
+    const QString shown = withPorts_ ? port : QString();
+    QByteArray lines;
+    if (const auto* result = std::get_if<event::Result>(&event)) {
+        if (const auto* checklist = std::get_if<Checklist>(&result->outcome.cause)) {
+            for (const CheckRow& row : checklist->rows) {
+                lines += toJsonLine(shown, row) + '\n';
+            }
+        }
+    }
+    lines += toJsonLine(shown, event) + '\n';
+    std::fwrite(lines.constData(), 1, static_cast<size_t>(lines.size()), stdout);
     std::fflush(stdout);
 }
 

@@ -19,6 +19,7 @@
 #include "cli/LocalRun.h"
 #include "cli/Plotters.h"
 #include "cli/TextReporter.h"
+#include "cli/Wording.h"
 
 namespace {
 
@@ -141,7 +142,7 @@ int runSession(const Command& command, const CommonOptions& options, const QStri
     if (ports.isEmpty()) {
         const Outcome none = Outcome::make(Outcome::Kind::noDevice, Texts::errorMessage(1));
         const int status = ExitStatus::of(none, command.convention());
-        reporter->report(QString(), event::Result{status, none});
+        reporter->report(QString(), event::Result{status, inCommandLineWords(none)});
         return status;
     }
 

@@ -27,6 +27,14 @@ void write(std::FILE* stream, const QString& text) {
     std::fflush(stream);
 }
 
+// A checklist row as "✓ line", a problem's fix indented below its line.
+QString checkLines(const CheckRow& row) {
+    const QString mark = row.mark == CheckRow::Mark::ok        ? QStringLiteral("\u2713 ")
+                         : row.mark == CheckRow::Mark::problem ? QStringLiteral("\u2717 ")
+                                                               : QStringLiteral("\u2022 ");
+    return row.fix.isEmpty() ? mark + row.line : mark + row.line + QStringLiteral("\n  ") + row.fix;
+}
+
 }  // namespace
 
 TextReporter::TextReporter(Style style) : style_(style) {
@@ -95,12 +103,18 @@ void TextReporter::onProgress(Row& row, const event::Progress& progress) {
 
 // A failure goes to standard error in the window's words, and so does a machine
 // that does not run what was written; what the machine said and what to do next
-// follow. With several plotters a success gets a line of its own.
+// follow. With several plotters a success gets a line of its own. A checklist
+// comes before all of it.
 void TextReporter::onResult(Row& row, const event::Result& result) {
     const Outcome& outcome = result.outcome;
     if (row.meter.active()) {
         row.meter.finish(!outcome.isFailure());
         scheduleDraw();
+    }
+    if (const auto* checklist = std::get_if<Checklist>(&outcome.cause)) {
+        for (const CheckRow& check : checklist->rows) {
+            printLine(stdout, prefixed(row.port, checkLines(check)));
+        }
     }
     const auto summary = summarize(outcome, Texts::Audience::commandLine);
     if (!summary) {

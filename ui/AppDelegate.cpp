@@ -16,6 +16,7 @@
 #include "app/operations/SaveMachineConfig.h"
 #include "ui/AboutWindow.h"
 #include "ui/CompareWindow.h"
+#include "ui/ConnectionCheckWindow.h"
 #include "ui/UpdaterView.h"
 
 namespace {
@@ -57,6 +58,7 @@ AppDelegate::~AppDelegate() {
     window_.reset();
     aboutWindow_.reset();
     compareWindow_.reset();
+    connectionCheckWindow_.reset();
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -65,7 +67,9 @@ void AppDelegate::applicationDidFinishLaunching() {
         nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                      Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint);
     window_->setWindowTitle(QStringLiteral("Teskal Firmware Updater"));
-    window_->setCentralWidget(new UpdaterView(*updateController_));
+    auto* view = new UpdaterView(*updateController_);
+    connect(view, &UpdaterView::connectionCheckRequested, this, &AppDelegate::showConnectionCheck);
+    window_->setCentralWidget(view);
     window_->layout()->setSizeConstraint(QLayout::SetFixedSize);
     quitGuard_ = new QuitGuard(
         window_.get(), [controller = updateController_.get()] { return controller->jobRunning(); },
@@ -190,6 +194,17 @@ void AppDelegate::showComparison(const ConfigComparison& comparison, const Confi
             [this, chosen] { updateController_->uploadChoice(chosen); });
     centreOnScreen(compareWindow_.get());
     bringToFront(compareWindow_.get());
+}
+
+void AppDelegate::showConnectionCheck() {
+    if (!connectionCheckWindow_ || !connectionCheckWindow_->isVisible()) {
+        connectionCheckWindow_ = std::make_unique<ConnectionCheckWindow>(
+            options_.devicePlaces, PermissionRule::installed());
+        connectionCheckWindow_->refresh();
+        connectionCheckWindow_->adjustSize();
+        centreOnScreen(connectionCheckWindow_.get());
+    }
+    bringToFront(connectionCheckWindow_.get());
 }
 
 std::optional<ProductConfig> AppDelegate::productOf(const QAction* item) const {

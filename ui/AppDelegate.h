@@ -9,12 +9,14 @@
 #include "app/ConfigDiff.h"
 #include "app/DesktopNotifier.h"
 #include "app/Outcome.h"
+#include "app/operations/CheckConnection.h"
 #include "ui/FileChooser.h"
 #include "ui/QuitGuard.h"
 #include "ui/SaveChooser.h"
 
 class AboutWindow;
 class CompareWindow;
+class ConnectionCheckWindow;
 class EscapeCloser;
 class QAction;
 class QMainWindow;
@@ -47,6 +49,8 @@ class AppDelegate : public QObject {
             [](const QString& title, const QString& body) {
                 DesktopNotifier().notify(title, body);
             };
+        /// Where the Connection Check looks for the plotter.
+        CheckConnection::Places devicePlaces = {};
     };
 
     /// Owns a controller on the resources beside the executable and the real
@@ -65,6 +69,8 @@ class AppDelegate : public QObject {
     AboutWindow* aboutWindow() const { return aboutWindow_.get(); }
     /// The window of the last comparison; null until one ended.
     CompareWindow* compareWindow() const { return compareWindow_.get(); }
+    /// The Connection Check; null until it was first asked for.
+    ConnectionCheckWindow* connectionCheckWindow() const { return connectionCheckWindow_.get(); }
 
   public slots:
     void showAbout();
@@ -91,6 +97,8 @@ class AppDelegate : public QObject {
     /// Shows `comparison` in a new compare window, in place of an earlier one; its
     /// "Upload This Configuration" uploads `chosen` as the Config menu would.
     void showComparison(const ConfigComparison& comparison, const ConfigChoice& chosen);
+    /// Shows the Connection Check, a new one unless it is open already.
+    void showConnectionCheck();
 
   private:
     void notifyUnseen(const std::optional<Outcome>& result);
@@ -110,6 +118,7 @@ class AppDelegate : public QObject {
     std::unique_ptr<UpdateController> updateController_;
     std::unique_ptr<AboutWindow> aboutWindow_;
     std::unique_ptr<CompareWindow> compareWindow_;
+    std::unique_ptr<ConnectionCheckWindow> connectionCheckWindow_;
     EscapeCloser* escapeCloser_ = nullptr;
     QuitGuard* quitGuard_ = nullptr;
     SleepInhibitor* sleepInhibitor_;

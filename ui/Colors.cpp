@@ -51,6 +51,11 @@ const QColor& secondaryText() {
     return CV::darkGray();
 }
 
+const QColor& problem() {
+    static const QColor colour(198, 40, 40);
+    return colour;
+}
+
 }  // namespace AppColors
 
 namespace BannerColors {

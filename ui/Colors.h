@@ -30,6 +30,8 @@ const QColor& accent();
 QColor logText();
 /// Port path, firmware label, copy icon.
 const QColor& secondaryText();
+/// The mark of a check that failed.
+const QColor& problem();
 
 }  // namespace AppColors
 

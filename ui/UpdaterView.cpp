@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/Texts.h"
 #include "app/UpdateController.h"
 #include "ui/Colors.h"
 #include "ui/ElidedLabel.h"
@@ -35,6 +36,7 @@ UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
       dot_(new StatusDot(this)),
       status_(new ElidedLabel(this)),
       port_(makeLabel(12, AppColors::secondaryText(), this)),
+      notFound_(makeLabel(12, AppColors::accent(), this)),
       firmware_(makeLabel(13, AppColors::secondaryText(), this)),
       progress_(new QProgressBar(this)),
       button_(new QPushButton(QStringLiteral("Update Firmware"), this)),
@@ -59,6 +61,14 @@ void UpdaterView::buildLayout() {
     statusRow->addWidget(port_, 0, Qt::AlignVCenter);
     statusRow->addStretch(1);
     column->addLayout(statusRow);
+
+    notFound_->setTextFormat(Qt::RichText);
+    notFound_->setText(
+        QStringLiteral("<a href=\"check\" style=\"color: %1;\">%2</a>")
+            .arg(AppColors::accent().name(), Texts::plotterNotFound().toHtmlEscaped()));
+    notFound_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    notFound_->hide();
+    column->addWidget(notFound_);
 
     firmware_->setWordWrap(true);
     firmware_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -91,6 +101,9 @@ void UpdaterView::connectTo(UpdateController& controller) {
             &UpdaterView::showStatusMessage);
     connect(&controller, &UpdateController::logChanged, this, &UpdaterView::showLog);
     connect(&controller, &UpdateController::resultChanged, this, &UpdaterView::showResult);
+    connect(controller.connectionHint(), &ConnectionHint::offeredChanged, this,
+            &UpdaterView::showConnectionHint);
+    connect(notFound_, &QLabel::linkActivated, this, &UpdaterView::connectionCheckRequested);
     connect(&controller, &UpdateController::customFirmwareURLChanged, this,
             [this, &controller] { showFirmwareLabel(controller.firmwareLabel()); });
     const auto followMonitor = [this, monitor] {
@@ -103,6 +116,7 @@ void UpdaterView::connectTo(UpdateController& controller) {
     showStatusMessage(controller.statusMessage());
     showFirmwareLabel(controller.firmwareLabel());
     showLog(controller.log());
+    showConnectionHint(controller.connectionHint()->offered());
     followMonitor();
 }
 
@@ -147,6 +161,10 @@ void UpdaterView::showConnection(bool isConnected, const std::optional<QString>&
 
 void UpdaterView::showStatusMessage(const QString& message) {
     status_->setFullText(message);
+}
+
+void UpdaterView::showConnectionHint(bool offered) {
+    notFound_->setVisible(offered);
 }
 
 void UpdaterView::showFirmwareLabel(const QString& label) {

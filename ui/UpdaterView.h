@@ -17,8 +17,10 @@ class ResultBanner;
 class StatusDot;
 class UpdateController;
 
-/// The main window's content, 480 x 420: connection and status, the firmware that
-/// will be written, progress, the "Update Firmware" button and the log.
+/// The main window's content, 480 x 420: connection and status (with the link
+/// "Plotter not found?" below it while the controller's connection hint offers the
+/// Connection Check), the firmware that will be written, progress, the "Update
+/// Firmware" button and the log.
 ///
 /// It keeps nothing of its own: the `show...` functions redraw one part from a
 /// value, and the constructor connects them to the controller's and its device
@@ -37,6 +39,8 @@ class UpdaterView : public QWidget {
     void showConnection(bool isConnected, const std::optional<QString>& portPath);
     /// One line; a message too long for it is elided, whole in the tooltip.
     void showStatusMessage(const QString& message);
+    /// The link "Plotter not found?" under the status row, or nothing (no space).
+    void showConnectionHint(bool offered);
     void showFirmwareLabel(const QString& label);
     /// How the last job ended, in the result banner; none hides it.
     void showResult(const std::optional<Outcome>& result);
@@ -46,11 +50,16 @@ class UpdaterView : public QWidget {
     StatusDot* statusDot() const { return dot_; }
     ElidedLabel* statusLabel() const { return status_; }
     QLabel* portLabel() const { return port_; }
+    QLabel* notFoundLink() const { return notFound_; }
     QLabel* firmwareLabel() const { return firmware_; }
     QProgressBar* progressBar() const { return progress_; }
     QPushButton* updateButton() const { return button_; }
     LogPanel* logPanel() const { return log_; }
     ResultBanner* resultBanner() const { return banner_; }
+
+  signals:
+    /// The link "Plotter not found?" was followed.
+    void connectionCheckRequested();
 
   private:
     void buildLayout();
@@ -60,6 +69,7 @@ class UpdaterView : public QWidget {
     StatusDot* dot_;
     ElidedLabel* status_;
     QLabel* port_;
+    QLabel* notFound_;
     QLabel* firmware_;
     QProgressBar* progress_;
     QPushButton* button_;

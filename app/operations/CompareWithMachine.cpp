@@ -1,5 +1,6 @@
 #include "app/operations/CompareWithMachine.h"
 
+#include "app/PortDiagnosis.h"
 #include "app/Texts.h"
 #include "app/operations/MachineConfigFile.h"
 
@@ -20,6 +21,9 @@ Outcome CompareWithMachine::run(const OperationSink& sink) {
         if (auto refused = refusal()) {
             return *refused;
         }
+    }
+    if (auto unusable = PortDiagnosis::beforeJob(port_)) {
+        return *unusable;
     }
     auto read = MachineConfigFile::read(port_, sink);
     if (auto* failure = std::get_if<Outcome>(&read)) {

@@ -6,6 +6,7 @@
 #include "app/BuildConfig.h"
 #include "app/DeviceQueries.h"
 #include "app/FlasherBridge.h"
+#include "app/PortDiagnosis.h"
 #include "app/Texts.h"
 #include "app/operations/CheckStartup.h"
 
@@ -43,6 +44,9 @@ FlashFirmware::FlashFirmware(QString port, ResourceBundle resources, Options opt
     : port_(std::move(port)), resources_(std::move(resources)), options_(std::move(options)) {}
 
 Outcome FlashFirmware::run(const OperationSink& sink) {
+    if (auto unusable = PortDiagnosis::beforeJob(port_)) {
+        return *unusable;
+    }
     Outcome failure;
     const auto firmware = loadFirmware(sink, &failure);
     if (!firmware) {
@@ -75,7 +79,7 @@ Outcome FlashFirmware::run(const OperationSink& sink) {
         port_, *firmware, boot.bootloader, boot.partitions, boot.bootApp, *stub, fullFlash,
         options_.eraseAll, expectedVersion, sink.progress, sink.libraryLog, &startup);
     if (result != 0) {
-        return Outcome::library(result);
+        return PortDiagnosis::afterJob(port_, Outcome::library(result));
     }
     sink.enter(Phase::firmwareWritten);
     sink.info(Texts::firmwareComplete());

@@ -35,7 +35,9 @@ class FlashFirmware : public Operation {
     /// restart, or, when it heard nothing (a chosen image has no version to confirm)
     /// or the port went away, from a `CheckStartup` of its own. Ends refused or
     /// missing a resource before the port is touched, with the library's code, or
-    /// with the machine's verdict (a success when it runs the firmware).
+    /// with the machine's verdict (a success when it runs the firmware); first of
+    /// all, and after the library could not open the port, `portUnusable` when the
+    /// port cannot be used (see `PortDiagnosis`).
     Outcome run(const OperationSink& sink) override;
 
     /// The share, 0..1, of the flash plan's bytes written when the library reports

@@ -4,6 +4,7 @@
 #include <QSaveFile>
 
 #include "app/FlasherBridge.h"
+#include "app/PortDiagnosis.h"
 #include "app/Texts.h"
 
 namespace MachineConfigFile {
@@ -19,7 +20,7 @@ std::variant<QByteArray, Outcome> read(const QString& port, const OperationSink&
     Outcome failure = Outcome::library(download.result);
     failure.cause = cause;
     failure.message = Texts::configNotRead(cause);
-    return failure;
+    return PortDiagnosis::afterJob(port, failure);
 }
 
 Outcome write(const QString& path, const QByteArray& bytes, const OperationSink& sink) {

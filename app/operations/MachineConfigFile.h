@@ -13,7 +13,8 @@ namespace MachineConfigFile {
 /// Enters `readingConfig` and downloads config.yaml from the machine on `port`, the
 /// library's progress and log lines going to `sink`. The file's bytes, or the
 /// outcome of a failed read ("Could not read config.yaml from the machine: " and
-/// the cause; failed with the library's code, the cause as data). Blocks the
+/// the cause; failed with the library's code, the cause as data; `portUnusable`
+/// when the port could not be opened and opening it again tells why). Blocks the
 /// calling thread; one library job at a time.
 std::variant<QByteArray, Outcome> read(const QString& port, const OperationSink& sink);
 

@@ -15,7 +15,8 @@ class SaveMachineConfig : public Operation {
     static QString defaultFileName(const QDateTime& when);
 
     /// Reads config.yaml and writes it with `MachineConfigFile::write`: an existing
-    /// file is replaced whole or left as it was.
+    /// file is replaced whole or left as it was. Ends `portUnusable`, without
+    /// reading, when the port cannot be used.
     Outcome run(const OperationSink& sink) override;
 
   private:

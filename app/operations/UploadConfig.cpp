@@ -4,6 +4,7 @@
 
 #include "app/FlasherBridge.h"
 #include "app/MachineConfigBackup.h"
+#include "app/PortDiagnosis.h"
 #include "app/Texts.h"
 #include "app/operations/CheckConfigFile.h"
 #include "app/operations/CheckStartup.h"
@@ -48,6 +49,9 @@ Outcome UploadConfig::run(const OperationSink& sink) {
             return *refused;
         }
     }
+    if (auto unusable = PortDiagnosis::beforeJob(port_)) {
+        return *unusable;
+    }
     if (!choice_.product) {
         sink.info(announcement_);
     }
@@ -69,7 +73,7 @@ Outcome UploadConfig::run(const OperationSink& sink) {
     const esp_error_t result =
         FlasherBridge::uploadConfig(port_, *bytes, sink.progress, sink.libraryLog);
     if (result != 0) {
-        return Outcome::library(result);
+        return PortDiagnosis::afterJob(port_, Outcome::library(result));
     }
     sink.enter(Phase::configUploaded);
     sink.info(Texts::uploadComplete());

@@ -37,7 +37,9 @@ class UploadConfig : public Operation {
     /// logs "Upload successful; restarting machine.", then checks how the machine
     /// started with it (`CheckStartup`, within 8 s). Ends missing a resource, with
     /// the backup's failure, with the library's code, or with the machine's verdict
-    /// (a success when it runs with the new configuration).
+    /// (a success when it runs with the new configuration); `portUnusable` before it
+    /// logs anything, or after the library could not open the port, when the port
+    /// cannot be used (see `PortDiagnosis`).
     Outcome run(const OperationSink& sink) override;
 
   private:

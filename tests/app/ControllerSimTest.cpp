@@ -1,6 +1,7 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 
+#include "../support/HoldingProcess.h"
 #include "ControllerHarness.h"
 #include "app/Outcome.h"
 #include "app/SimulatedPlotter.h"
@@ -37,6 +38,7 @@ class ControllerSimTest : public QObject {
     void updatesOfAChosenImageAfterEraseAllAndUnplugged();
     void configurationsSavedComparedBackedUpAndUploaded();
     void everyStartUpComesBackAsItsVerdict();
+    void aPortHeldByAnotherProgramIsRefusedBeforeAnythingIsSent();
 };
 
 void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
@@ -221,6 +223,28 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     QCOMPARE(readFile(saved), tuned);
     QCOMPARE(QDir(dir.path()).entryList(QDir::Files),
              QStringList({"saved.yaml", "workshop.yaml", "workshop.yml"}));
+}
+
+// A serial monitor left open on the plotter's port: the job says who holds it,
+// sends nothing and asks nothing, and the window offers its Connection Check.
+void ControllerSimTest::aPortHeldByAnotherProgramIsRefusedBeforeAnythingIsSent() {
+    sim::PtyPlotter plotter;
+    const QString port = QString::fromStdString(plotter.path());
+    const HoldingProcess monitor(plotter.path());
+    ControllerHarness harness;
+    auto& controller = harness.controller;
+    QVERIFY(harness.plug(port));
+    QVERIFY(!controller.connectionHint()->offered());
+
+    controller.updateFirmware();
+    const QString held =
+        QString("%1 is in use by sleep (pid %2). Close that program and try again.")
+            .arg(port)
+            .arg(monitor.pid);
+    QCOMPARE(harness.waitForOutcome(5000), std::optional(UpdateState::error(held)));
+    QCOMPARE(controller.logMessages(), QStringList{"ERROR: " + held});
+    QVERIFY(controller.connectionHint()->offered());
+    plotter.inspect([](const sim::Plotter& p) { QVERIFY(p.transcript().empty()); });
 }
 
 QTEST_GUILESS_MAIN(ControllerSimTest)

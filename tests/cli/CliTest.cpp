@@ -1,7 +1,10 @@
+#include <fcntl.h>
+#include <grp.h>
 #include <poll.h>
 #include <pty.h>
 #include <signal.h>
 #include <sys/prctl.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -13,10 +16,12 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "cli/Fleet.h"
+#include "tests/support/FreePty.h"
 #include "tests/support/TestImages.h"
 
 namespace {
@@ -37,9 +42,15 @@ struct Run {
     QString err;
 };
 
-Run run(const QStringList& arguments) {
+// `launcher`, when given, starts the program: its first word with the rest, the
+// program and `arguments` as arguments.
+Run run(const QStringList& arguments, const QStringList& launcher = {}) {
     QProcess process;
-    process.start(kProgram, arguments);
+    if (launcher.isEmpty()) {
+        process.start(kProgram, arguments);
+    } else {
+        process.start(launcher.first(), launcher.mid(1) + QStringList{kProgram} + arguments);
+    }
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit) {
         qFatal("teskal-flash %s did not end", qPrintable(arguments.join(' ')));
     }
@@ -69,6 +80,21 @@ bool containsInOrder(const QString& text, const QStringList& lines) {
         }
     }
     return next == lines.size();
+}
+
+// Whether a plotter (USB 303a:1001) is attached to this computer.
+bool plotterAttached() {
+    const QDir devices(QStringLiteral("/sys/bus/usb/devices"));
+    for (const QString& device : devices.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const auto id = [&](const char* name) {
+            QFile file(devices.filePath(device + '/' + name));
+            return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+        };
+        if (id("idVendor") == "303a" && id("idProduct") == "1001") {
+            return true;
+        }
+    }
+    return false;
 }
 
 qint64 devImageSize(const QString& name) {
@@ -122,10 +148,18 @@ class CliTest : public QObject {
     void fleetEndsWithTheFirstFailureInPortOrder();
     void terminalProgressIsRedrawnInPlace();
     void ctrlCWarnsOnceDuringAWrite();
+    void aPortTheUserMayNotOpenIsNamedAndGetsNothing();
+    void doctorAndDetectSayWhyNoPlotterIsReady();
 
   private:
     QString file(const QString& name) const { return files_.filePath(name); }
     QTemporaryDir files_;
+    // A serial port nobody serves, and one whose every open fails as a USB node's
+    // does once its device has gone.
+    const FreePty free_;
+    const FreePty gone_{false};
+    const QString freePort_ = QString::fromStdString(free_.path);
+    const QString gonePort_ = QString::fromStdString(gone_.path);
 };
 
 void CliTest::initTestCase() {
@@ -181,8 +215,16 @@ void CliTest::subcommands_data() {
     QTest::newRow("detect, 64 simulated")
         << L{"detect", "--sim", "64"} << 0 << L{"sim1", "sim2", "sim64"} << L{"sim65"} << "";
     QTest::newRow("version") << L{"version", "--sim"} << 0 << L{"v3.7.8"} << L{} << "";
+    // A port that cannot be used is named as such, never as a silent machine.
+    QTest::newRow("version, port missing")
+        << L{"version", "--port", kNoPort} << 2 << L{} << L{}
+        << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
+    QTest::newRow("version, not a serial port")
+        << L{"version", "--port", "/dev/null"} << 2 << L{} << L{}
+        << "ERROR: /dev/null is not a serial port. Name the plotter's port, for example "
+           "/dev/ttyACM0.\n";
     QTest::newRow("version, no answer")
-        << L{"version", "--port", kNoPort} << 9 << L{} << L{}
+        << L{"version", "--port", freePort_} << 9 << L{} << L{}
         << "ERROR: Operation timed out. Try unplugging and reconnecting.\n";
     QTest::newRow("probe") << L{"probe", "--sim"} << 0 << L{"Partition table: present"} << L{}
                            << "";
@@ -206,11 +248,11 @@ void CliTest::subcommands_data() {
         << "ERROR: Firmware image refused: not a firmware image (first byte 0x7B, expected "
            "0xE9)\n";
     QTest::newRow("flash, development image for a real port")
-        << L{"flash", "--sim", "--port", kNoPort} << 11 << L{} << L{"Checking device status"}
+        << L{"flash", "--sim", "--port", freePort_} << 11 << L{} << L{"Checking device status"}
         << "ERROR: Firmware image refused: a development image, not firmware\n";
     QTest::newRow("flash, resources missing")
-        << L{"flash", "--port", kNoPort, "--resources", file("empty-resources")} << 12 << L{} << L{}
-        << "ERROR: Bundled firmware not found\n";
+        << L{"flash", "--port", freePort_, "--resources", file("empty-resources")} << 12 << L{}
+        << L{} << "ERROR: Bundled firmware not found\n";
     QTest::newRow("upload, product")
         << L{"upload-config", "--sim", "--product", "Corvane Halcot"} << 0
         << L{"Preparing Corvane Halcot config v1.2.0-devset", kUploaded} << L{} << "";
@@ -227,19 +269,20 @@ void CliTest::subcommands_data() {
         << "ERROR: The development set's configurations are only for simulated plotters\n";
     QTest::newRow("upload, port cannot be opened")
         << L{"upload-config", "--resources", kDev, "--product", "Halcot.yaml", "--port", kNoPort}
-        << 2 << L{"Preparing Corvane Halcot config v1.2.0-devset"} << L{}
-        << "ERROR: Could not open serial port. Is another app using it?\n"
-           "Close any other program that uses the port, unplug and reconnect the machine, and "
-           "try again.\n";
+        << 2 << L{} << L{"Preparing"}
+        << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
     QTest::newRow("save-config") << L{"save-config", "--sim", file("saved.yaml")} << 0
                                  << L{"Machine config saved to " + file("saved.yaml") +
                                       " (512 bytes)"}
                                  << L{} << "";
     QTest::newRow("save-config, port cannot be opened")
         << L{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 2 << L{} << L{}
-        << "ERROR: Could not read config.yaml from the machine: Failed to open port\n"
-           "Close any other program that uses the port, unplug and reconnect the machine, and "
-           "try again.\n";
+        << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
+    QTest::newRow("save-config, the port's device has gone")
+        << L{"save-config", "--port", gonePort_, file("unsaved.yaml")} << 2 << L{} << L{}
+        << "ERROR: " + gonePort_ +
+               " does not answer: its device has gone. Unplug the plotter, plug it in again and "
+               "try again.\n";
     QTest::newRow("save-config, destination cannot be written")
         << QStringList{"save-config", "--sim", "/nonexistent/folder/machine.yaml"} << 17
         << QStringList{} << QStringList{"Machine config saved"} << QString();
@@ -248,7 +291,9 @@ void CliTest::subcommands_data() {
         << QStringList{"Exit status:",
                        "  0  saved",
                        "  1  no plotter is connected",
-                       "  2  the port could not be opened",
+                       "  2  the port cannot be used (missing, not a serial port, not permitted, "
+                       "in "
+                       "use) or could not be opened",
                        "  8  a configuration transfer with the machine failed (upload or download)",
                        "  17 a file could not be written on this computer"}
         << QStringList{"  9 "} << "";
@@ -258,6 +303,10 @@ void CliTest::subcommands_data() {
                        "  8  a configuration transfer with the machine failed (upload or "
                        "download) (also when no plotter is connected)"}
         << QStringList{"  1  no plotter"} << "";
+    QTest::newRow("doctor's statuses")
+        << QStringList{"doctor", "--help"} << 0
+        << QStringList{"  0  a plotter is ready to use", "  1  no plotter is ready to use"}
+        << QStringList{"  2 "} << "";
     QTest::newRow("diff-config, different")
         << L{"diff-config", "--sim", "--product", "Corvane Halcot"} << 1
         << L{"axes/x/max_travel_mm: 300.000 \u2192 330.000", "+ axes/z/motor0/rc_servo/pwm_hz: 50",
@@ -310,7 +359,7 @@ void CliTest::subcommands_data() {
            "(.yaml, .yml)\n"
            "ERROR: 3 of 3 files refused\n";
     QTest::newRow("flash, real port, marker at the end of a bundled image")
-        << L{"flash", "--resources", file("real"), "--port", kNoPort} << 11 << L{}
+        << L{"flash", "--resources", file("real"), "--port", freePort_} << 11 << L{}
         << L{"Checking device status"}
         << "ERROR: Bundled esp32s3_stub.bin refused: a development image, not firmware\n";
     QTest::newRow("detect, 65 simulated")
@@ -423,12 +472,12 @@ void CliTest::severalPlottersRunAtOnce() {
     // Text: one result line each; the status is the first failure in port order.
     const Run mixed =
         run({"flash", "--sim", "2", "--port", "sim2", "--port", kNoPort, "--port", "sim1"});
-    QCOMPARE(mixed.exitCode, 11);
+    QCOMPARE(mixed.exitCode, 2);
     QVERIFY(mixed.out.contains("sim2: " + kRunning + '\n'));
     QVERIFY(mixed.out.contains("sim1: " + kRunning + '\n'));
     QVERIFY2(!mixed.out.contains("Updating firmware"), "log lines only with --verbose");
-    QCOMPARE(mixed.err,
-             kNoPort + ": ERROR: Firmware image refused: a development image, not firmware\n");
+    QCOMPARE(mixed.err, kNoPort + ": ERROR: " + kNoPort +
+                            " does not exist. Plug the plotter in, or name another port.\n");
 }
 
 // Each child as "PORT CODE" for a result, "PORT error" for an error after it.
@@ -520,6 +569,84 @@ void CliTest::ctrlCWarnsOnceDuringAWrite() {
             }
         }
     }
+}
+
+// As an ordinary user on a port they may not open, every command that opens a port
+// says "permission", names the group and the fix, exits 2 and sends nothing.
+void CliTest::aPortTheUserMayNotOpenIsNamedAndGetsNothing() {
+    const FreePty pty;
+    QVERIFY(::fcntl(pty.master, F_SETFL, O_NONBLOCK) == 0);
+    const QString port = QString::fromStdString(pty.path);
+    QString denied;
+    QStringList launcher;
+    if (::geteuid() == 0) {
+        // Mode bits stop no open by root: the port is given to root and dialout, and
+        // the program runs as user nobody, who is in neither.
+        const group* dialout = ::getgrnam("dialout");
+        if (dialout == nullptr || QStandardPaths::findExecutable("setpriv").isEmpty()) {
+            QSKIP("needs the group dialout and setpriv to drop privileges");
+        }
+        QVERIFY(::chown(qPrintable(port), 0, dialout->gr_gid) == 0);
+        QVERIFY(::chmod(qPrintable(port), 0660) == 0);
+        launcher = QStringList{"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"};
+        denied = "Permission denied on " + port +
+                 " (group dialout). Install the permission rule (teskal-flash doctor), or join "
+                 "the group: sudo usermod -aG dialout $USER, then log out and in again.";
+    } else {
+        // The user's own node, without permission bits.
+        QVERIFY(::chmod(qPrintable(port), 0) == 0);
+        denied = "Permission denied on " + port + " (owner " + qgetenv("USER") +
+                 ", mode 0000). Install the permission rule (teskal-flash doctor).";
+    }
+    const QStringList commands[] = {
+        {"version", "--port", port},
+        {"flash", "--port", port},
+        {"probe", "--port", port},
+        {"save-config", "--port", port, file("denied.yaml")},
+        {"upload-config", "--resources", kDev, "--product", "Halcot.yaml", "--port", port},
+        {"diff-config", "--resources", kDev, "--product", "Halcot.yaml", "--port", port},
+    };
+    for (const QStringList& command : commands) {
+        const Run result = run(command, launcher);
+        QCOMPARE(result.exitCode, 2);
+        QCOMPARE(result.err, "ERROR: " + denied + '\n');
+        QCOMPARE(result.out, QString());
+        char received[64];
+        QVERIFY2(::read(pty.master, received, sizeof received) <= 0, qPrintable(command.first()));
+    }
+}
+
+void CliTest::doctorAndDetectSayWhyNoPlotterIsReady() {
+    if (plotterAttached()) {
+        QSKIP("a plotter is attached to this computer");
+    }
+    const QString noPlotter = QStringLiteral("No plotter seen on USB.");
+    const QString fix = QStringLiteral(
+        "Switch it on, try another USB port, and use a cable that carries data: some cables only "
+        "charge.");
+    const Run text = run({"doctor"});
+    QCOMPARE(text.exitCode, 1);
+    QCOMPARE(text.out.section('\n', 0, 1), "\u2717 " + noPlotter + "\n  " + fix);
+    QCOMPARE(text.err, QStringLiteral("ERROR: No plotter is ready to use.\n"));
+
+    // One object per row, then the result; the rows after the first are the
+    // computer's other USB serial devices.
+    const QList<QJsonObject> objects = jsonObjects(run({"doctor", "--json"}).out);
+    QCOMPARE(
+        objects.first(),
+        QJsonObject({{"type", "check"}, {"mark", "problem"}, {"line", noPlotter}, {"fix", fix}}));
+    QCOMPARE(
+        objects.last(),
+        QJsonObject({{"type", "result"}, {"code", 1}, {"message", "No plotter is ready to use."}}));
+    for (const QJsonObject& other : objects.mid(1, objects.size() - 2)) {
+        QCOMPARE(other["mark"].toString(), QStringLiteral("info"));
+    }
+
+    const Run detect = run({"detect"});
+    QCOMPARE(detect.exitCode, 1);
+    QCOMPARE(detect.err,
+             QStringLiteral(
+                 "ERROR: No device found. Is it connected? Run teskal-flash doctor to see why.\n"));
 }
 
 QTEST_GUILESS_MAIN(CliTest)

@@ -3,11 +3,13 @@
 #include <QTabWidget>
 #include <QTextBrowser>
 
+#include "../support/FakeSysfs.h"
 #include "UiTestSupport.h"
 #include "app/operations/CheckStartup.h"
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
 #include "ui/CompareWindow.h"
+#include "ui/ConnectionCheckWindow.h"
 #include "ui/Fonts.h"
 #include "ui/LogPanel.h"
 #include "ui/LogView.h"
@@ -28,6 +30,7 @@ class ScreensTest : public QObject {
     void mainWindowStates();
     void aboutWindow();
     void compareWindow();
+    void connectionCheckWindow();
 
   private:
     void save(QWidget* window, const QString& name) {
@@ -50,6 +53,9 @@ void ScreensTest::mainWindowStates() {
     const QSignalBlocker quiet(delegate.updateController().deviceMonitor());
     auto* view = qobject_cast<UpdaterView*>(window->centralWidget());
     save(window, QStringLiteral("main-idle"));
+    view->showConnectionHint(true);
+    save(window, QStringLiteral("main-plotter-not-found"));
+    view->showConnectionHint(false);
 
     view->showConnection(true, QStringLiteral("/dev/ttyACM0"));
     const QString sample =
@@ -149,6 +155,24 @@ void ScreensTest::compareWindow() {
     save(&compare, QStringLiteral("compare-by-key"));
     compare.tabs()->setCurrentIndex(1);
     save(&compare, QStringLiteral("compare-by-line"));
+}
+
+// A plotter whose serial port was never made, beside a USB serial adapter.
+void ScreensTest::connectionCheckWindow() {
+    FakeSysfs tree;
+    tree.ids("usb1/1-1", "303a", "1001", true);
+    tree.attribute("usb1/1-1", "serial", "F4:12:FA:6C:3B:90");
+    tree.interface("usb1/1-1/1-1:1.0", "");
+    tree.ids("usb1/1-2", "1a86", "7523", true);
+    tree.attribute("usb1/1-2", "product", "USB Serial");
+    tree.interface("usb1/1-2/1-2:1.0", "ch341");
+    tree.tty("ttyUSB0", "usb1/1-2/1-2:1.0/ttyUSB0");
+    ConnectionCheckWindow check(
+        {QString::fromStdString(tree.sys), QString::fromStdString(tree.dev)},
+        PermissionRule::installed());
+    check.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&check));
+    save(&check, QStringLiteral("connection-check"));
 }
 
 QTEST_MAIN(ScreensTest)
