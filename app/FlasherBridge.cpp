@@ -55,22 +55,71 @@ size_t sizeOf(const QByteArray& buffer) {
     return static_cast<size_t>(buffer.size());
 }
 
+// The library's report, released with it on every path.
+struct OwnedReport {
+    esp_startup_report raw{};
+
+    OwnedReport() = default;
+    ~OwnedReport() { esp_startup_report_free(&raw); }
+    OwnedReport(const OwnedReport&) = delete;
+    OwnedReport& operator=(const OwnedReport&) = delete;
+
+    StartupReport copy() const {
+        StartupReport report;
+        report.listened = raw.listened != 0;
+        report.portLost = raw.portLost != 0;
+        report.verdict = raw.verdict;
+        if (raw.version != nullptr) {
+            report.version = QString::fromUtf8(raw.version);
+        }
+        for (const char* line : raw.evidence) {
+            if (line != nullptr) {
+                report.evidence << QString::fromUtf8(line);
+            }
+        }
+        return report;
+    }
+};
+
 }  // namespace
 
 esp_error_t flashFirmware(const QString& port, const QByteArray& firmware,
                           const QByteArray& bootloader, const QByteArray& partitions,
                           const QByteArray& bootApp, const QByteArray& stub, bool fullFlash,
                           bool eraseAll, const std::optional<QString>& expectedVersion,
-                          ProgressHandler progress, LogHandler log) {
+                          ProgressHandler progress, LogHandler log, StartupReport* startup) {
     const ParkedHandlers parked(std::move(progress), std::move(log));
     const QByteArray portText = port.toUtf8();
     const QByteArray versionText = expectedVersion ? expectedVersion->toUtf8() : QByteArray();
-    return esp_flash_firmware(portText.constData(), bytesOf(firmware), sizeOf(firmware),
-                              bytesOf(bootloader), sizeOf(bootloader), bytesOf(partitions),
-                              sizeOf(partitions), bytesOf(bootApp), sizeOf(bootApp), bytesOf(stub),
-                              sizeOf(stub), fullFlash ? 1 : 0, eraseAll ? 1 : 0,
-                              expectedVersion ? versionText.constData() : nullptr,
-                              detail::progressTrampoline, detail::logTrampoline);
+    const char* expected = expectedVersion ? versionText.constData() : nullptr;
+    if (startup == nullptr) {
+        return esp_flash_firmware(portText.constData(), bytesOf(firmware), sizeOf(firmware),
+                                  bytesOf(bootloader), sizeOf(bootloader), bytesOf(partitions),
+                                  sizeOf(partitions), bytesOf(bootApp), sizeOf(bootApp),
+                                  bytesOf(stub), sizeOf(stub), fullFlash ? 1 : 0, eraseAll ? 1 : 0,
+                                  expected, detail::progressTrampoline, detail::logTrampoline);
+    }
+    OwnedReport report;
+    const esp_error_t result = esp_flash_firmware_checked(
+        portText.constData(), bytesOf(firmware), sizeOf(firmware), bytesOf(bootloader),
+        sizeOf(bootloader), bytesOf(partitions), sizeOf(partitions), bytesOf(bootApp),
+        sizeOf(bootApp), bytesOf(stub), sizeOf(stub), fullFlash ? 1 : 0, eraseAll ? 1 : 0, expected,
+        detail::progressTrampoline, detail::logTrampoline, &report.raw);
+    *startup = report.copy();
+    return result;
+}
+
+esp_error_t checkStartup(const QString& port, const std::optional<QString>& expectedVersion,
+                         int timeoutMs, StartupReport* startup, LogHandler log) {
+    const ParkedHandlers parked({}, std::move(log));
+    const QByteArray portText = port.toUtf8();
+    const QByteArray versionText = expectedVersion ? expectedVersion->toUtf8() : QByteArray();
+    OwnedReport report;
+    const esp_error_t result =
+        esp_check_startup(portText.constData(), expectedVersion ? versionText.constData() : nullptr,
+                          timeoutMs, &report.raw, detail::logTrampoline);
+    *startup = report.copy();
+    return result;
 }
 
 esp_error_t uploadConfig(const QString& port, const QByteArray& configData,

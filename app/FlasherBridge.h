@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <optional>
 
@@ -24,14 +25,33 @@ using ProgressHandler = std::function<void(float progress, const QString& messag
 /// One library log line (empty when the library passed none).
 using LogHandler = std::function<void(const QString& line)>;
 
+/// What the machine did after a restart, as the library judged it from what it
+/// printed (see `esp_startup_report`).
+struct StartupReport {
+    bool listened = false;                ///< the machine was listened to after its restart
+    bool portLost = false;                ///< the port hung up after the restart
+    int verdict = ESP_STARTUP_NO_ANSWER;  ///< enum esp_startup_verdict
+    std::optional<QString> version;       ///< the version it answered
+    QStringList evidence;                 ///< quoted lines, the most telling first
+};
+
 /// Runs the library's flashing job. Empty boot buffers reach it with length 0;
 /// an absent `expectedVersion` reaches it as a null pointer. Returns the
-/// library's result unchanged.
+/// library's result unchanged; when `startup` is not null it is filled with how
+/// the machine started afterwards, the job itself being the same.
 esp_error_t flashFirmware(const QString& port, const QByteArray& firmware,
                           const QByteArray& bootloader, const QByteArray& partitions,
                           const QByteArray& bootApp, const QByteArray& stub, bool fullFlash,
                           bool eraseAll, const std::optional<QString>& expectedVersion,
-                          ProgressHandler progress, LogHandler log);
+                          ProgressHandler progress, LogHandler log,
+                          StartupReport* startup = nullptr);
+
+/// Listens to the machine on `port` after a restart, asks it to replay its
+/// start-up messages and for its version, within `timeoutMs`, and fills `startup`.
+/// Returns the library's result: 0, or 2 when the port could not be opened (which
+/// `log` hears about).
+esp_error_t checkStartup(const QString& port, const std::optional<QString>& expectedVersion,
+                         int timeoutMs, StartupReport* startup, LogHandler log);
 
 /// Uploads a configuration file's bytes; returns the library's result unchanged.
 esp_error_t uploadConfig(const QString& port, const QByteArray& configData,

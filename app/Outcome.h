@@ -3,9 +3,11 @@
 #include <QString>
 #include <QStringList>
 #include <cstdint>
+#include <optional>
 #include <variant>
 
 #include "app/Backup.h"
+#include "app/Checklist.h"
 #include "esp_flasher.h"
 
 /// Why reading a file from the machine failed, as the library tells it.
@@ -16,9 +18,47 @@ struct DownloadCause {
     friend bool operator==(const DownloadCause&, const DownloadCause&) = default;
 };
 
+/// Why a port cannot be used, as the library's port check finds it (esp_check_port).
+struct PortCause {
+    QString path;
+    int problem = ESP_PORT_OK;  ///< enum esp_port_problem
+    int error = 0;              ///< the errno behind it
+    // The node's access, filled whenever the node exists.
+    QString owner;
+    QString group;
+    unsigned mode = 0;           ///< permission bits, e.g. 0660
+    QString user;                ///< the user this program runs as
+    bool userInGroup = false;    ///< the account database puts the user in `group`
+    bool groupInEffect = false;  ///< this process has `group` (false until a new login)
+    int holderPid = 0;           ///< for a port in use: the other program, 0 when unnamed
+    QString holderName;
+
+    friend bool operator==(const PortCause&, const PortCause&) = default;
+};
+
+/// How the machine started after a write, from what it printed (see
+/// `esp_startup_verdict`).
+struct StartupCause {
+    int verdict = ESP_STARTUP_NO_ANSWER;  ///< enum esp_startup_verdict
+    std::optional<QString> version;       ///< the version it answered
+    std::optional<QString> expected;      ///< the version that was written, when known
+    /// What was written: firmware, or a configuration (the machine restarted with it).
+    enum class Written { firmware, configuration } written = Written::firmware;
+
+    friend bool operator==(const StartupCause&, const StartupCause&) = default;
+};
+
+/// The verdict's name in machine-readable output: "running", "wrong-version",
+/// "boot-loop", "panic", "no-app", "brownout", "config-error" or "no-answer".
+QString verdictName(int verdict);
+/// The verdict of such a name; none for any other text.
+std::optional<int> verdictNamed(const QString& name);
+
 /// What is known, as data, about why an operation ended as it did (or what it
-/// found); empty where the kind alone tells.
-using Cause = std::variant<std::monostate, DownloadCause, BackupListing>;
+/// found); empty where the kind alone tells. A connection check carries its whole
+/// checklist; a listing of backups, the backups found.
+using Cause =
+    std::variant<std::monostate, DownloadCause, PortCause, Checklist, StartupCause, BackupListing>;
 
 /// How an operation ended. Created where the result is known and carried
 /// unchanged to the window and to the command line, which present it; neither
@@ -35,6 +75,11 @@ struct Outcome {
         missingResource,   ///< something it needs is missing from the resources folder
         notWritten,        ///< a file on this computer could not be written
         busy,              ///< another operation was still running
+        notConfirmed,      ///< written and verified, but the machine did not confirm it runs
+        notStarting,       ///< written and verified, but the machine does not start
+        configRejected,    ///< the machine runs but rejects its configuration
+        portUnusable,      ///< the port cannot be used; `cause` is a PortCause
+        notReady,          ///< the connection check found no plotter ready to use
         noBackup,          ///< the backup to restore was not found
     };
 
@@ -60,4 +105,8 @@ struct Outcome {
     bool isFailure() const {
         return kind != Kind::succeeded && kind != Kind::differs && kind != Kind::noPartitionTable;
     }
+
+    /// True when the write itself succeeded and the outcome tells how the machine
+    /// started afterwards (a `StartupCause`), whatever that was.
+    bool isVerdict() const { return std::holds_alternative<StartupCause>(cause); }
 };

@@ -32,13 +32,18 @@ void PublishedState::enterPhase(Phase phase) {
         case Phase::writingFirmware:
             return assignState(UpdateState::flashing(0.0f));
         case Phase::firmwareWritten:
-            return assignState(UpdateState::flashComplete());
+            written_ = UpdateState::flashComplete();
+            return assignState(written_);
         case Phase::uploadingConfig:
             return assignState(UpdateState::uploadingConfig(0.0f));
         case Phase::configUploaded:
-            return assignState(UpdateState::configComplete());
+            written_ = UpdateState::configComplete();
+            return assignState(written_);
         case Phase::readingConfig:
             return assignState(UpdateState::downloadingConfig());
+        case Phase::checkingStartup:
+            assignState(UpdateState::checkingStartup());
+            return assignStatus(Texts::checkingStartup());
     }
 }
 
@@ -64,9 +69,26 @@ void PublishedState::showFailure(const Outcome& outcome) {
     assignStatus(outcome.message);
 }
 
+void PublishedState::showVerdict(const Outcome& outcome) {
+    if (outcome.isFailure()) {
+        appendLog(LogEntry::error(outcome.message));
+        for (const QString& line : outcome.evidence) {
+            appendLog(LogEntry::info(QStringLiteral("  ") + line));
+        }
+    }
+    if (state_.kind() == UpdateState::Kind::checkingStartup) {
+        assignState(written_);
+    }
+}
+
 void PublishedState::settle(const QString& status) {
     assignState(UpdateState::ready());
     assignStatus(status);
+}
+
+void PublishedState::assignResult(std::optional<Outcome> result) {
+    result_ = std::move(result);
+    emit resultChanged(result_);
 }
 
 void PublishedState::post(const LogEntry& entry) {

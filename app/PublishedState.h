@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 #include "app/LogEntry.h"
 #include "app/Outcome.h"
@@ -33,6 +34,8 @@ class PublishedState : public QObject {
     const LogEntries& log() const { return log_; }
     /// The log as its lines are shown.
     QStringList logMessages() const;
+    /// How the last job ended; none while a job runs and before the first one.
+    const std::optional<Outcome>& result() const { return result_; }
 
     /// Appends a line to the log, asynchronously on the GUI thread, in call order;
     /// callable from any thread.
@@ -43,6 +46,8 @@ class PublishedState : public QObject {
     void progressChanged(float progress);
     void statusMessageChanged(const QString& statusMessage);
     void logChanged(const LogEntries& log);
+    /// A job has ended (an outcome) or started (none).
+    void resultChanged(const std::optional<Outcome>& result);
 
   protected:
     /// Follows the monitor while nothing runs: `ready` and "Device connected", or
@@ -55,9 +60,14 @@ class PublishedState : public QObject {
     void showProgress(float fraction, const QString& stage);
     /// A failure: the error line, the `error` state and the message as the status.
     void showFailure(const Outcome& outcome);
+    /// How the machine started after a write: the write's state stays (or comes back
+    /// after the check); a machine that does not run what was written adds the
+    /// message as an error and the machine's own lines to the log.
+    void showVerdict(const Outcome& outcome);
     /// `ready` with `status`, after an operation that leaves no state of its own.
     void settle(const QString& status);
 
+    void assignResult(std::optional<Outcome> result);
     void post(const LogEntry& entry);
     void appendLog(const LogEntry& entry);
     void clearLog();
@@ -71,5 +81,7 @@ class PublishedState : public QObject {
     float progress_ = 0.0f;
     QString statusMessage_;
     LogEntries log_;
+    std::optional<Outcome> result_;
     Phase phase_ = Phase::writingFirmware;
+    UpdateState written_ = UpdateState::flashComplete();  // the state a write ended in
 };

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "app/BuildConfig.h"
+
 namespace {
 
 constexpr uint32_t kPartitionTableOffset = 0x8000;
@@ -34,6 +36,11 @@ void setPace(sim::Config& config, SimulatedPace pace) {
 std::unique_ptr<sim::PtyPlotter> startSimulatedPlotter(const ResourceBundle& resources,
                                                        SimulatedPace pace, sim::Config config) {
     setPace(config, pace);
+    // The development image stands in for the bundled firmware, so a simulated
+    // plotter that was updated reports the version the updater expects.
+    if (!config.versionAfterUpdate) {
+        config.versionAfterUpdate = BuildConfig::firmwareVersion().toStdString();
+    }
     auto plotter = std::make_unique<sim::PtyPlotter>(config);
     if (const auto table = resources.read(QStringLiteral("partitions"), QStringLiteral("bin"))) {
         const std::vector<uint8_t> bytes(table->begin(), table->end());

@@ -18,6 +18,8 @@ enum class SimulatedPace {
 /// one. It starts from `config` (a healthy plotter by default) with the pauses of
 /// `pace`; its flash holds the partition table of `resources` when they have one,
 /// as a plotter that was updated before. Throws std::system_error when no
-/// pseudo-terminal can be had.
+/// pseudo-terminal can be had. Once updated it reports the bundled firmware's
+/// version, for which the development image stands in, unless `config` names
+/// another.
 std::unique_ptr<sim::PtyPlotter> startSimulatedPlotter(const ResourceBundle& resources,
                                                        SimulatedPace pace, sim::Config config = {});

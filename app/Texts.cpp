@@ -94,10 +94,14 @@ QString firmwareComplete() {
     return QStringLiteral("Firmware update complete.");
 }
 
-QString flashErasedNote() {
-    return QStringLiteral(
-        "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for "
-        "your machine.");
+QString flashErasedNote(Audience audience) {
+    return audience == Audience::window
+               ? QStringLiteral(
+                     "NOTE: Flash was erased. Use Config > Update Config to upload the "
+                     "configuration for your machine.")
+               : QStringLiteral(
+                     "NOTE: Flash was erased. Run teskal-flash upload-config to upload the "
+                     "configuration for your machine.");
 }
 
 QString firmwareLabel(const QString& version) {
@@ -266,6 +270,138 @@ QString plottersConnected(qsizetype count) {
                       : QStringLiteral("%1 plotters connected").arg(count);
 }
 
+QString checkingStartup() {
+    return QStringLiteral("Checking that the machine starts…");
+}
+
+namespace {
+
+// A plotter owner's words for why the machine does not start.
+QString notStartingBecause(int verdict) {
+    switch (verdict) {
+        case ESP_STARTUP_BOOT_LOOP:
+            return QStringLiteral("it restarts in a loop.");
+        case ESP_STARTUP_PANIC:
+            return QStringLiteral("it crashed at start-up.");
+        case ESP_STARTUP_NO_APP:
+            return QStringLiteral("it finds no firmware to start.");
+        default:
+            return QStringLiteral("its power supply is too weak.");
+    }
+}
+
+QString firmwareStartup(const StartupCause& cause) {
+    const QString version = cause.version.value_or(cause.expected.value_or(QString()));
+    switch (cause.verdict) {
+        case ESP_STARTUP_RUNNING:
+            return version.isEmpty()
+                       ? QStringLiteral("Firmware installed and running.")
+                       : QStringLiteral("Firmware %1 installed and running.").arg(version);
+        case ESP_STARTUP_WRONG_VERSION:
+            return QStringLiteral(
+                       "Firmware written and verified, but the machine reports version %1, not %2.")
+                .arg(cause.version.value_or(QString()), cause.expected.value_or(QString()));
+        case ESP_STARTUP_NO_ANSWER:
+            return QStringLiteral(
+                "Firmware written and verified, but the machine did not answer to confirm that it "
+                "runs.");
+        case ESP_STARTUP_CONFIG_ERROR:
+            return QStringLiteral("The machine rejected its configuration:");
+        default:
+            return QStringLiteral("Firmware written, but the machine does not start: ") +
+                   notStartingBecause(cause.verdict);
+    }
+}
+
+QString configurationStartup(const StartupCause& cause) {
+    switch (cause.verdict) {
+        case ESP_STARTUP_RUNNING:
+        case ESP_STARTUP_WRONG_VERSION:
+            return QStringLiteral("Configuration uploaded; the machine restarted with it.");
+        case ESP_STARTUP_NO_ANSWER:
+            return QStringLiteral(
+                "Configuration uploaded, but the machine did not answer after its restart.");
+        case ESP_STARTUP_CONFIG_ERROR:
+            return QStringLiteral("The machine rejected its configuration:");
+        default:
+            return QStringLiteral("Configuration uploaded, but the machine does not start: ") +
+                   notStartingBecause(cause.verdict);
+    }
+}
+
+QString startupNextStep(const StartupCause& cause, Audience audience) {
+    const bool window = audience == Audience::window;
+    switch (cause.verdict) {
+        case ESP_STARTUP_RUNNING:
+            return QString();
+        case ESP_STARTUP_BROWNOUT:
+            return QStringLiteral(
+                "Plug in the machine's own power supply (USB power is not enough), then try "
+                "again.");
+        case ESP_STARTUP_CONFIG_ERROR:
+            return window ? QStringLiteral(
+                                "Correct the configuration and upload it again, or upload a "
+                                "product's configuration from Config > Update Config.")
+                          : QStringLiteral(
+                                "Correct the configuration and run teskal-flash upload-config "
+                                "again, or upload a product's with --product NAME.");
+        case ESP_STARTUP_WRONG_VERSION:
+            return window ? QStringLiteral("Run the update again.")
+                          : QStringLiteral("Run teskal-flash flash again.");
+        case ESP_STARTUP_NO_ANSWER:
+            return window ? QStringLiteral(
+                                "Check that the machine is switched on and connected; if it still "
+                                "does not answer, run the update again.")
+                          : QStringLiteral(
+                                "Check that the machine is switched on and connected, then run "
+                                "teskal-flash version.");
+        default:
+            return window ? QStringLiteral(
+                                "Run the update again with Options > Erase All Flash. If it "
+                                "keeps happening, save the log (File > Save Log…) for support.")
+                          : QStringLiteral(
+                                "Run teskal-flash flash --erase-all. If it keeps happening, keep "
+                                "this output for support.");
+    }
+}
+
+QString failureNextStep(esp_error_t code) {
+    switch (code) {
+        case 2:
+            return QStringLiteral(
+                "Close any other program that uses the port, unplug and reconnect the machine, "
+                "and try again.");
+        case 3:
+        case 9:
+        case 10:
+            return QStringLiteral("Unplug the machine, plug it in again, and try again.");
+        case 4:
+            return QStringLiteral(
+                "This controller cannot take this firmware; contact support before trying again.");
+        case 5:
+        case 6:
+        case 7:
+        case 8:
+            return QStringLiteral("Try again; if it fails again, use another USB cable or port.");
+        default:
+            return QString();
+    }
+}
+
+}  // namespace
+
+QString startupMessage(const StartupCause& cause) {
+    return cause.written == StartupCause::Written::firmware ? firmwareStartup(cause)
+                                                            : configurationStartup(cause);
+}
+
+QString nextStep(const Outcome& outcome, Audience audience) {
+    if (const auto* startup = std::get_if<StartupCause>(&outcome.cause)) {
+        return startupNextStep(*startup, audience);
+    }
+    return outcome.kind == Outcome::Kind::failed ? failureNextStep(outcome.code) : QString();
+}
+
 namespace {
 
 QString thousands(qint64 value) {
@@ -344,6 +480,219 @@ QString filesRefused(qsizetype refused, qsizetype total) {
 
 QString simulatorNotStarted(const QString& reason) {
     return QStringLiteral("Could not start the simulated plotter: ") + reason;
+}
+
+QString ruleInWindow() {
+    return QStringLiteral("Connection Check");
+}
+
+QString ruleOnCommandLine() {
+    return QStringLiteral("teskal-flash doctor");
+}
+
+namespace {
+
+// Joining the group helps only when the node's mode lets its group read and write,
+// and never for root's group.
+bool groupWouldHelp(const PortCause& cause) {
+    return !cause.group.isEmpty() && cause.group != QLatin1String("root") &&
+           (cause.mode & 0060) == 0060;
+}
+
+QString permissionProblem(const PortCause& cause) {
+    if (groupWouldHelp(cause)) {
+        return QStringLiteral("Permission denied on %1 (group %2).").arg(cause.path, cause.group);
+    }
+    if (!cause.owner.isEmpty()) {
+        return QStringLiteral("Permission denied on %1 (owner %2, mode %3).")
+            .arg(cause.path, cause.owner)
+            .arg(cause.mode, 4, 8, QLatin1Char('0'));
+    }
+    return QStringLiteral("Permission denied on %1.").arg(cause.path);
+}
+
+QString permissionFix(const PortCause& cause, const QString& rule) {
+    if (!groupWouldHelp(cause)) {
+        return QStringLiteral("Install the permission rule (%1).").arg(rule);
+    }
+    if (cause.userInGroup && !cause.groupInEffect) {
+        return QStringLiteral(
+                   "You are in the group %1, but this session began before you joined it: log "
+                   "out and in again.")
+            .arg(cause.group);
+    }
+    return QStringLiteral(
+               "Install the permission rule (%1), or join the group: sudo usermod -aG %2 $USER, "
+               "then log out and in again.")
+        .arg(rule, cause.group);
+}
+
+}  // namespace
+
+QString portProblem(const PortCause& cause) {
+    switch (cause.problem) {
+        case ESP_PORT_MISSING:
+            return QStringLiteral("%1 does not exist.").arg(cause.path);
+        case ESP_PORT_NOT_SERIAL:
+            return QStringLiteral("%1 is not a serial port.").arg(cause.path);
+        case ESP_PORT_PERMISSION:
+            return permissionProblem(cause);
+        case ESP_PORT_HELD:
+            return cause.holderPid > 0
+                       ? QStringLiteral("%1 is in use by %2 (pid %3).")
+                             .arg(cause.path, cause.holderName)
+                             .arg(cause.holderPid)
+                       : QStringLiteral("%1 is in use by another program.").arg(cause.path);
+        case ESP_PORT_UNPLUGGED:
+            return QStringLiteral("%1 does not answer: its device has gone.").arg(cause.path);
+        default:
+            return QStringLiteral("%1 can be used.").arg(cause.path);
+    }
+}
+
+QString portFix(const PortCause& cause, const QString& rule) {
+    switch (cause.problem) {
+        case ESP_PORT_MISSING:
+            return QStringLiteral("Plug the plotter in, or name another port.");
+        case ESP_PORT_NOT_SERIAL:
+            return QStringLiteral("Name the plotter's port, for example /dev/ttyACM0.");
+        case ESP_PORT_PERMISSION:
+            return permissionFix(cause, rule);
+        case ESP_PORT_HELD:
+            return cause.holderPid > 0 ? QStringLiteral("Close that program and try again.")
+                                       : QStringLiteral("Close it and try again.");
+        case ESP_PORT_UNPLUGGED:
+            return QStringLiteral("Unplug the plotter, plug it in again and try again.");
+        default:
+            return QString();
+    }
+}
+
+QString portUnusable(const PortCause& cause, const QString& rule) {
+    const QString fix = portFix(cause, rule);
+    return fix.isEmpty() ? portProblem(cause) : portProblem(cause) + QLatin1Char(' ') + fix;
+}
+
+QString plotterSeen(const QString& serial) {
+    return serial.isEmpty()
+               ? QStringLiteral("Plotter seen on USB (303a:1001).")
+               : QStringLiteral("Plotter seen on USB (303a:1001, serial %1).").arg(serial);
+}
+
+QString noPlotterSeen() {
+    return QStringLiteral("No plotter seen on USB.");
+}
+
+QString noPlotterFix() {
+    return QStringLiteral(
+        "Switch it on, try another USB port, and use a cable that carries data: some cables "
+        "only charge.");
+}
+
+QString portMade(const QString& path, const QString& driver) {
+    return QStringLiteral("Serial port %1 made for it by %2.").arg(path, driver);
+}
+
+QString noDriver() {
+    return QStringLiteral("No serial port made for it: the kernel's cdc_acm driver is missing.");
+}
+
+QString noDriverFix() {
+    return QStringLiteral(
+        "Install your system's extra kernel modules, or load the driver: sudo modprobe cdc_acm");
+}
+
+QString noNode() {
+    return QStringLiteral("No serial port made for it yet.");
+}
+
+QString noNodeFix() {
+    return QStringLiteral(
+        "Wait a moment; if it stays so, unplug the plotter and plug it in again.");
+}
+
+QString mayOpen(const QString& path) {
+    return QStringLiteral("You may open %1.").arg(path);
+}
+
+QString notHeld(const QString& path) {
+    return QStringLiteral("No other program is using %1.").arg(path);
+}
+
+QString otherPlotter(const QString& serial, const QString& path) {
+    const QString where = path.isEmpty() ? QStringLiteral("without a port") : path;
+    return serial.isEmpty() ? QStringLiteral("Another plotter: %1.").arg(where)
+                            : QStringLiteral("Another plotter (serial %1): %2.").arg(serial, where);
+}
+
+QString otherDevice(uint16_t vendorId, uint16_t productId, const QString& product,
+                    const QString& driver, const QString& path) {
+    QString device = QStringLiteral("%1:%2")
+                         .arg(vendorId, 4, 16, QLatin1Char('0'))
+                         .arg(productId, 4, 16, QLatin1Char('0'));
+    if (!product.isEmpty()) {
+        device += QLatin1Char(' ') + product;
+    }
+    if (!driver.isEmpty()) {
+        device += QStringLiteral(" (%1)").arg(driver);
+    }
+    return QStringLiteral("Not a plotter: %1 on %2.").arg(device, path);
+}
+
+QString portReady(const QString& path) {
+    return QStringLiteral("Ready: the plotter on %1 can be used.").arg(path);
+}
+
+QString noPlotterReady() {
+    return QStringLiteral("No plotter is ready to use.");
+}
+
+QString doctorPointer() {
+    return QStringLiteral("Run teskal-flash doctor to see why.");
+}
+
+QString ruleBelow() {
+    return QStringLiteral("button below");
+}
+
+QString ruleHelperCommand(const QString& program, const QString& helper) {
+    return program + QLatin1Char(' ') + helper;
+}
+
+QString ruleByHand(const QString& ruleFile) {
+    return QStringLiteral(
+               "sudo cp %1 /etc/udev/rules.d/ && sudo udevadm control --reload && sudo udevadm "
+               "trigger")
+        .arg(ruleFile);
+}
+
+QString ruleShipped() {
+    return QStringLiteral("60-teskal-firmware-updater.rules in /etc/udev/rules.d");
+}
+
+QString plotterNotFound() {
+    return QStringLiteral("Plotter not found?");
+}
+
+QString connectionCheck() {
+    return QStringLiteral("Connection Check");
+}
+
+QString connectionCheckIntro() {
+    return QStringLiteral(
+        "Checked again every second. This window closes once the plotter can be used.");
+}
+
+QString installRule() {
+    return QStringLiteral("Install Permission Rule…");
+}
+
+QString installRuleByHand(const QString& command) {
+    return QStringLiteral("pkexec or the rule's installer is missing. Run by hand: ") + command;
+}
+
+QString ruleInstallerNotStarted() {
+    return QStringLiteral("The permission rule's installer could not be started.");
 }
 
 QString endedWithoutResult() {

@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QString>
 #include <QtGlobal>
+#include <cstdint>
 
 #include "app/Backup.h"
 #include "app/Outcome.h"
@@ -11,6 +12,10 @@
 /// Every owner-facing text of the window and the command line, in one place.
 /// Arguments are inserted where the text names them. Pure functions; any thread.
 namespace Texts {
+
+/// Who reads a text that names what to do: the window's owner (its menus) or
+/// teskal-flash's (its commands and options).
+enum class Audience { window, commandLine };
 
 /// "PROGRAM VERSION, built DATE, bundled firmware FIRMWARE".
 QString programVersion(const QString& program, const QString& version, const QString& buildDate,
@@ -31,10 +36,11 @@ QString shippedMissing();                         ///< "Bundled firmware not fou
 QString checkingDevice();                         ///< "Checking device status…"
 QString deviceNotResponding();
 QString deviceRunning(const QString& version);
-QString stubMissing();                          ///< "Flash stub not found in bundle"
-QString bootImagesMissing();                    ///< "Missing bootloader resources for full flash"
-QString firmwareComplete();                     ///< "Firmware update complete."
-QString flashErasedNote();                      ///< the NOTE after an erase
+QString stubMissing();        ///< "Flash stub not found in bundle"
+QString bootImagesMissing();  ///< "Missing bootloader resources for full flash"
+QString firmwareComplete();   ///< "Firmware update complete."
+/// The NOTE after an erase; the window's names Config > Update Config.
+QString flashErasedNote(Audience audience = Audience::window);
 QString firmwareLabel(const QString& version);  ///< "Firmware version VERSION"
 QString usingShipped();                         ///< "Using bundled firmware"
 
@@ -77,6 +83,15 @@ QString partitionTablePresent();
 QString partitionTableAbsent();
 QString plottersConnected(qsizetype count);
 
+// How the machine started after a write.
+QString checkingStartup();  ///< the status while the machine is listened to
+/// The outcome's message for `cause`: "Firmware 2.10.6 installed and running.",
+/// "Firmware written, but the machine does not start: it restarts in a loop.", …
+QString startupMessage(const StartupCause& cause);
+/// What to do next about `outcome`, in `audience`'s words; empty when there is
+/// nothing to add to its message.
+QString nextStep(const Outcome& outcome, Audience audience);
+
 // The inspection report of a file, line by line.
 QString reportSize(qint64 bytes);                     ///< "  size: N bytes"
 QString reportSha256(const QString& hex);             ///< "  SHA-256: HEX"
@@ -96,6 +111,48 @@ QString neitherImageNorConfig(const QString& fileName);
 QString allFilesPass();
 QString filesRefused(qsizetype refused, qsizetype total);
 QString simulatorNotStarted(const QString& reason);
+
+// A port that cannot be used. `rule` says where the permission rule comes from, in
+// the window "Connection Check", on the command line "teskal-flash doctor".
+QString ruleInWindow();       ///< "Connection Check"
+QString ruleOnCommandLine();  ///< "teskal-flash doctor"
+/// What is wrong, one sentence: "Permission denied on PATH (group G).", "PATH does
+/// not exist.", "PATH is not a serial port.", "PATH is in use by NAME (pid N)." ...
+QString portProblem(const PortCause& cause);
+/// What fixes it, one or two sentences.
+QString portFix(const PortCause& cause, const QString& rule);
+/// The problem and its fix, as an outcome's message.
+QString portUnusable(const PortCause& cause, const QString& rule);
+
+// The connection check's lines.
+QString plotterSeen(const QString& serial);  ///< "Plotter seen on USB (303a:1001, serial S)."
+QString noPlotterSeen();                     ///< "No plotter seen on USB."
+QString noPlotterFix();                      ///< switch it on, another port, a data cable
+QString portMade(const QString& path, const QString& driver);
+QString noDriver();  ///< no port made: the kernel's cdc_acm driver is missing
+QString noDriverFix();
+QString noNode();  ///< the driver is there, the node is not (yet)
+QString noNodeFix();
+QString mayOpen(const QString& path);  ///< "You may open PATH."
+QString notHeld(const QString& path);  ///< "No other program is using PATH."
+QString otherPlotter(const QString& serial, const QString& path);
+QString otherDevice(uint16_t vendorId, uint16_t productId, const QString& product,
+                    const QString& driver, const QString& path);
+QString portReady(const QString& path);  ///< "Ready: the plotter on PATH can be used."
+QString noPlotterReady();                ///< "No plotter is ready to use."
+QString doctorPointer();                 ///< "Run teskal-flash doctor to see why."
+QString ruleBelow();                     ///< "button below", the window's rule
+QString ruleHelperCommand(const QString& program, const QString& helper);
+QString ruleByHand(const QString& ruleFile);
+QString ruleShipped();  ///< the rule's name, when no installed copy is found
+
+// The Connection Check window.
+QString plotterNotFound();                          ///< "Plotter not found?"
+QString connectionCheck();                          ///< "Connection Check"
+QString connectionCheckIntro();                     ///< checked every second, closes when ready
+QString installRule();                              ///< "Install Permission Rule…"
+QString installRuleByHand(const QString& command);  ///< the button's tooltip without pkexec
+QString ruleInstallerNotStarted();
 
 // Several plotters at once, one process each.
 QString endedWithoutResult();  ///< "ended without a result"

@@ -23,8 +23,11 @@ UpdateController::UpdateController(ResourceBundle resources, DeviceMonitor::Dete
     : PublishedState(parent),
       resources_(std::move(resources)),
       developmentImages_(developmentImages),
-      monitor_(new DeviceMonitor(std::move(detector), this)) {
+      monitor_(new DeviceMonitor(std::move(detector), this)),
+      connectionHint_(new ConnectionHint(statusMessage(), ConnectionHint::kPatienceMs, this)) {
     monitor_->startPolling();
+    connect(this, &UpdateController::statusMessageChanged, connectionHint_,
+            &ConnectionHint::followStatus);
     connect(monitor_, &DeviceMonitor::isConnectedChanged, this, &UpdateController::followConnection,
             Qt::QueuedConnection);
     connect(&runner_, &OperationRunner::phaseEntered, this, &UpdateController::enterPhase);
@@ -216,9 +219,11 @@ void UpdateController::start(std::shared_ptr<Operation> operation, Then then, Th
     if (log == Log::fresh) {
         clearLog();
     }
+    assignResult(std::nullopt);
     then_ = std::move(then);
     otherwise_ = std::move(otherwise);
     runner_.start(std::move(operation));
+    connectionHint_->jobStarted();
     emit jobRunningChanged(true);
 }
 
@@ -230,7 +235,9 @@ void UpdateController::showLibraryLine(const QString& line) {
 
 void UpdateController::finish(const Outcome& outcome) {
     Then next;
-    if (outcome.isFailure()) {
+    if (outcome.isVerdict()) {
+        showVerdict(outcome);
+    } else if (outcome.isFailure()) {
         showFailure(outcome);
         next = std::move(otherwise_);
     } else if (then_) {
@@ -238,6 +245,8 @@ void UpdateController::finish(const Outcome& outcome) {
     }
     then_ = {};
     otherwise_ = {};
+    assignResult(outcome);
+    connectionHint_->jobEnded(outcome);
     emit jobRunningChanged(false);
     // Asked from the event loop, once the runner is free for the job it may start.
     if (next) {

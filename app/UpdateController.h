@@ -12,6 +12,7 @@
 #include "app/Backup.h"
 #include "app/ConfigChoice.h"
 #include "app/ConfigDiff.h"
+#include "app/ConnectionHint.h"
 #include "app/DeviceMonitor.h"
 #include "app/FirmwareCheck.h"
 #include "app/PublishedState.h"
@@ -74,6 +75,8 @@ class UpdateController : public PublishedState {
 
     /// Owned by the controller for its whole life.
     DeviceMonitor* deviceMonitor() const { return monitor_; }
+    /// When to offer the Connection Check; owned by the controller.
+    ConnectionHint* connectionHint() const { return connectionHint_; }
 
     /// The questions "Update Firmware" asks when Erase All Flash is set; the window
     /// installs its dialogs.
@@ -152,6 +155,7 @@ class UpdateController : public PublishedState {
     const ResourceBundle resources_;
     const DevelopmentImages developmentImages_;
     DeviceMonitor* monitor_;
+    ConnectionHint* connectionHint_;
     mutable QMutex customFirmwareMutex_;
     QUrl customFirmwareURL_;
     std::atomic<bool> detailedLogging_ = false;

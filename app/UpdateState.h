@@ -3,7 +3,7 @@
 #include <QMetaType>
 #include <QString>
 
-/// The update controller's state: one of eight cases, two of which carry a
+/// The update controller's state: one of nine cases, two of which carry a
 /// progress fraction and one an error message. A plain value, copied freely.
 class UpdateState {
     Q_GADGET
@@ -17,6 +17,7 @@ class UpdateState {
         idle,
         ready,
         downloadingConfig,  ///< the machine's config.yaml is being read
+        checkingStartup,    ///< the machine restarts after a write and is listened to
         flashComplete,
         configComplete,
     };
@@ -33,6 +34,7 @@ class UpdateState {
     static UpdateState idle() { return {Kind::idle, 0.0f, {}}; }
     static UpdateState ready() { return {Kind::ready, 0.0f, {}}; }
     static UpdateState downloadingConfig() { return {Kind::downloadingConfig, 0.0f, {}}; }
+    static UpdateState checkingStartup() { return {Kind::checkingStartup, 0.0f, {}}; }
     static UpdateState flashComplete() { return {Kind::flashComplete, 0.0f, {}}; }
     static UpdateState configComplete() { return {Kind::configComplete, 0.0f, {}}; }
 

@@ -1,8 +1,10 @@
 // Cost of one device poll: esp_detect_device runs four times a second on the GUI
-// thread. The fake tree has 64 tty entries shaped like a desktop's: virtual
-// consoles without a device link, platform UARTs without USB ids, foreign USB
-// adapters behind a hub, and two matching controllers.
+// thread; and of the Connection Check's pass, once a second. The fake tree has 64 tty entries
+// shaped like a desktop's: virtual consoles without a device link, platform UARTs without USB ids,
+// foreign USB adapters behind a hub, and two matching controllers.
 #include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <cstring>
@@ -98,6 +100,36 @@ void BM_DetectDeviceOnThisMachine(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_DetectDeviceOnThisMachine)->Unit(benchmark::kMicrosecond);
+
+// The Connection Check's two library calls, which it repeats once a second on the
+// GUI thread: the survey of this machine's USB serial devices, and the look at a
+// port (stat, the account database, /proc/tty/drivers and the scan of every
+// process's descriptors for a holder) on a free pseudo-terminal.
+void BM_SurveyUsbSerialOnThisMachine(benchmark::State& state) {
+    esp_usb_serial_device devices[16];
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(esp_survey_usb_serial(nullptr, nullptr, devices, 16));
+    }
+}
+BENCHMARK(BM_SurveyUsbSerialOnThisMachine)->Unit(benchmark::kMicrosecond);
+
+void BM_CheckPortLook(benchmark::State& state) {
+    const int master = ::posix_openpt(O_RDWR | O_NOCTTY);
+    if (master < 0 || ::grantpt(master) != 0 || ::unlockpt(master) != 0) {
+        state.SkipWithError("no pseudo-terminal");
+        return;
+    }
+    const std::string port = ::ptsname(master);
+    esp_port_check check{};
+    for (auto _ : state) {
+        if (esp_check_port(port.c_str(), ESP_PROBE_LOOK, &check) != ESP_PORT_OK) {
+            state.SkipWithError("the free pseudo-terminal was found unusable");
+            break;
+        }
+    }
+    ::close(master);
+}
+BENCHMARK(BM_CheckPortLook)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 

@@ -21,6 +21,7 @@ struct CommonOptions {
     bool verbose = false;            ///< --verbose
     bool json = false;               ///< --json
     int simulated = 0;               ///< --sim N; 0 without it
+    std::string simStartup;          ///< --sim-startup NAME; empty: healthy
 };
 
 /// Where and with what a command runs.

@@ -5,6 +5,7 @@
 #include "app/BuildConfig.h"
 #include "app/Texts.h"
 #include "cli/Commands.h"
+#include "sim/Startup.h"
 
 namespace {
 
@@ -52,6 +53,22 @@ class HelpFormatter : public CLI::Formatter {
         return out.str();
     }
 };
+
+std::vector<std::string> startupNameList() {
+    std::vector<std::string> names;
+    for (const sim::Startup startup : sim::kStartups) {
+        names.emplace_back(sim::startupName(startup));
+    }
+    return names;
+}
+
+std::string startupNames() {
+    std::string joined;
+    for (const std::string& name : startupNameList()) {
+        joined += (joined.empty() ? "" : ", ") + name;
+    }
+    return joined;
+}
 
 std::string exitStatusFooter(const Command& command) {
     QString footer = QStringLiteral("Exit status:\n");
@@ -128,6 +145,12 @@ void CommandLine::addCommonOptions(CLI::App& subcommand, const Command& command)
         ->default_str("1")
         ->check(CLI::Range(1, kMostSimulated).description(""))
         ->type_name("[N]");
+    subcommand
+        .add_option("--sim-startup", options_.simStartup,
+                    "How the simulated plotters start after a write: " + startupNames() +
+                        " (default healthy)")
+        ->check(CLI::IsMember(startupNameList()).description(""))
+        ->type_name("NAME");
 }
 
 std::variant<const Command*, int> CommandLine::parse(int argc, char** argv) {

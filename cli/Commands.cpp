@@ -10,6 +10,7 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
     commands.push_back(makeFileReportCommand());
     commands.push_back(makeSaveConfigCommand());
     commands.push_back(makeDiffConfigCommand());
+    commands.push_back(makeDoctorCommand());
     commands.push_back(makeBackupsCommand());
     commands.push_back(makeRestoreConfigCommand());
     return commands;

@@ -13,6 +13,7 @@ std::unique_ptr<Command> makeProbeCommand();
 std::unique_ptr<Command> makeFileReportCommand();
 std::unique_ptr<Command> makeSaveConfigCommand();
 std::unique_ptr<Command> makeDiffConfigCommand();
+std::unique_ptr<Command> makeDoctorCommand();
 std::unique_ptr<Command> makeBackupsCommand();
 std::unique_ptr<Command> makeRestoreConfigCommand();
 

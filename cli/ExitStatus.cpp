@@ -14,10 +14,16 @@ struct Row {
     const char* meaning;
 };
 
+constexpr const char* kPortUnusable =
+    "the port cannot be used (missing, not a serial port, not permitted, in use) or could not "
+    "be opened";
+
 // The one table. A library failure keeps the library's code as its status.
 constexpr Row kTable[] = {
     {1, Kind::noDevice, 0, "no plotter is connected"},
-    {2, Kind::failed, 2, "the port could not be opened"},
+    {1, Kind::notReady, 0, "no plotter is ready to use"},
+    {2, Kind::portUnusable, 0, kPortUnusable},
+    {2, Kind::failed, 2, kPortUnusable},
     {3, Kind::failed, 3, "no sync with the bootloader"},
     {4, Kind::failed, 4, "unexpected chip, or secure boot or flash encryption enabled"},
     {5, Kind::failed, 5, "the flasher stub did not start"},
@@ -25,8 +31,12 @@ constexpr Row kTable[] = {
     {7, Kind::failed, 7, "verification failed"},
     {8, Kind::failed, 8, "a configuration transfer with the machine failed (upload or download)"},
     {9, Kind::noAnswer, 0, "the machine did not answer"},
+    {10, Kind::notConfirmed, 0,
+     "written and verified, but the machine did not confirm that it runs it"},
     {11, Kind::refused, 0, "a file or image was refused before anything was sent"},
     {12, Kind::missingResource, 0, "an image or configuration is missing from the resources"},
+    {13, Kind::notStarting, 0, "written and verified, but the machine does not start"},
+    {14, Kind::configRejected, 0, "the machine reports errors in its configuration"},
     {15, Kind::noBackup, 0, "the backup to restore was not found"},
     {16, Kind::noPartitionTable, 0, "the plotter holds no valid partition table"},
     {17, Kind::notWritten, 0, "a file could not be written on this computer"},
@@ -34,6 +44,15 @@ constexpr Row kTable[] = {
     {crashed, Kind::failed, 0, "the command ended abnormally for a plotter"},
     {stopped, Kind::failed, 0, "stopped with Ctrl+C"},
 };
+
+QString meaningOf(Kind kind) {
+    for (const Row& row : kTable) {
+        if (row.kind == kind) {
+            return QString::fromUtf8(row.meaning);
+        }
+    }
+    return QString();
+}
 
 }  // namespace
 
@@ -76,6 +95,8 @@ QStringList help(const QList<int>& statuses, const QString& successMeaning, Conv
             text = QStringLiteral("different, as diff(1) reports it");
         } else if (convention == Convention::diff && status == 8) {
             text += QStringLiteral(" (also when no plotter is connected)");
+        } else if (convention == Convention::checklist && status == 1) {
+            text = meaningOf(Kind::notReady);
         }
         lines << QStringLiteral("%1 %2").arg(status, -2).arg(text);
     }

@@ -21,10 +21,10 @@ inline constexpr int usage = 64;
 /// Stopped with Ctrl+C (128 + SIGINT).
 inline constexpr int stopped = 130;
 
-/// How a command's statuses read: as everywhere, or as diff(1)'s, where 1 means
+/// How a command's statuses read: as everywhere; as diff(1)'s, where 1 means
 /// "different" and so no plotter is told as the configuration that could not be
-/// read (8).
-enum class Convention { table, diff };
+/// read (8); or as a checklist's, where 1 means that no plotter is ready to use.
+enum class Convention { table, diff, checklist };
 
 /// The status an outcome ends the program with.
 int of(const Outcome& outcome, Convention convention = Convention::table);

@@ -1,3 +1,4 @@
+#include "app/Texts.h"
 #include "app/operations/EraseKeepingSettings.h"
 #include "app/operations/FlashFirmware.h"
 #include "cli/Commands.h"
@@ -32,8 +33,12 @@ class FlashCommand : public Command {
         return command;
     }
 
-    QString successMeaning() const override { return QStringLiteral("written and verified"); }
-    QList<int> failureStatuses() const override { return {1, 2, 3, 4, 5, 6, 7, 8, 11, 12, 17}; }
+    QString successMeaning() const override {
+        return QStringLiteral("written, verified, and the machine runs it");
+    }
+    QList<int> failureStatuses() const override {
+        return {1, 2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14, 17};
+    }
     Ports ports() const override { return Ports::several; }
     bool writesFirmware() const override { return true; }
 
@@ -45,6 +50,7 @@ class FlashCommand : public Command {
         options.writeBootPartitions = full_;
         options.eraseAll = eraseAll_;
         options.developmentImages = context.developmentImages();
+        options.erasedNote = Texts::flashErasedNote(Texts::Audience::commandLine);
         if (!eraseAll_ || discardConfig_) {
             return std::make_shared<FlashFirmware>(context.portPath, context.resources, options);
         }

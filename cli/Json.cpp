@@ -30,7 +30,10 @@ QJsonObject progressObject(const event::Progress& progress) {
 QJsonObject resultObject(const event::Result& result) {
     QJsonObject object{
         {"type", "result"}, {"code", result.status}, {"message", result.outcome.message}};
-    if (!result.outcome.evidence.isEmpty()) {
+    if (const auto* startup = std::get_if<StartupCause>(&result.outcome.cause)) {
+        object.insert(QStringLiteral("machine"), verdictName(startup->verdict));
+    }
+    if (!result.outcome.evidence.isEmpty() || result.outcome.isVerdict()) {
         object.insert(QStringLiteral("evidence"),
                       QJsonArray::fromStringList(result.outcome.evidence));
     }
@@ -68,17 +71,45 @@ event::Result resultFrom(const QJsonObject& object) {
     for (const auto& line : object.value(QStringLiteral("evidence")).toArray()) {
         outcome.evidence << line.toString();
     }
+    // The machine's verdict decides the words of what to do next.
+    if (const auto verdict = verdictNamed(object.value(QStringLiteral("machine")).toString())) {
+        outcome.cause =
+            StartupCause{*verdict, std::nullopt, std::nullopt, StartupCause::Written::firmware};
+    }
     return {status, outcome};
+}
+
+QByteArray compact(const QString& port, QJsonObject object) {
+    if (!port.isEmpty()) {
+        object.insert(QStringLiteral("port"), port);
+    }
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+QString markName(CheckRow::Mark mark) {
+    switch (mark) {
+        case CheckRow::Mark::ok:
+            return QStringLiteral("ok");
+        case CheckRow::Mark::problem:
+            return QStringLiteral("problem");
+        case CheckRow::Mark::info:
+            break;
+    }
+    return QStringLiteral("info");
 }
 
 }  // namespace
 
 QByteArray toJsonLine(const QString& port, const Event& event) {
-    QJsonObject object = objectFor(event);
-    if (!port.isEmpty()) {
-        object.insert(QStringLiteral("port"), port);
+    return compact(port, objectFor(event));
+}
+
+QByteArray toJsonLine(const QString& port, const CheckRow& row) {
+    QJsonObject object{{"type", "check"}, {"mark", markName(row.mark)}, {"line", row.line}};
+    if (!row.fix.isEmpty()) {
+        object.insert(QStringLiteral("fix"), row.fix);
     }
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+    return compact(port, object);
 }
 
 std::optional<Event> eventFromJsonLine(const QByteArray& line) {
@@ -100,8 +131,17 @@ std::optional<Event> eventFromJsonLine(const QByteArray& line) {
 }
 
 void JsonReporter::report(const QString& port, const Event& event) {
-    const QByteArray line = toJsonLine(withPorts_ ? port : QString(), event) + '\n';
-    std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stdout);
+    const QString shown = withPorts_ ? port : QString();
+    QByteArray lines;
+    if (const auto* result = std::get_if<event::Result>(&event)) {
+        if (const auto* checklist = std::get_if<Checklist>(&result->outcome.cause)) {
+            for (const CheckRow& row : checklist->rows) {
+                lines += toJsonLine(shown, row) + '\n';
+            }
+        }
+    }
+    lines += toJsonLine(shown, event) + '\n';
+    std::fwrite(lines.constData(), 1, static_cast<size_t>(lines.size()), stdout);
     std::fflush(stdout);
 }
 

@@ -16,11 +16,16 @@
 /// empty.
 QByteArray toJsonLine(const QString& port, const Event& event);
 
+/// One compact JSON object for a row of a connection checklist: {"type":"check",
+/// "mark":"ok"|"problem"|"info","line":…} with "fix":… when it has one.
+QByteArray toJsonLine(const QString& port, const CheckRow& row);
+
 /// The event of one such line; none for anything else.
 std::optional<Event> eventFromJsonLine(const QByteArray& line);
 
-/// Prints every event as one JSON line on standard output; notices go to
-/// standard error as plain text.
+/// Prints every event as one JSON line on standard output, a connection
+/// checklist's rows each as one before the result; notices go to standard error as
+/// plain text.
 class JsonReporter : public Reporter {
   public:
     /// With `withPorts`, every object carries "port".

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "app/operations/FlashFirmware.h"
+#include "cli/Wording.h"
 
 LocalRun::LocalRun(const Command& command, CommandContext context, Reporter& reporter, bool verbose)
     : command_(command), context_(std::move(context)), reporter_(reporter), verbose_(verbose) {
@@ -59,6 +60,6 @@ void LocalRun::deliver(const Event& event) {
 void LocalRun::conclude(const Outcome& outcome) {
     writing_ = false;
     const int status = ExitStatus::of(outcome, command_.convention());
-    reporter_.report(context_.portName, event::Result{status, outcome});
+    reporter_.report(context_.portName, event::Result{status, inCommandLineWords(outcome)});
     emit finished(status);
 }

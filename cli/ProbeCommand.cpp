@@ -16,7 +16,7 @@ class ProbeCommand : public Command {
     QString successMeaning() const override {
         return QStringLiteral("a partition table is present");
     }
-    QList<int> failureStatuses() const override { return {1, 9, 11, 12, 16}; }
+    QList<int> failureStatuses() const override { return {1, 2, 9, 11, 12, 16}; }
 
     std::shared_ptr<Operation> operation(const CommandContext& context) const override {
         return std::make_shared<ProbePartitionTable>(context.portPath, context.resources,

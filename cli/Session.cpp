@@ -20,6 +20,7 @@
 #include "cli/LocalRun.h"
 #include "cli/Plotters.h"
 #include "cli/TextReporter.h"
+#include "cli/Wording.h"
 
 namespace {
 
@@ -80,7 +81,9 @@ class Single {
         context.simulated =
             port.isEmpty() ? options.simulated > 0 : Plotters::isSimulated(port, options.simulated);
         if (!port.isEmpty() && context.simulated) {
-            plotter_ = startSimulatedPlotter(context.resources, SimulatedPace::brisk);
+            sim::Config config;
+            config.startup = sim::parseStartup(options.simStartup).value_or(sim::Startup::Healthy);
+            plotter_ = startSimulatedPlotter(context.resources, SimulatedPace::brisk, config);
             context.portPath = QString::fromStdString(plotter_->path());
         }
         run_ = std::make_unique<LocalRun>(command, std::move(context), reporter, options.verbose);
@@ -141,7 +144,7 @@ int runSession(const Command& command, const CommonOptions& options, const QStri
     if (ports.isEmpty()) {
         const Outcome none = Outcome::make(Outcome::Kind::noDevice, Texts::errorMessage(1));
         const int status = ExitStatus::of(none, command.convention());
-        reporter->report(QString(), event::Result{status, none});
+        reporter->report(QString(), event::Result{status, inCommandLineWords(none)});
         return status;
     }
 

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "app/ResultSummary.h"
+
 namespace {
 
 constexpr int kDrawIntervalMs = 100;
@@ -23,6 +25,14 @@ void write(std::FILE* stream, const QString& text) {
     const QByteArray bytes = text.toUtf8();
     std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stream);
     std::fflush(stream);
+}
+
+// A checklist row as "✓ line", a problem's fix indented below its line.
+QString checkLines(const CheckRow& row) {
+    const QString mark = row.mark == CheckRow::Mark::ok        ? QStringLiteral("\u2713 ")
+                         : row.mark == CheckRow::Mark::problem ? QStringLiteral("\u2717 ")
+                                                               : QStringLiteral("\u2022 ");
+    return row.fix.isEmpty() ? mark + row.line : mark + row.line + QStringLiteral("\n  ") + row.fix;
 }
 
 }  // namespace
@@ -91,22 +101,40 @@ void TextReporter::onProgress(Row& row, const event::Progress& progress) {
                                              : row.meter.stage() + QLatin1Char(' ') + figures));
 }
 
-// A failure goes to standard error in the window's words; with several plotters
-// a success gets a line of its own. The evidence follows the message.
+// A failure goes to standard error in the window's words, and so does a machine
+// that does not run what was written; what the machine said and what to do next
+// follow. With several plotters a success gets a line of its own. A checklist
+// comes before all of it.
 void TextReporter::onResult(Row& row, const event::Result& result) {
     const Outcome& outcome = result.outcome;
     if (row.meter.active()) {
         row.meter.finish(!outcome.isFailure());
         scheduleDraw();
     }
-    std::FILE* stream = outcome.isFailure() ? stderr : stdout;
-    if (outcome.isFailure()) {
-        printLine(stream, prefixed(row.port, LogEntry::error(outcome.message).line()));
-    } else if (style_.withPorts) {
-        printLine(stream, prefixed(row.port, outcome.message));
+    if (const auto* checklist = std::get_if<Checklist>(&outcome.cause)) {
+        for (const CheckRow& check : checklist->rows) {
+            printLine(stdout, prefixed(row.port, checkLines(check)));
+        }
     }
-    for (const QString& line : outcome.evidence) {
-        printLine(stream, prefixed(row.port, line));
+    const auto summary = summarize(outcome, Texts::Audience::commandLine);
+    if (!summary) {
+        if (style_.withPorts) {
+            printLine(stdout, prefixed(row.port, outcome.message));
+        }
+        for (const QString& line : outcome.evidence) {
+            printLine(stdout, prefixed(row.port, line));
+        }
+        return;
+    }
+    std::FILE* stream = outcome.isFailure() ? stderr : stdout;
+    printLine(stream,
+              prefixed(row.port, outcome.isFailure() ? LogEntry::error(summary->headline).line()
+                                                     : summary->headline));
+    for (const QString& line : summary->details) {
+        printLine(stream, prefixed(row.port, QStringLiteral("  ") + line));
+    }
+    if (!summary->nextStep.isEmpty()) {
+        printLine(stream, prefixed(row.port, summary->nextStep));
     }
 }
 

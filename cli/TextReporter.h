@@ -10,10 +10,11 @@
 #include "cli/Reporter.h"
 
 /// Prints events as text: log lines to standard output, errors to standard
-/// error in the window's words ("ERROR: " and the message). On a terminal each
-/// plotter has a progress line (stage, bar, percentage, bytes, rate) kept below the
-/// printed lines and redrawn in place at most 10 times a second; elsewhere progress
-/// is plain lines at each new stage and every 10 %, without control characters.
+/// error in the window's words ("ERROR: " and the message), a connection
+/// checklist's rows ("✓ line", a problem's fix indented below) before its result. On a terminal
+/// each plotter has a progress line (stage, bar, percentage, bytes, rate) kept below the printed
+/// lines and redrawn in place at most 10 times a second; elsewhere progress is plain lines at each
+/// new stage and every 10 %, without control characters.
 class TextReporter : public QObject, public Reporter {
   public:
     struct Style {

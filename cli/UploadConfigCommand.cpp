@@ -18,9 +18,9 @@ class UploadConfigCommand : public Command {
     }
 
     QString successMeaning() const override {
-        return QStringLiteral("uploaded; the machine restarts");
+        return QStringLiteral("uploaded; the machine restarted with it");
     }
-    QList<int> failureStatuses() const override { return {1, 2, 8, 11, 12}; }
+    QList<int> failureStatuses() const override { return {1, 2, 8, 10, 11, 12, 13, 14}; }
     Ports ports() const override { return Ports::several; }
 
     std::shared_ptr<Operation> operation(const CommandContext& context) const override {

@@ -13,7 +13,7 @@ class VersionCommand : public Command {
     }
 
     QString successMeaning() const override { return QStringLiteral("the firmware answered"); }
-    QList<int> failureStatuses() const override { return {1, 9}; }
+    QList<int> failureStatuses() const override { return {1, 2, 9}; }
 
     std::shared_ptr<Operation> operation(const CommandContext& context) const override {
         return std::make_shared<QueryVersion>(context.portPath);

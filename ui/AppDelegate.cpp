@@ -11,12 +11,14 @@
 #include "app/BackupIndex.h"
 #include "app/DeviceQueries.h"
 #include "app/LogExport.h"
+#include "app/ResultSummary.h"
 #include "app/SleepInhibitor.h"
 #include "app/Texts.h"
 #include "app/UpdateController.h"
 #include "app/operations/SaveMachineConfig.h"
 #include "ui/AboutWindow.h"
 #include "ui/CompareWindow.h"
+#include "ui/ConnectionCheckWindow.h"
 #include "ui/EraseQuestions.h"
 #include "ui/RestoreWindow.h"
 #include "ui/UpdaterView.h"
@@ -51,6 +53,8 @@ AppDelegate::AppDelegate(std::unique_ptr<UpdateController> controller, Options o
             &SleepInhibitor::setHeld);
     connect(updateController_.get(), &UpdateController::machineConfigCompared, this,
             &AppDelegate::showComparison);
+    connect(updateController_.get(), &UpdateController::resultChanged, this,
+            &AppDelegate::notifyUnseen);
 }
 
 AppDelegate::~AppDelegate() {
@@ -58,6 +62,7 @@ AppDelegate::~AppDelegate() {
     window_.reset();
     aboutWindow_.reset();
     compareWindow_.reset();
+    connectionCheckWindow_.reset();
     restoreWindow_.reset();
 }
 
@@ -67,7 +72,9 @@ void AppDelegate::applicationDidFinishLaunching() {
         nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                      Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint);
     window_->setWindowTitle(QStringLiteral("Teskal Firmware Updater"));
-    window_->setCentralWidget(new UpdaterView(*updateController_));
+    auto* view = new UpdaterView(*updateController_);
+    connect(view, &UpdaterView::connectionCheckRequested, this, &AppDelegate::showConnectionCheck);
+    window_->setCentralWidget(view);
     window_->layout()->setSizeConstraint(QLayout::SetFixedSize);
     updateController_->setSettingsQuestions(settingsQuestionsAsked(window_.get()));
     quitGuard_ = new QuitGuard(
@@ -77,6 +84,19 @@ void AppDelegate::applicationDidFinishLaunching() {
     window_->adjustSize();
     centreOnScreen(window_.get());
     bringToFront(window_.get());
+}
+
+// The banner says it in the window; an owner who is looking elsewhere hears it
+// from the desktop.
+void AppDelegate::notifyUnseen(const std::optional<Outcome>& result) {
+    if (!result || !window_ || window_->isActiveWindow()) {
+        return;
+    }
+    if (const auto summary = summarize(*result, Texts::Audience::window)) {
+        options_.notify(
+            summary->headline,
+            (summary->details + QStringList(summary->nextStep)).join(QLatin1Char('\n')).trimmed());
+    }
 }
 
 void AppDelegate::showAbout() {
@@ -198,6 +218,17 @@ void AppDelegate::showComparison(const ConfigComparison& comparison, const Confi
             [this, chosen] { updateController_->uploadChoice(chosen); });
     centreOnScreen(compareWindow_.get());
     bringToFront(compareWindow_.get());
+}
+
+void AppDelegate::showConnectionCheck() {
+    if (!connectionCheckWindow_ || !connectionCheckWindow_->isVisible()) {
+        connectionCheckWindow_ = std::make_unique<ConnectionCheckWindow>(
+            options_.devicePlaces, PermissionRule::installed());
+        connectionCheckWindow_->refresh();
+        connectionCheckWindow_->adjustSize();
+        centreOnScreen(connectionCheckWindow_.get());
+    }
+    bringToFront(connectionCheckWindow_.get());
 }
 
 std::optional<ProductConfig> AppDelegate::productOf(const QAction* item) const {

@@ -7,12 +7,16 @@
 #include "app/BuildConfig.h"
 #include "app/ConfigChoice.h"
 #include "app/ConfigDiff.h"
+#include "app/DesktopNotifier.h"
+#include "app/Outcome.h"
+#include "app/operations/CheckConnection.h"
 #include "ui/FileChooser.h"
 #include "ui/QuitGuard.h"
 #include "ui/SaveChooser.h"
 
 class AboutWindow;
 class CompareWindow;
+class ConnectionCheckWindow;
 class EscapeCloser;
 class QAction;
 class QMainWindow;
@@ -41,6 +45,14 @@ class AppDelegate : public QObject {
         SaveChooser chooseSaveFile = chooseSaveFileWithDialog;
         /// Ends the program when the user quits anyway during a job.
         std::function<void()> exitNow = exitAtOnce;
+        /// Tells the owner how a job ended while the window was not active: a
+        /// desktop notification with a title and a body.
+        std::function<void(const QString& title, const QString& body)> notify =
+            [](const QString& title, const QString& body) {
+                DesktopNotifier().notify(title, body);
+            };
+        /// Where the Connection Check looks for the plotter.
+        CheckConnection::Places devicePlaces = {};
     };
 
     /// Owns a controller on the resources beside the executable and the real
@@ -59,6 +71,8 @@ class AppDelegate : public QObject {
     AboutWindow* aboutWindow() const { return aboutWindow_.get(); }
     /// The window of the last comparison; null until one ended.
     CompareWindow* compareWindow() const { return compareWindow_.get(); }
+    /// The Connection Check; null until it was first asked for.
+    ConnectionCheckWindow* connectionCheckWindow() const { return connectionCheckWindow_.get(); }
     /// The last Restore Machine Config window; null until one was opened.
     RestoreWindow* restoreWindow() const { return restoreWindow_.get(); }
 
@@ -90,8 +104,11 @@ class AppDelegate : public QObject {
     /// Shows `comparison` in a new compare window, in place of an earlier one; its
     /// "Upload This Configuration" uploads `chosen` as the Config menu would.
     void showComparison(const ConfigComparison& comparison, const ConfigChoice& chosen);
+    /// Shows the Connection Check, a new one unless it is open already.
+    void showConnectionCheck();
 
   private:
+    void notifyUnseen(const std::optional<Outcome>& result);
     void setupMenus();
     QMenu* addApplicationMenu();
     QMenu* addFileMenu();
@@ -108,6 +125,7 @@ class AppDelegate : public QObject {
     std::unique_ptr<UpdateController> updateController_;
     std::unique_ptr<AboutWindow> aboutWindow_;
     std::unique_ptr<CompareWindow> compareWindow_;
+    std::unique_ptr<ConnectionCheckWindow> connectionCheckWindow_;
     std::unique_ptr<RestoreWindow> restoreWindow_;
     EscapeCloser* escapeCloser_ = nullptr;
     QuitGuard* quitGuard_ = nullptr;

@@ -51,4 +51,43 @@ const QColor& secondaryText() {
     return CV::darkGray();
 }
 
+const QColor& problem() {
+    static const QColor colour(198, 40, 40);
+    return colour;
+}
+
 }  // namespace AppColors
+
+namespace BannerColors {
+
+const QColor& goodField() {
+    static const QColor colour(226, 243, 228);
+    return colour;
+}
+
+const QColor& goodEdge() {
+    static const QColor colour(46, 125, 50);
+    return colour;
+}
+
+const QColor& cautionField() {
+    static const QColor colour(255, 243, 214);
+    return colour;
+}
+
+const QColor& cautionEdge() {
+    static const QColor colour(191, 128, 0);
+    return colour;
+}
+
+const QColor& badField() {
+    static const QColor colour(253, 228, 226);
+    return colour;
+}
+
+const QColor& badEdge() {
+    static const QColor colour(198, 40, 40);
+    return colour;
+}
+
+}  // namespace BannerColors

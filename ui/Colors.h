@@ -30,5 +30,20 @@ const QColor& accent();
 QColor logText();
 /// Port path, firmware label, copy icon.
 const QColor& secondaryText();
+/// The mark of a check that failed.
+const QColor& problem();
 
 }  // namespace AppColors
+
+/// The result banner's colours, one pair (field, edge) for each tone of
+/// `ResultSummary`. GUI thread only.
+namespace BannerColors {
+
+const QColor& goodField();
+const QColor& goodEdge();
+const QColor& cautionField();
+const QColor& cautionEdge();
+const QColor& badField();
+const QColor& badEdge();
+
+}  // namespace BannerColors

@@ -1,6 +1,9 @@
+#include <QActionGroup>
 #include <QApplication>
 #include <QIcon>
 #include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
@@ -10,6 +13,27 @@
 #include "app/UpdateController.h"
 #include "ui/AppDelegate.h"
 #include "ui/SingleInstance.h"
+
+namespace {
+
+// How the simulated plotter starts after the next write, so that every result the
+// window can show can be seen.
+void addStartupMenu(QMainWindow& window, sim::PtyPlotter& plotter) {
+    QMenu* menu = window.menuBar()->addMenu(QStringLiteral("Simulated Plotter"));
+    auto* choices = new QActionGroup(menu);
+    for (const sim::Startup startup : sim::kStartups) {
+        QAction* item = menu->addAction(QStringLiteral("Starts: ") +
+                                        QString::fromLatin1(sim::startupName(startup)));
+        item->setCheckable(true);
+        item->setChecked(startup == sim::Startup::Healthy);
+        choices->addAction(item);
+        QObject::connect(item, &QAction::triggered, &window, [&plotter, startup] {
+            plotter.modify([startup](sim::Plotter& p) { p.config().startup = startup; });
+        });
+    }
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -33,6 +57,7 @@ int main(int argc, char** argv) {
                                            UpdateController::DevelopmentImages::accept),
         AppDelegate::Options());
     delegate.applicationDidFinishLaunching();
+    addStartupMenu(*delegate.window(), *plotter);
     delegate.window()->setWindowTitle(
         QStringLiteral("Teskal Firmware Updater \u2014 simulated plotter"));
     return QApplication::exec();

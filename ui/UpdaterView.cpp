@@ -6,11 +6,13 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/Texts.h"
 #include "app/UpdateController.h"
 #include "ui/Colors.h"
 #include "ui/ElidedLabel.h"
 #include "ui/Fonts.h"
 #include "ui/LogPanel.h"
+#include "ui/ResultBanner.h"
 #include "ui/StatusDot.h"
 
 namespace {
@@ -34,9 +36,11 @@ UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
       dot_(new StatusDot(this)),
       status_(new ElidedLabel(this)),
       port_(makeLabel(12, AppColors::secondaryText(), this)),
+      notFound_(makeLabel(12, AppColors::accent(), this)),
       firmware_(makeLabel(13, AppColors::secondaryText(), this)),
       progress_(new QProgressBar(this)),
       button_(new QPushButton(QStringLiteral("Update Firmware"), this)),
+      banner_(new ResultBanner(this)),
       log_(new LogPanel(this)) {
     setFixedSize(480, 420);
     buildLayout();
@@ -58,6 +62,14 @@ void UpdaterView::buildLayout() {
     statusRow->addStretch(1);
     column->addLayout(statusRow);
 
+    notFound_->setTextFormat(Qt::RichText);
+    notFound_->setText(
+        QStringLiteral("<a href=\"check\" style=\"color: %1;\">%2</a>")
+            .arg(AppColors::accent().name(), Texts::plotterNotFound().toHtmlEscaped()));
+    notFound_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    notFound_->hide();
+    column->addWidget(notFound_);
+
     firmware_->setWordWrap(true);
     firmware_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     column->addWidget(firmware_);
@@ -70,6 +82,7 @@ void UpdaterView::buildLayout() {
     button_->setMinimumHeight(button_->fontMetrics().height() + 2 * 8);
     button_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     column->addWidget(button_);
+    column->addWidget(banner_);
 
     column->addWidget(log_, 1);
 }
@@ -87,6 +100,10 @@ void UpdaterView::connectTo(UpdateController& controller) {
     connect(&controller, &UpdateController::statusMessageChanged, this,
             &UpdaterView::showStatusMessage);
     connect(&controller, &UpdateController::logChanged, this, &UpdaterView::showLog);
+    connect(&controller, &UpdateController::resultChanged, this, &UpdaterView::showResult);
+    connect(controller.connectionHint(), &ConnectionHint::offeredChanged, this,
+            &UpdaterView::showConnectionHint);
+    connect(notFound_, &QLabel::linkActivated, this, &UpdaterView::connectionCheckRequested);
     connect(&controller, &UpdateController::customFirmwareURLChanged, this,
             [this, &controller] { showFirmwareLabel(controller.firmwareLabel()); });
     const auto followMonitor = [this, monitor] {
@@ -99,6 +116,7 @@ void UpdaterView::connectTo(UpdateController& controller) {
     showStatusMessage(controller.statusMessage());
     showFirmwareLabel(controller.firmwareLabel());
     showLog(controller.log());
+    showConnectionHint(controller.connectionHint()->offered());
     followMonitor();
 }
 
@@ -117,6 +135,7 @@ void UpdaterView::showState(const UpdateState& state) {
             break;
         }
         case Kind::downloadingConfig:
+        case Kind::checkingStartup:
             progress_->setPalette(QPalette());
             progress_->setRange(0, 0);
             progress_->show();
@@ -144,8 +163,16 @@ void UpdaterView::showStatusMessage(const QString& message) {
     status_->setFullText(message);
 }
 
+void UpdaterView::showConnectionHint(bool offered) {
+    notFound_->setVisible(offered);
+}
+
 void UpdaterView::showFirmwareLabel(const QString& label) {
     firmware_->setText(label);
+}
+
+void UpdaterView::showResult(const std::optional<Outcome>& result) {
+    banner_->showSummary(result ? summarize(*result, Texts::Audience::window) : std::nullopt);
 }
 
 void UpdaterView::showLog(const LogEntries& entries) {

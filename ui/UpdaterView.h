@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "app/LogEntry.h"
+#include "app/Outcome.h"
 #include "app/UpdateState.h"
 #include "ui/ElidedLabel.h"
 
@@ -12,11 +13,14 @@ class LogPanel;
 class QLabel;
 class QProgressBar;
 class QPushButton;
+class ResultBanner;
 class StatusDot;
 class UpdateController;
 
-/// The main window's content, 480 x 420: connection and status, the firmware that
-/// will be written, progress, the "Update Firmware" button and the log.
+/// The main window's content, 480 x 420: connection and status (with the link
+/// "Plotter not found?" below it while the controller's connection hint offers the
+/// Connection Check), the firmware that will be written, progress, the "Update
+/// Firmware" button and the log.
 ///
 /// It keeps nothing of its own: the `show...` functions redraw one part from a
 /// value, and the constructor connects them to the controller's and its device
@@ -35,17 +39,27 @@ class UpdaterView : public QWidget {
     void showConnection(bool isConnected, const std::optional<QString>& portPath);
     /// One line; a message too long for it is elided, whole in the tooltip.
     void showStatusMessage(const QString& message);
+    /// The link "Plotter not found?" under the status row, or nothing (no space).
+    void showConnectionHint(bool offered);
     void showFirmwareLabel(const QString& label);
+    /// How the last job ended, in the result banner; none hides it.
+    void showResult(const std::optional<Outcome>& result);
     /// The log; see `LogView::setEntries` for scrolling.
     void showLog(const LogEntries& entries);
 
     StatusDot* statusDot() const { return dot_; }
     ElidedLabel* statusLabel() const { return status_; }
     QLabel* portLabel() const { return port_; }
+    QLabel* notFoundLink() const { return notFound_; }
     QLabel* firmwareLabel() const { return firmware_; }
     QProgressBar* progressBar() const { return progress_; }
     QPushButton* updateButton() const { return button_; }
     LogPanel* logPanel() const { return log_; }
+    ResultBanner* resultBanner() const { return banner_; }
+
+  signals:
+    /// The link "Plotter not found?" was followed.
+    void connectionCheckRequested();
 
   private:
     void buildLayout();
@@ -55,9 +69,11 @@ class UpdaterView : public QWidget {
     StatusDot* dot_;
     ElidedLabel* status_;
     QLabel* port_;
+    QLabel* notFound_;
     QLabel* firmware_;
     QProgressBar* progress_;
     QPushButton* button_;
+    ResultBanner* banner_;
     LogPanel* log_;
     bool isConnected_ = false;
     UpdateState state_;

@@ -1,5 +1,6 @@
 #include "app/operations/CompareWithMachine.h"
 
+#include "app/PortDiagnosis.h"
 #include "app/Texts.h"
 #include "app/operations/MachineConfigFile.h"
 
@@ -24,6 +25,9 @@ Outcome CompareWithMachine::run(const OperationSink& sink) {
         if (auto refused = refusal()) {
             return *refused;
         }
+    }
+    if (auto unusable = PortDiagnosis::beforeJob(port_)) {
+        return *unusable;
     }
     auto read = MachineConfigFile::read({port_, machine_, BackupReason::compare}, sink);
     if (auto* failure = std::get_if<Outcome>(&read)) {

@@ -27,7 +27,8 @@ class CompareWithMachine : public Operation {
     /// configuration; logs one line ("Machine config matches <name> by key",
     /// "Machine config differs from <name> in <n> key(s)", or each reason why a
     /// side could not be read). Succeeds with "Equal by key", or ends `differs`
-    /// with "Different" and the differing key paths as its evidence.
+    /// with "Different" and the differing key paths as its evidence. Ends
+    /// `portUnusable`, without reading, when the port cannot be used.
     Outcome run(const OperationSink& sink) override;
 
     const ConfigChoice& choice() const { return choice_; }

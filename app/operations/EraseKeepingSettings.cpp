@@ -28,10 +28,11 @@ Outcome EraseKeepingSettings::run(const OperationSink& sink) {
         failure->message = Texts::nothingErased(failure->message);
         return *failure;
     }
-    // The flashing job is the same as without the save; only a machine that
-    // runs afterwards can take its configuration back.
+    // The flashing job is the same as without the save; only a machine that runs
+    // afterwards can take its configuration back. A firmware that rejects its
+    // configuration runs too, and after the erase it has none of its own.
     const Outcome flashed = flash(sink);
-    if (flashed.kind != Outcome::Kind::succeeded) {
+    if (flashed.kind != Outcome::Kind::succeeded && flashed.kind != Outcome::Kind::configRejected) {
         return notRestored(flashed, sink);
     }
     Outcome restored = restore_->run(sink);

@@ -40,8 +40,10 @@ class EraseKeepingSettings : public Operation {
 
     /// Logs "Saving the machine's settings before Erase All Flash…" and asks the
     /// firmware for its version; then reads config.yaml (logging where the copy went),
-    /// runs the flashing job and, when it succeeded, the upload of the copy, logging
-    /// "Settings restored from the backup of <date time>." and succeeding with it.
+    /// runs the flashing job and, when the machine runs afterwards (its verdict is
+    /// running, or a configuration error), the upload of the copy, ending as that
+    /// upload does; on success it logs "Settings restored from the backup of <date
+    /// time>." and succeeds with it.
     /// Stops before the erase (see `stop`): `noAnswer` with "The machine's firmware
     /// does not answer, so its settings cannot be saved.", or the read's, the
     /// backup's or the check's outcome behind "Nothing was erased: …". A copy kept

@@ -6,9 +6,14 @@
 #include "app/BuildConfig.h"
 #include "app/DeviceQueries.h"
 #include "app/FlasherBridge.h"
+#include "app/PortDiagnosis.h"
 #include "app/Texts.h"
+#include "app/operations/CheckStartup.h"
 
 namespace {
+
+// Up to 5 s for the port to come back, and the whole check after it.
+constexpr int kCheckAfterFlashMs = 12000;
 
 struct BootImages {
     QByteArray bootloader;
@@ -39,6 +44,9 @@ FlashFirmware::FlashFirmware(QString port, ResourceBundle resources, Options opt
     : port_(std::move(port)), resources_(std::move(resources)), options_(std::move(options)) {}
 
 Outcome FlashFirmware::run(const OperationSink& sink) {
+    if (auto unusable = PortDiagnosis::beforeJob(port_)) {
+        return *unusable;
+    }
     Outcome failure;
     const auto firmware = loadFirmware(sink, &failure);
     if (!firmware) {
@@ -61,22 +69,32 @@ Outcome FlashFirmware::run(const OperationSink& sink) {
         return Outcome::make(Outcome::Kind::missingResource, Texts::bootImagesMissing());
     }
 
+    // Known before the restart, which may take the port away for a moment.
+    const PlotterPort plotter = PlotterPort::at(port_);
     sink.enter(Phase::writingFirmware, planBytes(*firmware, boot, fullFlash));
     const std::optional<QString> expectedVersion =
         options_.customFirmware ? std::nullopt : std::optional(BuildConfig::firmwareVersion());
+    FlasherBridge::StartupReport startup;
     const esp_error_t result = FlasherBridge::flashFirmware(
         port_, *firmware, boot.bootloader, boot.partitions, boot.bootApp, *stub, fullFlash,
-        options_.eraseAll, expectedVersion, sink.progress, sink.libraryLog);
+        options_.eraseAll, expectedVersion, sink.progress, sink.libraryLog, &startup);
     if (result != 0) {
-        return Outcome::library(result);
+        return PortDiagnosis::afterJob(port_, Outcome::library(result));
     }
     sink.enter(Phase::firmwareWritten);
     sink.info(Texts::firmwareComplete());
     if (options_.eraseAll) {
         sink.info(QString());
-        sink.info(Texts::flashErasedNote());
+        sink.info(options_.erasedNote);
     }
-    return Outcome::success(Texts::firmwareComplete());
+    // A chosen image gives the job no version to confirm, and a port that went
+    // away took the rest of the start with it: the check listens once more.
+    if (!startup.listened || startup.portLost) {
+        return CheckStartup(plotter, StartupCause::Written::firmware, expectedVersion,
+                            kCheckAfterFlashMs)
+            .run(sink);
+    }
+    return startupOutcome(startup, StartupCause::Written::firmware, expectedVersion);
 }
 
 double FlashFirmware::writtenShare(float fraction) {

@@ -6,6 +6,7 @@
 
 #include "app/FirmwareCheck.h"
 #include "app/ResourceBundle.h"
+#include "app/Texts.h"
 #include "app/operations/Operation.h"
 
 /// Writes firmware to the machine on one port, as "Update Firmware" does: loads the
@@ -20,6 +21,8 @@ class FlashFirmware : public Operation {
         bool writeBootPartitions = false;       ///< always write all four regions
         bool eraseAll = false;  ///< erase the whole chip first (and so a full flash)
         DevelopmentImages developmentImages = DevelopmentImages::refuse;
+        /// The line after an erase that says how to put a configuration back.
+        QString erasedNote = Texts::flashErasedNote();
     };
 
     FlashFirmware(QString port, ResourceBundle resources, Options options);
@@ -28,8 +31,13 @@ class FlashFirmware : public Operation {
     /// decision, enters `writingFirmware` with the flash plan's size right before
     /// the library's job and `firmwareWritten` when it succeeded, then logs
     /// "Firmware update complete." (after an erase also an empty line and the NOTE).
-    /// Ends refused or missing a resource before the port is touched, or with the
-    /// library's code.
+    /// Then tells how the machine started: from what the job heard after the
+    /// restart, or, when it heard nothing (a chosen image has no version to confirm)
+    /// or the port went away, from a `CheckStartup` of its own. Ends refused or
+    /// missing a resource before the port is touched, with the library's code, or
+    /// with the machine's verdict (a success when it runs the firmware); first of
+    /// all, and after the library could not open the port, `portUnusable` when the
+    /// port cannot be used (see `PortDiagnosis`).
     Outcome run(const OperationSink& sink) override;
 
     /// The share, 0..1, of the flash plan's bytes written when the library reports

@@ -6,6 +6,7 @@
 #include "app/BackupIndex.h"
 #include "app/DeviceQueries.h"
 #include "app/FlasherBridge.h"
+#include "app/PortDiagnosis.h"
 #include "app/Texts.h"
 
 namespace MachineConfigFile {
@@ -21,7 +22,7 @@ std::variant<Read, Outcome> downloadAndKeep(const Request& request,
         Outcome failure = Outcome::library(download.result);
         failure.cause = cause;
         failure.message = Texts::configNotRead(cause);
-        return failure;
+        return PortDiagnosis::afterJob(request.port, failure);
     }
     BackupIndex::Source source;
     source.reason = request.reason;

@@ -32,7 +32,8 @@ struct Read {
 /// library's progress and log lines going to `sink`, and keeps a copy in
 /// `BackupIndex()`. The file, or the outcome of a failed read ("Could not read
 /// config.yaml from the machine: " and the cause; failed with the library's code,
-/// the cause as data). Blocks the calling thread; one library job at a time.
+/// the cause as data; `portUnusable` when the port could not be opened and opening
+/// it again tells why). Blocks the calling thread; one library job at a time.
 std::variant<Read, Outcome> read(const Request& request, const OperationSink& sink);
 
 /// The same for a firmware whose version is already known (none: it did not answer).

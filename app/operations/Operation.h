@@ -15,6 +15,7 @@ enum class Phase {
     uploadingConfig,  ///< a configuration upload starts; its bytes are the file's
     configUploaded,   ///< the upload succeeded and the machine restarts
     readingConfig,    ///< the machine's config.yaml is being read; its size is not known
+    checkingStartup,  ///< the machine restarts after a write and is listened to
 };
 
 /// Where an operation reports while it runs. Every handler may be empty; all are

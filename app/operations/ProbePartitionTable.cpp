@@ -1,6 +1,7 @@
 #include "app/operations/ProbePartitionTable.h"
 
 #include "app/DeviceQueries.h"
+#include "app/PortDiagnosis.h"
 #include "app/Texts.h"
 
 ProbePartitionTable::ProbePartitionTable(QString port, ResourceBundle resources,
@@ -10,6 +11,9 @@ ProbePartitionTable::ProbePartitionTable(QString port, ResourceBundle resources,
       developmentImages_(developmentImages) {}
 
 Outcome ProbePartitionTable::run(const OperationSink& sink) {
+    if (auto unusable = PortDiagnosis::beforeJob(port_)) {
+        return *unusable;
+    }
     const QString stubName = QStringLiteral("esp32s3_stub");
     const auto stub = resources_.read(stubName, QStringLiteral("bin"));
     if (!stub) {

@@ -15,7 +15,8 @@ class ProbePartitionTable : public Operation {
 
     /// Logs and ends with "Partition table: present" (a success) or "...: absent"
     /// (`noPartitionTable`); `noAnswer` when the plotter did not answer; missing or
-    /// refused when the stub cannot be used.
+    /// refused when the stub cannot be used; `portUnusable`, before anything, when
+    /// the port cannot be used.
     Outcome run(const OperationSink& sink) override;
 
   private:

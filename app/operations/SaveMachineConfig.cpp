@@ -1,5 +1,6 @@
 #include "app/operations/SaveMachineConfig.h"
 
+#include "app/PortDiagnosis.h"
 #include "app/operations/MachineConfigFile.h"
 
 SaveMachineConfig::SaveMachineConfig(QString port, QString destination, QString machine)
@@ -11,6 +12,9 @@ QString SaveMachineConfig::defaultFileName(const QDateTime& when) {
 }
 
 Outcome SaveMachineConfig::run(const OperationSink& sink) {
+    if (auto unusable = PortDiagnosis::beforeJob(port_)) {
+        return *unusable;
+    }
     auto read = MachineConfigFile::read({port_, machine_, BackupReason::save}, sink);
     if (auto* failure = std::get_if<Outcome>(&read)) {
         return *failure;

@@ -17,7 +17,8 @@ class SaveMachineConfig : public Operation {
 
     /// Reads config.yaml (keeping a copy in the backups folder, or logging why not)
     /// and writes it with `MachineConfigFile::write`: an existing file is replaced
-    /// whole or left as it was.
+    /// whole or left as it was. Ends `portUnusable`, without reading, when the port
+    /// cannot be used.
     Outcome run(const OperationSink& sink) override;
 
   private:

@@ -1,9 +1,19 @@
 #include "app/operations/UploadConfig.h"
 
 #include "app/FlasherBridge.h"
+#include "app/PortDiagnosis.h"
 #include "app/Texts.h"
 #include "app/operations/CheckConfigFile.h"
+#include "app/operations/CheckStartup.h"
 #include "app/operations/MachineConfigFile.h"
+
+namespace {
+
+// The firmware restarts after the upload: finding its port again and the whole
+// check after it take no longer than this.
+constexpr int kCheckAfterUploadMs = 8000;
+
+}  // namespace
 
 UploadConfig::UploadConfig(QString port, ResourceBundle resources, ConfigChoice choice,
                            Options options)
@@ -36,6 +46,9 @@ Outcome UploadConfig::run(const OperationSink& sink) {
             return *refused;
         }
     }
+    if (auto unusable = PortDiagnosis::beforeJob(port_)) {
+        return *unusable;
+    }
     if (!choice_.product) {
         sink.info(announcement_);
     }
@@ -53,14 +66,17 @@ Outcome UploadConfig::run(const OperationSink& sink) {
         sink.enter(Phase::uploadingConfig, bytes->size());
         sink.info(Texts::uploadingFile());
     }
+    const PlotterPort plotter = PlotterPort::at(port_);
     const esp_error_t result =
         FlasherBridge::uploadConfig(port_, *bytes, sink.progress, sink.libraryLog);
     if (result != 0) {
-        return Outcome::library(result);
+        return PortDiagnosis::afterJob(port_, Outcome::library(result));
     }
     sink.enter(Phase::configUploaded);
     sink.info(Texts::uploadComplete());
-    return Outcome::success(Texts::uploadComplete());
+    return CheckStartup(plotter, StartupCause::Written::configuration, std::nullopt,
+                        kCheckAfterUploadMs)
+        .run(sink);
 }
 
 // The state is "uploading" from the start, also when the file then is not found.

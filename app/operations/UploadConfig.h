@@ -37,8 +37,12 @@ class UploadConfig : public Operation {
     /// asked, then enters `uploadingConfig` (with the size; 0 for a product whose
     /// file is missing) and logs "Preparing PRODUCT config" and its suffix, or
     /// "Uploading config file..."; uploads; on success enters `configUploaded` and
-    /// logs "Upload successful; restarting machine.". Ends missing a resource, with
-    /// the backup's failure, or with the library's code.
+    /// logs "Upload successful; restarting machine.", then checks how the machine
+    /// started with it (`CheckStartup`, within 8 s). Ends missing a resource, with
+    /// the backup's failure, with the library's code, or with the machine's verdict
+    /// (a success when it runs with the new configuration); `portUnusable` before it
+    /// logs anything, or after the library could not open the port, when the port
+    /// cannot be used (see `PortDiagnosis`).
     Outcome run(const OperationSink& sink) override;
 
     /// The backup kept before this upload, once `run` has kept one.

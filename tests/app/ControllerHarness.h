@@ -60,7 +60,7 @@ class ControllerHarness : public QObject {
         *port_ = path.toUtf8();
         states.clear();
         const UpdateState wanted = path.isEmpty() ? UpdateState::idle() : UpdateState::ready();
-        const bool followed = QTest::qWaitFor([&] { return states.contains(wanted); }, 2000);
+        const bool followed = QTest::qWaitFor([&] { return states.contains(wanted); }, 10000);
         states.clear();
         published.clear();
         return followed;

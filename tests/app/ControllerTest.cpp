@@ -1,13 +1,16 @@
 #include <QDirIterator>
 
 #include "ControllerHarness.h"
+#include "tests/support/FreePty.h"
 #include "tests/support/TestImages.h"
 
 namespace {
 
 const QString kMissingPort = QStringLiteral("/dev/tfu-no-such-port");
 const QString kShipped = QStringLiteral("Updating firmware v2.10.6\u2026");
-const QString kOpenFailed = QStringLiteral("Could not open serial port. Is another app using it?");
+const QString kGone = QStringLiteral(
+    "PORT does not answer: its device has gone. Unplug the plotter, plug it in again and try "
+    "again.");
 const QByteArray kNotes = "{\"name\": \"plotter\", \"pens\": 12}\n";
 
 /// A copy of the development resources without the named files.
@@ -88,6 +91,9 @@ void ControllerTest::followsTheConnectionAndRefusesStartsWithoutIt() {
 }
 
 void ControllerTest::failures_data() {
+    // The plotter's port: "gone" for a pseudo-terminal that looks free but fails every
+    // open, as a USB node does once its device has gone; its path replaces PORT.
+    QTest::addColumn<QString>("port");
     QTest::addColumn<QStringList>("missing");
     // "update" or "config"; an update may ask the console first ("probe"), log in detail
     // ("detailed"), use a chosen image ("custom=NAME"; "gone.bin" does not exist) or run
@@ -100,48 +106,68 @@ void ControllerTest::failures_data() {
     const QString refused = QStringLiteral("Firmware image refused: ");
     const QString development = QStringLiteral("a development image, not firmware");
     QTest::newRow("shipped image missing")
-        << QStringList{"firmware.bin"} << "update" << QStringList{} << "Bundled firmware not found"
-        << QStringList{};
+        << QString("gone") << QStringList{"firmware.bin"} << "update" << QStringList{}
+        << "Bundled firmware not found" << QStringList{};
     QTest::newRow("custom image unreadable")
-        << QStringList{} << "update custom=gone.bin" << QStringList{}
+        << QString("gone") << QStringList{} << "update custom=gone.bin" << QStringList{}
         << "Failed to load custom firmware: No such file or directory" << QStringList{};
     // Chosen files are checked again by the job, before the probe: they may have
     // changed since they were chosen.
     QTest::newRow("custom image refused")
-        << QStringList{} << "update probe custom=notes.bin" << QStringList{}
+        << QString("gone") << QStringList{} << "update probe custom=notes.bin" << QStringList{}
         << refused + "not a firmware image (first byte 0x7B, expected 0xE9)"
         << QStringList{"Updating firmware (custom: notes.bin)\u2026"};
     QTest::newRow("real program, shipped development image")
-        << QStringList{} << "update probe real" << QStringList{} << refused + development
-        << QStringList{kShipped};
+        << QString("gone") << QStringList{} << "update probe real" << QStringList{}
+        << refused + development << QStringList{kShipped};
     QTest::newRow("real program, development boot images")
-        << QStringList{} << "update probe real custom=unmarked.bin" << QStringList{}
-        << "Bundled bootloader.bin refused: " + development
+        << QString("gone") << QStringList{} << "update probe real custom=unmarked.bin"
+        << QStringList{} << "Bundled bootloader.bin refused: " + development
         << QStringList{"Updating firmware (custom: unmarked.bin)\u2026"};
-    QTest::newRow("stub missing") << QStringList{"esp32s3_stub.bin"} << "update" << QStringList{}
-                                  << "Flash stub not found in bundle" << QStringList{kShipped};
+    QTest::newRow("stub missing") << QString("gone") << QStringList{"esp32s3_stub.bin"} << "update"
+                                  << QStringList{} << "Flash stub not found in bundle"
+                                  << QStringList{kShipped};
     QTest::newRow("no answer, partition table missing")
-        << QStringList{"partitions.bin"} << "update probe" << QStringList{}
+        << QString("gone") << QStringList{"partitions.bin"} << "update probe" << QStringList{}
         << "Missing bootloader resources for full flash"
         << QStringList{kShipped, "Checking device status\u2026",
                        "Device not responding \u2014 writing boot partitions + firmware."};
     QTest::newRow("library fails, detailed log")
-        << QStringList{} << "update detailed" << QStringList{"flashing(0)"} << kOpenFailed
-        << QStringList{kShipped, "Opening port: " + kMissingPort, "Failed to open port"};
+        << QString("gone") << QStringList{} << "update detailed" << QStringList{"flashing(0)"}
+        << kGone << QStringList{kShipped, "Opening port: PORT", "Failed to open port"};
     QTest::newRow("configuration missing")
-        << QStringList{"configs/Halcot.yaml"} << "config" << QStringList{"uploadingConfig(0)"}
-        << "Config file not found in bundle: Halcot.yaml" << QStringList{};
+        << QString("gone") << QStringList{"configs/Halcot.yaml"} << "config"
+        << QStringList{"uploadingConfig(0)"} << "Config file not found in bundle: Halcot.yaml"
+        << QStringList{};
     QTest::newRow("configuration, library fails")
-        << QStringList{} << "config" << QStringList{"uploadingConfig(0)"} << kOpenFailed
-        << QStringList{"Preparing Corvane Halcot config v1.2.0-devset"};
+        << QString("gone") << QStringList{} << "config" << QStringList{"uploadingConfig(0)"}
+        << kGone << QStringList{"Preparing Corvane Halcot config v1.2.0-devset"};
+    // A port that cannot be used ends the job before anything is sent or logged.
+    QTest::newRow("port missing") << kMissingPort << QStringList{} << "update probe"
+                                  << QStringList{}
+                                  << kMissingPort +
+                                         " does not exist. Plug the plotter in, or name another "
+                                         "port."
+                                  << QStringList{};
+    QTest::newRow("no serial port")
+        << "/dev/null" << QStringList{} << "config" << QStringList{}
+        << "/dev/null is not a serial port. Name the plotter's port, for example /dev/ttyACM0."
+        << QStringList{};
 }
 
 void ControllerTest::failures() {
+    QFETCH(QString, port);
     QFETCH(QStringList, missing);
     QFETCH(QString, job);
     QFETCH(QStringList, busy);
     QFETCH(QString, message);
     QFETCH(QStringList, logBeforeError);
+    const FreePty gone(false);
+    if (port == "gone") {
+        port = QString::fromStdString(gone.path);
+        message.replace("PORT", port);
+        logBeforeError.replaceInStrings("PORT", port);
+    }
 
     const ResourcesWithout resources(missing);
     ControllerHarness harness(resources.dir.path(),
@@ -157,7 +183,7 @@ void ControllerTest::failures() {
                                                      : writeFile(resources.dir, custom, bytes)));
     }
     controller.log("line of an earlier job");
-    QVERIFY(harness.plug(kMissingPort));
+    QVERIFY(harness.plug(port));
 
     if (job == "config") {
         controller.uploadConfig("Halcot.yaml", "Corvane Halcot");

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <memory>
 
+#include "app/DesktopNotifier.h"
 #include "app/DeviceMonitor.h"
 #include "app/FlasherBridge.h"
 #include "app/SleepInhibitor.h"
@@ -54,6 +55,30 @@ class FakeLogind : public QObject {
     }
 };
 
+/// Stands in for the desktop's notification service.
+class FakeNotifications : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+  public:
+    QStringList calls;
+
+  public slots:
+    uint Notify(const QString& app, uint replaces, const QString& icon, const QString& title,
+                const QString& body, const QStringList& actions, const QVariantMap& hints,
+                int timeout) {
+        calls << QStringList{app,
+                             QString::number(replaces),
+                             icon,
+                             title,
+                             body,
+                             QString::number(actions.size() + hints.size()),
+                             QString::number(timeout)}
+                     .join('|');
+        return 1;
+    }
+};
+
 /// The application's ways out: the flasher library's callbacks, device detection
 /// and logind's sleep lock.
 class SeamsTest : public QObject {
@@ -63,6 +88,7 @@ class SeamsTest : public QObject {
     void bridgeParksHandlersForOneCallAndConvertsTheirTexts();
     void monitorPublishesPathBeforeConnectionOnEveryPoll();
     void sleepInhibitorHoldsTheLockOnlyWhileAsked();
+    void notifierPostsToTheDesktopsServiceOrNowhere();
 };
 
 void SeamsTest::bridgeParksHandlersForOneCallAndConvertsTheirTexts() {
@@ -154,6 +180,21 @@ void SeamsTest::sleepInhibitorHoldsTheLockOnlyWhileAsked() {
     QTRY_VERIFY(writerGone(logind.readEnds.last()));
     QVERIFY(!inhibitor.isHeld());
     QDBusConnection::disconnectFromPeer("logind");
+}
+
+void SeamsTest::notifierPostsToTheDesktopsServiceOrNowhere() {
+    QDBusServer server(QStringLiteral("unix:tmpdir=/tmp"));
+    FakeNotifications service;
+    connect(&server, &QDBusServer::newConnection, &service, [&](QDBusConnection connection) {
+        connection.registerObject(QStringLiteral("/org/freedesktop/Notifications"), &service,
+                                  QDBusConnection::ExportAllSlots);
+    });
+    const QDBusConnection bus = QDBusConnection::connectToPeer(server.address(), "notifications");
+    DesktopNotifier(bus).notify("Firmware 2.10.6 installed and running.", "");
+    QTRY_COMPARE(service.calls, QStringList{"Teskal Firmware Updater|0|teskal-firmware-updater|"
+                                            "Firmware 2.10.6 installed and running.||0|-1"});
+    QDBusConnection::disconnectFromPeer("notifications");
+    DesktopNotifier(QDBusConnection(QStringLiteral("none"))).notify("unheard", "");
 }
 
 QTEST_GUILESS_MAIN(SeamsTest)

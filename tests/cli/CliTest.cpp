@@ -1,7 +1,10 @@
+#include <fcntl.h>
+#include <grp.h>
 #include <poll.h>
 #include <pty.h>
 #include <signal.h>
 #include <sys/prctl.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -13,10 +16,12 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "cli/Fleet.h"
+#include "tests/support/FreePty.h"
 #include "tests/support/TestImages.h"
 
 namespace {
@@ -26,6 +31,7 @@ const QString kDev = QStringLiteral(TFU_DEV_RESOURCES_DIR);
 const QString kNoPort = QStringLiteral("/dev/tfu-no-such-port");
 const QString kComplete = QStringLiteral("Firmware update complete.");
 const QString kUploaded = QStringLiteral("Upload successful; restarting machine.");
+const QString kRunning = QStringLiteral("Firmware 2.10.6 installed and running.");
 const QString kWarning = QStringLiteral(
     "Writing firmware: stopping now can leave the machine unable to start. Press Ctrl+C again "
     "to stop.\n");
@@ -36,15 +42,15 @@ struct Run {
     QString err;
 };
 
-// With `dataHome`, the backups folder is below it.
-Run run(const QStringList& arguments, const QString& dataHome = {}) {
+// `launcher`, when given, starts the program: its first word with the rest, the
+// program and `arguments` as arguments.
+Run run(const QStringList& arguments, const QStringList& launcher = {}) {
     QProcess process;
-    if (!dataHome.isEmpty()) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("XDG_DATA_HOME", dataHome);
-        process.setProcessEnvironment(environment);
+    if (launcher.isEmpty()) {
+        process.start(kProgram, arguments);
+    } else {
+        process.start(launcher.first(), launcher.mid(1) + QStringList{kProgram} + arguments);
     }
-    process.start(kProgram, arguments);
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit) {
         qFatal("teskal-flash %s did not end", qPrintable(arguments.join(' ')));
     }
@@ -74,6 +80,21 @@ bool containsInOrder(const QString& text, const QStringList& lines) {
         }
     }
     return next == lines.size();
+}
+
+// Whether a plotter (USB 303a:1001) is attached to this computer.
+bool plotterAttached() {
+    const QDir devices(QStringLiteral("/sys/bus/usb/devices"));
+    for (const QString& device : devices.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const auto id = [&](const char* name) {
+            QFile file(devices.filePath(device + '/' + name));
+            return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+        };
+        if (id("idVendor") == "303a" && id("idProduct") == "1001") {
+            return true;
+        }
+    }
+    return false;
 }
 
 qint64 devImageSize(const QString& name) {
@@ -122,15 +143,24 @@ class CliTest : public QObject {
     void subcommands();
     void versionNamesTheProgramItsBuildAndTheFirmware();
     void jsonLogLinesCarryTheirSeverity();
+    void theMachinesStartDecidesTheStatus();
     void severalPlottersRunAtOnce();
     void fleetEndsWithTheFirstFailureInPortOrder();
     void terminalProgressIsRedrawnInPlace();
     void ctrlCWarnsOnceDuringAWrite();
+    void aPortTheUserMayNotOpenIsNamedAndGetsNothing();
+    void doctorAndDetectSayWhyNoPlotterIsReady();
     void backupsAreListedAndRestored();
 
   private:
     QString file(const QString& name) const { return files_.filePath(name); }
     QTemporaryDir files_;
+    // A serial port nobody serves, and one whose every open fails as a USB node's
+    // does once its device has gone.
+    const FreePty free_;
+    const FreePty gone_{false};
+    const QString freePort_ = QString::fromStdString(free_.path);
+    const QString gonePort_ = QString::fromStdString(gone_.path);
 };
 
 void CliTest::initTestCase() {
@@ -181,14 +211,23 @@ void CliTest::subcommands_data() {
     QTest::addColumn<QString>("err");  // exact; null: not compared
 
     const QString device = "Device running firmware v3.7.8 \u2014 updating firmware only.";
+    // The command line's own words, not the window's menus.
     const QString note = QStringLiteral(
-        "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for "
+        "NOTE: Flash was erased. Run teskal-flash upload-config to upload the configuration for "
         "your machine.");
     QTest::newRow("detect, 64 simulated")
         << L{"detect", "--sim", "64"} << 0 << L{"sim1", "sim2", "sim64"} << L{"sim65"} << "";
     QTest::newRow("version") << L{"version", "--sim"} << 0 << L{"v3.7.8"} << L{} << "";
+    // A port that cannot be used is named as such, never as a silent machine.
+    QTest::newRow("version, port missing")
+        << L{"version", "--port", kNoPort} << 2 << L{} << L{}
+        << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
+    QTest::newRow("version, not a serial port")
+        << L{"version", "--port", "/dev/null"} << 2 << L{} << L{}
+        << "ERROR: /dev/null is not a serial port. Name the plotter's port, for example "
+           "/dev/ttyACM0.\n";
     QTest::newRow("version, no answer")
-        << L{"version", "--port", kNoPort} << 9 << L{} << L{}
+        << L{"version", "--port", freePort_} << 9 << L{} << L{}
         << "ERROR: Operation timed out. Try unplugging and reconnecting.\n";
     QTest::newRow("probe") << L{"probe", "--sim"} << 0 << L{"Partition table: present"} << L{}
                            << "";
@@ -222,11 +261,11 @@ void CliTest::subcommands_data() {
         << "ERROR: Firmware image refused: not a firmware image (first byte 0x7B, expected "
            "0xE9)\n";
     QTest::newRow("flash, development image for a real port")
-        << L{"flash", "--sim", "--port", kNoPort} << 11 << L{} << L{"Checking device status"}
+        << L{"flash", "--sim", "--port", freePort_} << 11 << L{} << L{"Checking device status"}
         << "ERROR: Firmware image refused: a development image, not firmware\n";
     QTest::newRow("flash, resources missing")
-        << L{"flash", "--port", kNoPort, "--resources", file("empty-resources")} << 12 << L{} << L{}
-        << "ERROR: Bundled firmware not found\n";
+        << L{"flash", "--port", freePort_, "--resources", file("empty-resources")} << 12 << L{}
+        << L{} << "ERROR: Bundled firmware not found\n";
     QTest::newRow("upload, product")
         << L{"upload-config", "--sim", "--product", "Corvane Halcot"} << 0
         << L{"Preparing Corvane Halcot config v1.2.0-devset", kUploaded} << L{} << "";
@@ -243,15 +282,20 @@ void CliTest::subcommands_data() {
         << "ERROR: The development set's configurations are only for simulated plotters\n";
     QTest::newRow("upload, port cannot be opened")
         << L{"upload-config", "--resources", kDev, "--product", "Halcot.yaml", "--port", kNoPort}
-        << 2 << L{"Preparing Corvane Halcot config v1.2.0-devset"} << L{}
-        << "ERROR: Could not open serial port. Is another app using it?\n";
+        << 2 << L{} << L{"Preparing"}
+        << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
     QTest::newRow("save-config") << L{"save-config", "--sim", file("saved.yaml")} << 0
                                  << L{"Machine config saved to " + file("saved.yaml") +
                                       " (512 bytes)"}
                                  << L{} << "";
     QTest::newRow("save-config, port cannot be opened")
         << L{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 2 << L{} << L{}
-        << "ERROR: Could not read config.yaml from the machine: Failed to open port\n";
+        << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
+    QTest::newRow("save-config, the port's device has gone")
+        << L{"save-config", "--port", gonePort_, file("unsaved.yaml")} << 2 << L{} << L{}
+        << "ERROR: " + gonePort_ +
+               " does not answer: its device has gone. Unplug the plotter, plug it in again and "
+               "try again.\n";
     QTest::newRow("save-config, destination cannot be written")
         << QStringList{"save-config", "--sim", "/nonexistent/folder/machine.yaml"} << 17
         << QStringList{} << QStringList{"Machine config saved"} << QString();
@@ -260,7 +304,9 @@ void CliTest::subcommands_data() {
         << QStringList{"Exit status:",
                        "  0  saved",
                        "  1  no plotter is connected",
-                       "  2  the port could not be opened",
+                       "  2  the port cannot be used (missing, not a serial port, not permitted, "
+                       "in "
+                       "use) or could not be opened",
                        "  8  a configuration transfer with the machine failed (upload or download)",
                        "  17 a file could not be written on this computer"}
         << QStringList{"  9 "} << "";
@@ -270,6 +316,10 @@ void CliTest::subcommands_data() {
                        "  8  a configuration transfer with the machine failed (upload or "
                        "download) (also when no plotter is connected)"}
         << QStringList{"  1  no plotter"} << "";
+    QTest::newRow("doctor's statuses")
+        << QStringList{"doctor", "--help"} << 0
+        << QStringList{"  0  a plotter is ready to use", "  1  no plotter is ready to use"}
+        << QStringList{"  2 "} << "";
     QTest::newRow("diff-config, different")
         << L{"diff-config", "--sim", "--product", "Corvane Halcot"} << 1
         << L{"axes/x/max_travel_mm: 300.000 \u2192 330.000", "+ axes/z/motor0/rc_servo/pwm_hz: 50",
@@ -322,7 +372,7 @@ void CliTest::subcommands_data() {
            "(.yaml, .yml)\n"
            "ERROR: 3 of 3 files refused\n";
     QTest::newRow("flash, real port, marker at the end of a bundled image")
-        << L{"flash", "--resources", file("real"), "--port", kNoPort} << 11 << L{}
+        << L{"flash", "--resources", file("real"), "--port", freePort_} << 11 << L{}
         << L{"Checking device status"}
         << "ERROR: Bundled esp32s3_stub.bin refused: a development image, not firmware\n";
     QTest::newRow("detect, 65 simulated")
@@ -376,6 +426,37 @@ void CliTest::jsonLogLinesCarryTheirSeverity() {
                       "configuration (.yaml, .yml)"}})));
 }
 
+// After the write the machine's own start decides: the status, "machine", its lines
+// as evidence, and the text ends with the verdict, never with "complete".
+void CliTest::theMachinesStartDecidesTheStatus() {
+    const std::tuple<QStringList, int, QString, QString> rows[] = {
+        {{"flash", "--sim-startup", "panic"}, 13, "panic", "Guru Meditation Error"},
+        {{"flash", "--sim-startup", "no-app"}, 13, "no-app", "invalid header: 0xffffffff"},
+        {{"flash", "--sim-startup", "other-version"}, 10, "wrong-version", "[VER:0.9.0"},
+        {{"upload-config", "--sim-startup", "config-error", "--product", "Corvane Halcot"},
+         14,
+         "config-error",
+         "[MSG:ERR: Bad GPIO"},
+    };
+    for (const auto& [arguments, status, machine, evidence] : rows) {
+        const Run json = run(QStringList(arguments) << "--sim"
+                                                    << "--json");
+        QCOMPARE(json.exitCode, status);
+        const QJsonObject result = jsonObjects(json.out).last();
+        QCOMPARE(result["code"].toInt(), status);
+        QCOMPARE(result["machine"].toString(), machine);
+        QVERIFY(result["evidence"].toArray().first().toString().startsWith(evidence));
+    }
+    const Run text = run({"flash", "--sim", "--sim-startup", "panic"});
+    const QStringList ending = text.err.split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(ending.first(),
+             "ERROR: Firmware written, but the machine does not start: it crashed at start-up.");
+    QVERIFY(ending[1].startsWith("  Guru Meditation Error"));
+    QCOMPARE(ending.last(),
+             "Run teskal-flash flash --erase-all. If it keeps happening, keep this output for "
+             "support.");
+}
+
 // Each plotter's JSON lines carry its port; an application-only update writes the
 // boot-app image and the application, and its regions run from 0.12 to 0.85.
 void CliTest::severalPlottersRunAtOnce() {
@@ -390,9 +471,12 @@ void CliTest::severalPlottersRunAtOnce() {
         last[key] = object;
     }
     for (const QString port : {"sim1", "sim2"}) {
-        QCOMPARE(
-            last[port + " result"],
-            QJsonObject({{"type", "result"}, {"code", 0}, {"message", kComplete}, {"port", port}}));
+        QCOMPARE(last[port + " result"], QJsonObject({{"type", "result"},
+                                                      {"code", 0},
+                                                      {"message", kRunning},
+                                                      {"machine", "running"},
+                                                      {"evidence", QJsonArray{"[VER:2.10.6:]"}},
+                                                      {"port", port}}));
         QCOMPARE(last[port + " progress"]["bytes"].toInteger(),
                  devImageSize("boot_app0") + devImageSize("firmware"));
         QCOMPARE(qRound(last[port + " progress"]["fraction"].toDouble() * 100), 85);
@@ -401,12 +485,12 @@ void CliTest::severalPlottersRunAtOnce() {
     // Text: one result line each; the status is the first failure in port order.
     const Run mixed =
         run({"flash", "--sim", "2", "--port", "sim2", "--port", kNoPort, "--port", "sim1"});
-    QCOMPARE(mixed.exitCode, 11);
-    QVERIFY(mixed.out.contains("sim2: " + kComplete + '\n'));
-    QVERIFY(mixed.out.contains("sim1: " + kComplete + '\n'));
+    QCOMPARE(mixed.exitCode, 2);
+    QVERIFY(mixed.out.contains("sim2: " + kRunning + '\n'));
+    QVERIFY(mixed.out.contains("sim1: " + kRunning + '\n'));
     QVERIFY2(!mixed.out.contains("Updating firmware"), "log lines only with --verbose");
-    QCOMPARE(mixed.err,
-             kNoPort + ": ERROR: Firmware image refused: a development image, not firmware\n");
+    QCOMPARE(mixed.err, kNoPort + ": ERROR: " + kNoPort +
+                            " does not exist. Plug the plotter in, or name another port.\n");
 }
 
 // Each child as "PORT CODE" for a result, "PORT error" for an error after it.
@@ -500,18 +584,97 @@ void CliTest::ctrlCWarnsOnceDuringAWrite() {
     }
 }
 
+// As an ordinary user on a port they may not open, every command that opens a port
+// says "permission", names the group and the fix, exits 2 and sends nothing.
+void CliTest::aPortTheUserMayNotOpenIsNamedAndGetsNothing() {
+    const FreePty pty;
+    QVERIFY(::fcntl(pty.master, F_SETFL, O_NONBLOCK) == 0);
+    const QString port = QString::fromStdString(pty.path);
+    QString denied;
+    QStringList launcher;
+    if (::geteuid() == 0) {
+        // Mode bits stop no open by root: the port is given to root and dialout, and
+        // the program runs as user nobody, who is in neither.
+        const group* dialout = ::getgrnam("dialout");
+        if (dialout == nullptr || QStandardPaths::findExecutable("setpriv").isEmpty()) {
+            QSKIP("needs the group dialout and setpriv to drop privileges");
+        }
+        QVERIFY(::chown(qPrintable(port), 0, dialout->gr_gid) == 0);
+        QVERIFY(::chmod(qPrintable(port), 0660) == 0);
+        launcher = QStringList{"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"};
+        denied = "Permission denied on " + port +
+                 " (group dialout). Install the permission rule (teskal-flash doctor), or join "
+                 "the group: sudo usermod -aG dialout $USER, then log out and in again.";
+    } else {
+        // The user's own node, without permission bits.
+        QVERIFY(::chmod(qPrintable(port), 0) == 0);
+        denied = "Permission denied on " + port + " (owner " + qgetenv("USER") +
+                 ", mode 0000). Install the permission rule (teskal-flash doctor).";
+    }
+    const QStringList commands[] = {
+        {"version", "--port", port},
+        {"flash", "--port", port},
+        {"probe", "--port", port},
+        {"save-config", "--port", port, file("denied.yaml")},
+        {"upload-config", "--resources", kDev, "--product", "Halcot.yaml", "--port", port},
+        {"diff-config", "--resources", kDev, "--product", "Halcot.yaml", "--port", port},
+    };
+    for (const QStringList& command : commands) {
+        const Run result = run(command, launcher);
+        QCOMPARE(result.exitCode, 2);
+        QCOMPARE(result.err, "ERROR: " + denied + '\n');
+        QCOMPARE(result.out, QString());
+        char received[64];
+        QVERIFY2(::read(pty.master, received, sizeof received) <= 0, qPrintable(command.first()));
+    }
+}
+
+void CliTest::doctorAndDetectSayWhyNoPlotterIsReady() {
+    if (plotterAttached()) {
+        QSKIP("a plotter is attached to this computer");
+    }
+    const QString noPlotter = QStringLiteral("No plotter seen on USB.");
+    const QString fix = QStringLiteral(
+        "Switch it on, try another USB port, and use a cable that carries data: some cables only "
+        "charge.");
+    const Run text = run({"doctor"});
+    QCOMPARE(text.exitCode, 1);
+    QCOMPARE(text.out.section('\n', 0, 1), "\u2717 " + noPlotter + "\n  " + fix);
+    QCOMPARE(text.err, QStringLiteral("ERROR: No plotter is ready to use.\n"));
+
+    // One object per row, then the result; the rows after the first are the
+    // computer's other USB serial devices.
+    const QList<QJsonObject> objects = jsonObjects(run({"doctor", "--json"}).out);
+    QCOMPARE(
+        objects.first(),
+        QJsonObject({{"type", "check"}, {"mark", "problem"}, {"line", noPlotter}, {"fix", fix}}));
+    QCOMPARE(
+        objects.last(),
+        QJsonObject({{"type", "result"}, {"code", 1}, {"message", "No plotter is ready to use."}}));
+    for (const QJsonObject& other : objects.mid(1, objects.size() - 2)) {
+        QCOMPARE(other["mark"].toString(), QStringLiteral("info"));
+    }
+
+    const Run detect = run({"detect"});
+    QCOMPARE(detect.exitCode, 1);
+    QCOMPARE(detect.err,
+             QStringLiteral(
+                 "ERROR: No device found. Is it connected? Run teskal-flash doctor to see why.\n"));
+}
+
 void CliTest::backupsAreListedAndRestored() {
     const QString data = file("data");
+    qputenv("XDG_DATA_HOME", data.toUtf8());
     const QString folder = data + "/teskal-firmware-updater/backups";
-    const Run none = run({"backups"}, data);
+    const Run none = run({"backups"});
     QCOMPARE(none.exitCode, 0);
     QCOMPARE(none.out, "No backups in " + folder + '\n');
-    const Run nothingToRestore = run({"restore-config", "--sim"}, data);
+    const Run nothingToRestore = run({"restore-config", "--sim"});
     QCOMPARE(nothingToRestore.exitCode, 15);
     QCOMPARE(nothingToRestore.err, "ERROR: No backup of the machine sim1 in " + folder + '\n');
 
-    QCOMPARE(run({"save-config", "--sim", file("kept.yaml")}, data).exitCode, 0);
-    const Run listed = run({"backups", "--json"}, data);
+    QCOMPARE(run({"save-config", "--sim", file("kept.yaml")}).exitCode, 0);
+    const Run listed = run({"backups", "--json"});
     QCOMPARE(listed.exitCode, 0);
     const QJsonArray backups = jsonObjects(listed.out).last()["backups"].toArray();
     QCOMPARE(backups.size(), 1);
@@ -523,14 +686,15 @@ void CliTest::backupsAreListedAndRestored() {
     const QString path = backup["path"].toString();
     QVERIFY2(path.startsWith(folder + "/config-"), qPrintable(path));
 
-    const Run restored = run({"restore-config", "--sim", QFileInfo(path).fileName()}, data);
+    const Run restored = run({"restore-config", "--sim", QFileInfo(path).fileName()});
     QCOMPARE(restored.exitCode, 0);
     QVERIFY2(
         containsInOrder(restored.out,
                         {"Preparing " + QFileInfo(path).fileName() + " v0.0.0-sim", kUploaded}),
         qPrintable(restored.out));
     QVERIFY(restored.out.contains("Settings restored from the backup of "));
-    QCOMPARE(run({"restore-config", "--sim", "config-19990101-000000.yaml"}, data).exitCode, 15);
+    QCOMPARE(run({"restore-config", "--sim", "config-19990101-000000.yaml"}).exitCode, 15);
+    qputenv("XDG_DATA_HOME", file("home-data").toUtf8());
 }
 
 QTEST_GUILESS_MAIN(CliTest)

@@ -25,6 +25,11 @@ library=$(ldd "$usr/bin/teskal-flash" | awk '$1 == "libespflasher.so" { print $3
 [ "$(realpath -m "$library")" = "$(realpath "$usr/lib/libespflasher.so")" ] ||
     fail "libespflasher.so taken from '$library', not from the package"
 [ -x "$usr/bin/teskal-updater-sim" ] || fail "teskal-updater-sim is not in the package"
+# The Connection Check's root helper finds the rule it installs beside itself.
+helper=$usr/lib/teskal-firmware-updater/install-udev-rule
+[ -x "$helper" ] || fail "the permission rule's installer is not in the package"
+[ -f "$(dirname "$helper")/../udev/rules.d/60-teskal-firmware-updater.rules" ] ||
+    fail "the installer would not find the udev rule"
 if [ -d "$share/resources" ] && grep -rqF "TESKAL DEVELOPMENT IMAGE" "$share/resources"; then
     fail "the real programs' resources hold development images"
 fi

@@ -71,7 +71,9 @@ TEST(WriteStall, EndsAWriteOnlyAfterTenSecondsWithoutProgress) {
         for (int i = 0; i < 2000 && written && received < block.size(); ++i, ::usleep(1000)) {
             readLine();
         }
-        EXPECT_EQ(received, written ? block.size() : 0u);
+        // The kernel may pass a little on to the master side after the first full
+        // buffer, which moves the stall's start; the block never gets through.
+        EXPECT_EQ(received == block.size(), written);
         port.close();
         ::close(slave);
         ::close(master);

@@ -6,10 +6,13 @@
 #include <QTextBrowser>
 #include <QTreeWidget>
 
+#include "../support/FakeSysfs.h"
+#include "../support/FreePty.h"
 #include "UiTestSupport.h"
 #include "app/BackupIndex.h"
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
+#include "ui/ConnectionCheckWindow.h"
 #include "ui/LogPanel.h"
 #include "ui/RestoreWindow.h"
 #include "ui/SingleInstance.h"
@@ -46,6 +49,8 @@ class AppDelegateTest : public QObject {
     void saveLogWritesHeaderAndLinesOrLogsWhyNot();
     void fileDialogsTakeOnlyTheirExtensions();
     void aSecondCopyOfAProgramFindsItLocked();
+    void theLinkOpensTheConnectionCheckWhichClosesOnceThePlotterIsReady();
+    void thePermissionRuleIsInstalledByItsOneFixedCommand();
     void restoreWindowPutsThisMachineOnTopAndActsOnTheSelectedRow();
 
   private:
@@ -58,6 +63,7 @@ class AppDelegateTest : public QObject {
     QAction* action(const QString& title) const { return menuItem(delegate_->window(), title); }
 
     QTemporaryDir resources_;
+    FakeSysfs devices_;
     std::unique_ptr<AppDelegate> delegate_;
     // What the file dialogs were asked; the save dialog's answer and proposed name.
     QList<FileRequest> fileRequests_;
@@ -69,6 +75,8 @@ void AppDelegateTest::launch(QList<ProductConfig> products) {
     delegate_.reset();
     AppDelegate::Options options;
     options.products = std::move(products);
+    options.devicePlaces = {QString::fromStdString(devices_.sys),
+                            QString::fromStdString(devices_.dev)};
     options.chooseFile = [this](QWidget*, const FileRequest& request) {
         fileRequests_.append(request);
         return std::optional<QString>();
@@ -355,6 +363,83 @@ void AppDelegateTest::restoreWindowPutsThisMachineOnTopAndActsOnTheSelectedRow()
 
     RestoreWindow empty({}, QString(), index.folder());
     QVERIFY(!empty.restoreButton()->isEnabled() && !empty.compareButton()->isEnabled());
+}
+
+void AppDelegateTest::theLinkOpensTheConnectionCheckWhichClosesOnceThePlotterIsReady() {
+    auto* view = qobject_cast<UpdaterView*>(delegate_->window()->centralWidget());
+    QVERIFY(!view->notFoundLink()->isVisible());
+    view->showConnectionHint(true);
+    QVERIFY(view->notFoundLink()->isVisible());
+    emit view->notFoundLink()->linkActivated(QStringLiteral("check"));
+    ConnectionCheckWindow* check = delegate_->connectionCheckWindow();
+    QVERIFY(check != nullptr && check->isVisible());
+    QCOMPARE(check->windowTitle(), QStringLiteral("Connection Check"));
+    QCOMPARE(check->checklist().rows.first().line, QStringLiteral("No plotter seen on USB."));
+    QSignalSpy ready(check, &ConnectionCheckWindow::plotterReady);
+
+    // The plotter is plugged in while the window is open; its node leads to a free
+    // pseudo-terminal.
+    const FreePty pty;
+    devices_.ids("usb1/1-1", "303a", "1001", true);
+    devices_.interface("usb1/1-1/1-1:1.0", "cdc_acm");
+    devices_.tty("ttyACM0", "usb1/1-1/1-1:1.0", true, false);
+    const std::string node = devices_.dev + "/ttyACM0";
+    std::filesystem::create_symlink(pty.path, node);
+    QTRY_COMPARE_WITH_TIMEOUT(ready.count(), 1, 5000);
+    QCOMPARE(ready.first().first().toString(), QString::fromStdString(node));
+    QCOMPARE(check->checklist().rows.last().line,
+             QString::fromStdString("Ready: the plotter on " + node + " can be used."));
+    QTRY_VERIFY_WITH_TIMEOUT(!check->isVisible(), 5000);
+}
+
+void AppDelegateTest::thePermissionRuleIsInstalledByItsOneFixedCommand() {
+    QCOMPARE(PermissionRule::forExecutableDir("/opt/teskal/bin").program(),
+             QStringLiteral("/usr/bin/pkexec"));
+    QCOMPARE(PermissionRule::forExecutableDir("/opt/teskal/bin").arguments(),
+             QStringList{"/opt/teskal/lib/teskal-firmware-updater/install-udev-rule"});
+    QCOMPARE(PermissionRule::forExecutableDir("/opt/teskal/bin").rule,
+             QStringLiteral("/opt/teskal/lib/udev/rules.d/60-teskal-firmware-updater.rules"));
+
+    // Installed, with pkexec: the button runs the command, and only it.
+    QTemporaryDir prefix;
+    QVERIFY(QDir(prefix.path()).mkpath("bin") && QDir(prefix.path()).mkpath("lib/udev/rules.d") &&
+            QDir(prefix.path()).mkpath("lib/teskal-firmware-updater"));
+    PermissionRule rule = PermissionRule::forExecutableDir(prefix.filePath("bin"));
+    rule.pkexec = prefix.filePath("bin/pkexec");
+    for (const QString& program : {rule.pkexec, rule.helper}) {
+        QFile file(program);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    }
+    QList<QStringList> started;
+    bool starts = true;
+    ConnectionCheckWindow window({}, rule, [&](const QString& program, const QStringList& args) {
+        started << (QStringList{program} + args);
+        return starts;
+    });
+    QVERIFY(window.installRuleButton()->isEnabled());
+    window.installRuleButton()->click();
+    QCOMPARE(started, QList<QStringList>({{rule.pkexec, rule.helper}}));
+    starts = false;
+    window.installRuleButton()->click();
+    const auto labels = window.findChildren<QLabel*>();
+    QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+        return label->text() == "The permission rule's installer could not be started.";
+    }));
+
+    // Without its helper the button is disabled and says what to type instead.
+    QFile::remove(rule.helper);
+    QVERIFY(QFile(rule.rule).open(QIODevice::WriteOnly));
+    ConnectionCheckWindow byHand({}, rule, [&](const QString&, const QStringList&) {
+        started << QStringList{"started"};
+        return true;
+    });
+    QVERIFY(!byHand.installRuleButton()->isEnabled());
+    QCOMPARE(byHand.installRuleButton()->toolTip(),
+             "pkexec or the rule's installer is missing. Run by hand: sudo cp " + rule.rule +
+                 " /etc/udev/rules.d/ && sudo udevadm control --reload && sudo udevadm trigger");
+    byHand.installRuleButton()->click();
+    QCOMPARE(started.size(), 2);
 }
 
 QTEST_MAIN(AppDelegateTest)

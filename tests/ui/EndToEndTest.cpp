@@ -2,11 +2,12 @@
 #include <QTreeWidget>
 
 #include "UiTestSupport.h"
-#include "sim/PtyPlotter.h"
+#include "app/SimulatedPlotter.h"
 #include "ui/AppDelegate.h"
 #include "ui/CompareWindow.h"
 #include "ui/LogPanel.h"
 #include "ui/LogView.h"
+#include "ui/ResultBanner.h"
 #include "ui/RestoreWindow.h"
 #include "ui/UpdaterView.h"
 
@@ -22,7 +23,8 @@ class EndToEndTest : public QObject {
 };
 
 void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
-    sim::PtyPlotter plotter;
+    const auto plotter =
+        startSimulatedPlotter(ResourceBundle(TFU_DEV_RESOURCES_DIR), SimulatedPace::instant);
     int exits = 0;
     QTemporaryDir folder;
     qputenv("XDG_DATA_HOME", folder.filePath("data").toUtf8());
@@ -36,7 +38,7 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     AppDelegate delegate(
         std::make_unique<UpdateController>(
             ResourceBundle(TFU_DEV_RESOURCES_DIR),
-            [port = plotter.path()](uint16_t, uint16_t) { return strdup(port.c_str()); },
+            [port = plotter->path()](uint16_t, uint16_t) { return strdup(port.c_str()); },
             UpdateController::DevelopmentImages::accept),
         std::move(options));
     delegate.applicationDidFinishLaunching();
@@ -88,10 +90,14 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     QVERIFY(log.contains("Flash plan: 2 entries (app only)"));
     QVERIFY(log.contains("Verifying firmware version..."));  // the shipped version is expected
     QCOMPARE(log.filter(QStringLiteral("ERROR:")), QStringList());
+    QTRY_VERIFY(!delegate.updateController().jobRunning());
+    const ResultBanner* banner = view->resultBanner();
+    QVERIFY(banner->isVisible());
+    QCOMPARE(banner->headline()->text(), QStringLiteral("Firmware 2.10.6 installed and running."));
     QVERIFY(buttonHeldDisabled);
     QTRY_VERIFY(view->updateButton()->isEnabled());
     QTRY_COMPARE(view->statusLabel()->text(), QStringLiteral("Device connected"));
-    QCOMPARE(view->portLabel()->text(), "(" + QString::fromStdString(plotter.path()) + ")");
+    QCOMPARE(view->portLabel()->text(), "(" + QString::fromStdString(plotter->path()) + ")");
 
     menuItem(window, "Save Machine Config\u2026")->trigger();
     QTRY_VERIFY_WITH_TIMEOUT(!delegate.updateController().jobRunning(), 20000);
@@ -105,7 +111,7 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     RestoreWindow* restore = delegate.restoreWindow();
     QCOMPARE(restore->backups().size(), 1);
     QCOMPARE(restore->list()->topLevelItem(0)->text(4),
-             QString::fromStdString(plotter.path()) + " (this machine)");
+             QString::fromStdString(plotter->path()) + " (this machine)");
     QTest::mouseClick(restore->restoreButton(), Qt::LeftButton);
     QTRY_VERIFY_WITH_TIMEOUT(!log.isEmpty() && log.last().startsWith("Settings restored from the "
                                                                      "backup of "),
@@ -126,6 +132,9 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     QTRY_VERIFY_WITH_TIMEOUT(log.contains(QStringLiteral("Upload successful; restarting machine.")),
                              60000);
     QVERIFY(log.first().startsWith(QStringLiteral("Preparing ") + product.name + " config"));
+    QTRY_COMPARE_WITH_TIMEOUT(
+        banner->headline()->text(),
+        QStringLiteral("Configuration uploaded; the machine restarted with it."), 20000);
     QVERIFY(buttonHeldDisabled);
 
     // With Erase All Flash the update asks first; Cancel starts nothing.

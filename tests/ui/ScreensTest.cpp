@@ -3,10 +3,13 @@
 #include <QTabWidget>
 #include <QTextBrowser>
 
+#include "../support/FakeSysfs.h"
 #include "UiTestSupport.h"
+#include "app/operations/CheckStartup.h"
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
 #include "ui/CompareWindow.h"
+#include "ui/ConnectionCheckWindow.h"
 #include "ui/EraseQuestions.h"
 #include "ui/Fonts.h"
 #include "ui/LogPanel.h"
@@ -29,6 +32,7 @@ class ScreensTest : public QObject {
     void mainWindowStates();
     void aboutWindow();
     void compareWindow();
+    void connectionCheckWindow();
     void restoreWindow();
 
   private:
@@ -52,6 +56,9 @@ void ScreensTest::mainWindowStates() {
     const QSignalBlocker quiet(delegate.updateController().deviceMonitor());
     auto* view = qobject_cast<UpdaterView*>(window->centralWidget());
     save(window, QStringLiteral("main-idle"));
+    view->showConnectionHint(true);
+    save(window, QStringLiteral("main-plotter-not-found"));
+    view->showConnectionHint(false);
 
     view->showConnection(true, QStringLiteral("/dev/ttyACM0"));
     const QString sample =
@@ -79,6 +86,38 @@ void ScreensTest::mainWindowStates() {
         view->showLog(lines);
         save(window, name);
     }
+    // Every kind of result banner, over a finished job's log.
+    const auto verdict = [](int kind, const QStringList& evidence) {
+        FlasherBridge::StartupReport report;
+        report.verdict = kind;
+        report.version = kind == ESP_STARTUP_WRONG_VERSION ? std::optional<QString>("2.9.1")
+                                                           : std::optional<QString>("2.10.6");
+        report.evidence = evidence;
+        return startupOutcome(report, StartupCause::Written::firmware, QStringLiteral("2.10.6"));
+    };
+    const std::pair<QString, Outcome> banners[] = {
+        {"banner-running", verdict(ESP_STARTUP_RUNNING, {})},
+        {"banner-wrong-version", verdict(ESP_STARTUP_WRONG_VERSION, {"[VER:2.9.1:]"})},
+        {"banner-panic",
+         verdict(ESP_STARTUP_PANIC,
+                 {"Guru Meditation Error: Core  1 panic'ed (LoadProhibited). Exception was "
+                  "unhandled.",
+                  "Backtrace: 0x4200b9c3:0x3fcebe60 0x4200c1a6:0x3fcebe90",
+                  "rst:0xc (RTC_SW_CPU_RST),boot:0x8 (SPI_FAST_FLASH_BOOT)"})},
+        {"banner-config-error",
+         verdict(ESP_STARTUP_CONFIG_ERROR,
+                 {"[MSG:ERR: Bad GPIO gpio.48 for axes/x/motor0/stepstick/step_pin]"})},
+        {"banner-failed", Outcome::library(3)},
+    };
+    view->showState(UpdateState::flashComplete());
+    view->showStatusMessage(QStringLiteral("Device connected"));
+    view->showLog(LogEntries(log) << LogEntry::info("Firmware update complete."));
+    for (const auto& [name, outcome] : banners) {
+        view->showResult(outcome);
+        save(window, name);
+    }
+    view->showResult(std::nullopt);
+
     // About 60 characters a line: the 56-character sample line must not wrap.
     QVERIFY(view->logPanel()->view()->viewport()->width() >=
             QFontMetrics(Fonts::monospace(11)).horizontalAdvance(sample));
@@ -157,6 +196,24 @@ void ScreensTest::restoreWindow() {
     restore.show();
     QVERIFY(QTest::qWaitForWindowExposed(&restore));
     save(&restore, QStringLiteral("restore"));
+}
+
+// A plotter whose serial port was never made, beside a USB serial adapter.
+void ScreensTest::connectionCheckWindow() {
+    FakeSysfs tree;
+    tree.ids("usb1/1-1", "303a", "1001", true);
+    tree.attribute("usb1/1-1", "serial", "F4:12:FA:6C:3B:90");
+    tree.interface("usb1/1-1/1-1:1.0", "");
+    tree.ids("usb1/1-2", "1a86", "7523", true);
+    tree.attribute("usb1/1-2", "product", "USB Serial");
+    tree.interface("usb1/1-2/1-2:1.0", "ch341");
+    tree.tty("ttyUSB0", "usb1/1-2/1-2:1.0/ttyUSB0");
+    ConnectionCheckWindow check(
+        {QString::fromStdString(tree.sys), QString::fromStdString(tree.dev)},
+        PermissionRule::installed());
+    check.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&check));
+    save(&check, QStringLiteral("connection-check"));
 }
 
 QTEST_MAIN(ScreensTest)

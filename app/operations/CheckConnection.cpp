@@ -1,0 +1,118 @@
+#include "app/operations/CheckConnection.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "app/DeviceMonitor.h"
+#include "app/PortDiagnosis.h"
+#include "app/Texts.h"
+#include "esp_flasher.h"
+
+namespace {
+
+using Devices = std::vector<esp_usb_serial_device>;
+
+// Devices may come or go between the count and the copy: keep only the entries
+// the second call filled.
+Devices survey(const CheckConnection::Places& places) {
+    const QByteArray sysfs = places.sysfsRoot.toUtf8();
+    const QByteArray dev = places.devRoot.toUtf8();
+    Devices devices(esp_survey_usb_serial(sysfs.constData(), dev.constData(), nullptr, 0));
+    devices.resize(std::min(
+        devices.size(),
+        esp_survey_usb_serial(sysfs.constData(), dev.constData(), devices.data(), devices.size())));
+    return devices;
+}
+
+bool isPlotter(const esp_usb_serial_device& device) {
+    return device.vendorId == DeviceMonitor::kVendorId &&
+           device.productId == DeviceMonitor::kProductId;
+}
+
+// The plotter to check: the first one that has a port, else the first one.
+const esp_usb_serial_device* chosenPlotter(const Devices& devices) {
+    const auto withPort = std::find_if(devices.begin(), devices.end(), [](const auto& device) {
+        return isPlotter(device) && device.path[0] != '\0';
+    });
+    const auto any = std::find_if(devices.begin(), devices.end(), isPlotter);
+    return withPort != devices.end() ? &*withPort : any != devices.end() ? &*any : nullptr;
+}
+
+void checkPort(const QString& path, const QString& rule, Checklist& list) {
+    const PortCause cause = PortDiagnosis::check(path, PortDiagnosis::Probe::look);
+    const CheckRow problem =
+        CheckRow::failed(Texts::portProblem(cause), Texts::portFix(cause, rule));
+    switch (cause.problem) {
+        case ESP_PORT_OK:
+            list.rows << CheckRow::passed(Texts::mayOpen(path))
+                      << CheckRow::passed(Texts::notHeld(path));
+            list.readyPort = path;
+            return;
+        case ESP_PORT_HELD:
+            list.rows << CheckRow::passed(Texts::mayOpen(path)) << problem;
+            return;
+        case ESP_PORT_PERMISSION:
+            list.permissionDenied = true;
+            list.rows << problem;
+            return;
+        default:
+            list.rows << problem;
+            return;
+    }
+}
+
+// A port is made by cdc_acm, which binds to the plotter's first interface; bound
+// and without a node, udev has not made it yet.
+void checkPlotter(const esp_usb_serial_device& plotter, const QString& rule, Checklist& list) {
+    list.rows << CheckRow::passed(Texts::plotterSeen(QString::fromUtf8(plotter.serial)));
+    const QString driver = QString::fromUtf8(plotter.driver);
+    if (plotter.path[0] == '\0') {
+        list.rows << (driver == QLatin1String("cdc_acm")
+                          ? CheckRow::failed(Texts::noNode(), Texts::noNodeFix())
+                          : CheckRow::failed(Texts::noDriver(), Texts::noDriverFix()));
+        return;
+    }
+    const QString path = QString::fromUtf8(plotter.path);
+    list.rows << CheckRow::passed(Texts::portMade(path, driver));
+    checkPort(path, rule, list);
+}
+
+}  // namespace
+
+CheckConnection::CheckConnection(QString rule, Places places)
+    : rule_(std::move(rule)), places_(std::move(places)) {}
+
+Checklist CheckConnection::check() const {
+    Checklist list;
+    const Devices devices = survey(places_);
+    const esp_usb_serial_device* plotter = chosenPlotter(devices);
+    if (plotter == nullptr) {
+        list.rows << CheckRow::failed(Texts::noPlotterSeen(), Texts::noPlotterFix());
+    } else {
+        checkPlotter(*plotter, rule_, list);
+    }
+    for (const esp_usb_serial_device& device : devices) {
+        const QString path = QString::fromUtf8(device.path);
+        if (&device == plotter) {
+            continue;
+        }
+        list.rows << CheckRow::note(
+            isPlotter(device) ? Texts::otherPlotter(QString::fromUtf8(device.serial), path)
+                              : Texts::otherDevice(device.vendorId, device.productId,
+                                                   QString::fromUtf8(device.product),
+                                                   QString::fromUtf8(device.driver), path));
+    }
+    if (list.readyPort) {
+        list.rows << CheckRow::passed(Texts::portReady(*list.readyPort));
+    }
+    return list;
+}
+
+Outcome CheckConnection::run(const OperationSink&) {
+    Checklist list = check();
+    Outcome outcome = list.ready()
+                          ? Outcome::success(Texts::portReady(*list.readyPort))
+                          : Outcome::make(Outcome::Kind::notReady, Texts::noPlotterReady());
+    outcome.cause = std::move(list);
+    return outcome;
+}
