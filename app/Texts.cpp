@@ -832,6 +832,17 @@ QString restoreLaterWithCommand(const QString& path, const QString& port, const 
         .arg(path, port, name);
 }
 
+QString restorePreviousWithCommand(const QString& port, const QString& name) {
+    return QStringLiteral(
+               "To put back the configuration the machine had before: teskal-flash "
+               "restore-config --port %1 %2")
+        .arg(port, name);
+}
+
+QString restorePreviousButton() {
+    return QStringLiteral("Restore Previous Configuration");
+}
+
 QString eraseQuestion() {
     return QStringLiteral(
         "Erase All Flash also erases the machine's settings (config.yaml). Save them now and "

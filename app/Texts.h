@@ -190,6 +190,11 @@ QString erasingWithoutSaving();
 QString nothingErased(const QString& reason);  ///< "Nothing was erased: REASON"
 QString restoreLaterInWindow(const QString& path);
 QString restoreLaterWithCommand(const QString& path, const QString& port, const QString& name);
+/// After a configuration the machine rejected, the command that puts back the one
+/// it had before.
+QString restorePreviousWithCommand(const QString& port, const QString& name);
+/// The result banner's button for it.
+QString restorePreviousButton();  ///< "Restore Previous Configuration"
 /// The window's questions: before the erase, after a silent firmware (with
 /// `firmwareSilentNothingSaved` before it), after a failed read (with its reason).
 QString eraseQuestion();

@@ -159,7 +159,11 @@ void UpdateController::uploadChoice(const ConfigChoice& choice) {
     if (const auto port = portForNewJob()) {
         UploadConfig::Options options;
         options.backUpFirst = backupBeforeUpload_;
-        start(std::make_shared<UploadConfig>(*port, resources_, choice, options));
+        auto upload = std::make_shared<UploadConfig>(*port, resources_, choice, options);
+        start(upload);
+        if (jobRunning()) {
+            upload_ = upload;
+        }
     }
 }
 
@@ -188,6 +192,12 @@ void UpdateController::saveLog(const QString& path) {
     }
 }
 
+void UpdateController::restorePreviousConfiguration() {
+    if (previous_) {
+        restoreBackup(*previous_);
+    }
+}
+
 void UpdateController::restoreBackup(const Backup& backup) {
     if (const auto port = portForNewJob()) {
         UploadConfig::Options options;
@@ -212,6 +222,7 @@ std::optional<QString> UpdateController::portForNewJob() {
 
 void UpdateController::start(std::shared_ptr<Operation> operation, Then then, Then otherwise,
                              Log log) {
+    upload_.reset();
     if (const auto refused = operation->refusal()) {
         post(LogEntry::error(refused->message));
         return;
@@ -245,6 +256,9 @@ void UpdateController::finish(const Outcome& outcome) {
     }
     then_ = {};
     otherwise_ = {};
+    // Known before the result is published, so that its banner can offer it.
+    previous_ = upload_ ? upload_->previousConfiguration() : std::nullopt;
+    upload_.reset();
     assignResult(outcome);
     connectionHint_->jobEnded(outcome);
     emit jobRunningChanged(false);

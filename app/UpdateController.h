@@ -21,6 +21,7 @@
 #include "app/operations/EraseKeepingSettings.h"
 #include "app/operations/FlashFirmware.h"
 #include "app/operations/OperationRunner.h"
+#include "app/operations/UploadConfig.h"
 
 /// The application's one controller: owns the device monitor, publishes what the
 /// main window shows (see `PublishedState`), holds the menus' options, and starts
@@ -82,6 +83,11 @@ class UpdateController : public PublishedState {
     /// installs its dialogs.
     void setSettingsQuestions(SettingsQuestions questions) { questions_ = std::move(questions); }
 
+    /// The configuration the machine had before the last job, an upload, whose
+    /// configuration it rejects (see `UploadConfig::previousConfiguration`); none
+    /// after every other ending. Set before the job's result is published.
+    const std::optional<Backup>& previousConfiguration() const { return previous_; }
+
     /// True from the moment an operation is accepted (before its state leaves
     /// `ready`) until its outcome has arrived on the GUI thread.
     bool jobRunning() const { return runner_.isRunning(); }
@@ -127,6 +133,8 @@ class UpdateController : public PublishedState {
     void saveLog(const QString& path);
     /// Puts `backup` back on the machine with the normal upload (see `RestoreConfig`).
     void restoreBackup(const Backup& backup);
+    /// `restoreBackup` of `previousConfiguration`, when there is one.
+    void restorePreviousConfiguration();
 
   signals:
     void customFirmwareURLChanged(const QUrl& location);
@@ -166,6 +174,9 @@ class UpdateController : public PublishedState {
     Then then_;
     /// What follows an outcome that is a failure, once it is shown.
     Then otherwise_;
+    /// The running upload, whose previous configuration the result may offer.
+    std::shared_ptr<UploadConfig> upload_;
+    std::optional<Backup> previous_;
     // Last member: destroyed first, so a running operation ends while the rest of
     // the controller still exists.
     OperationRunner runner_;

@@ -1,5 +1,6 @@
 #include "ui/UpdaterView.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -41,6 +42,7 @@ UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
       progress_(new QProgressBar(this)),
       button_(new QPushButton(QStringLiteral("Update Firmware"), this)),
       banner_(new ResultBanner(this)),
+      restorePrevious_(new QAction(Texts::restorePreviousButton(), this)),
       log_(new LogPanel(this)) {
     setFixedSize(480, 420);
     buildLayout();
@@ -100,7 +102,12 @@ void UpdaterView::connectTo(UpdateController& controller) {
     connect(&controller, &UpdateController::statusMessageChanged, this,
             &UpdaterView::showStatusMessage);
     connect(&controller, &UpdateController::logChanged, this, &UpdaterView::showLog);
-    connect(&controller, &UpdateController::resultChanged, this, &UpdaterView::showResult);
+    connect(&controller, &UpdateController::resultChanged, this,
+            [this, &controller](const std::optional<Outcome>& result) {
+                showResult(result, controller.previousConfiguration().has_value());
+            });
+    connect(restorePrevious_, &QAction::triggered, &controller,
+            &UpdateController::restorePreviousConfiguration);
     connect(controller.connectionHint(), &ConnectionHint::offeredChanged, this,
             &UpdaterView::showConnectionHint);
     connect(notFound_, &QLabel::linkActivated, this, &UpdaterView::connectionCheckRequested);
@@ -171,8 +178,9 @@ void UpdaterView::showFirmwareLabel(const QString& label) {
     firmware_->setText(label);
 }
 
-void UpdaterView::showResult(const std::optional<Outcome>& result) {
-    banner_->showSummary(result ? summarize(*result, Texts::Audience::window) : std::nullopt);
+void UpdaterView::showResult(const std::optional<Outcome>& result, bool previousOffered) {
+    banner_->showSummary(result ? summarize(*result, Texts::Audience::window) : std::nullopt,
+                         previousOffered ? QList<QAction*>{restorePrevious_} : QList<QAction*>{});
 }
 
 void UpdaterView::showLog(const LogEntries& entries) {

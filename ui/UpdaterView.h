@@ -10,6 +10,7 @@
 #include "ui/ElidedLabel.h"
 
 class LogPanel;
+class QAction;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -42,8 +43,9 @@ class UpdaterView : public QWidget {
     /// The link "Plotter not found?" under the status row, or nothing (no space).
     void showConnectionHint(bool offered);
     void showFirmwareLabel(const QString& label);
-    /// How the last job ended, in the result banner; none hides it.
-    void showResult(const std::optional<Outcome>& result);
+    /// How the last job ended, in the result banner; none hides it. With
+    /// `previousOffered` the banner offers "Restore Previous Configuration".
+    void showResult(const std::optional<Outcome>& result, bool previousOffered = false);
     /// The log; see `LogView::setEntries` for scrolling.
     void showLog(const LogEntries& entries);
 
@@ -56,6 +58,9 @@ class UpdaterView : public QWidget {
     QPushButton* updateButton() const { return button_; }
     LogPanel* logPanel() const { return log_; }
     ResultBanner* resultBanner() const { return banner_; }
+    /// The banner's "Restore Previous Configuration"; it calls the controller's
+    /// `restorePreviousConfiguration`.
+    QAction* restorePreviousAction() const { return restorePrevious_; }
 
   signals:
     /// The link "Plotter not found?" was followed.
@@ -74,6 +79,7 @@ class UpdaterView : public QWidget {
     QProgressBar* progress_;
     QPushButton* button_;
     ResultBanner* banner_;
+    QAction* restorePrevious_;
     LogPanel* log_;
     bool isConnected_ = false;
     UpdateState state_;

@@ -1,5 +1,9 @@
 #include "app/operations/UploadConfig.h"
 
+#include <QFileInfo>
+
+#include "app/BackupIndex.h"
+#include "app/DeviceQueries.h"
 #include "app/FlasherBridge.h"
 #include "app/PortDiagnosis.h"
 #include "app/Texts.h"
@@ -74,9 +78,24 @@ Outcome UploadConfig::run(const OperationSink& sink) {
     }
     sink.enter(Phase::configUploaded);
     sink.info(Texts::uploadComplete());
-    return CheckStartup(plotter, StartupCause::Written::configuration, std::nullopt,
-                        kCheckAfterUploadMs)
-        .run(sink);
+    Outcome started = CheckStartup(plotter, StartupCause::Written::configuration, std::nullopt,
+                                   kCheckAfterUploadMs)
+                          .run(sink);
+    if (started.kind == Outcome::Kind::configRejected) {
+        findPrevious(sink);
+    }
+    return started;
+}
+
+void UploadConfig::findPrevious(const OperationSink& sink) {
+    previous_ = backup_ ? backup_
+                        : BackupIndex().newestOf(options_.machine.isEmpty()
+                                                     ? DeviceQueries::machineIdentity(port_)
+                                                     : options_.machine);
+    if (previous_ && options_.commandLinePort) {
+        sink.info(Texts::restorePreviousWithCommand(*options_.commandLinePort,
+                                                    QFileInfo(previous_->path).fileName()));
+    }
 }
 
 // The state is "uploading" from the start, also when the file then is not found.

@@ -24,6 +24,9 @@ class UploadConfig : public Operation {
         bool developmentConfigsRefused = false;
         /// The name the machine's backups are filed under; empty: found from the port.
         QString machine;
+        /// teskal-flash's name for the port: a rejected configuration is then
+        /// followed by the restore-config command that puts the previous one back.
+        std::optional<QString> commandLinePort;
     };
 
     UploadConfig(QString port, ResourceBundle resources, ConfigChoice choice, Options options);
@@ -42,15 +45,18 @@ class UploadConfig : public Operation {
     /// the backup's failure, with the library's code, or with the machine's verdict
     /// (a success when it runs with the new configuration); `portUnusable` before it
     /// logs anything, or after the library could not open the port, when the port
-    /// cannot be used (see `PortDiagnosis`).
+    /// cannot be used (see `PortDiagnosis`). A configuration the machine rejects
+    /// finds `previousConfiguration`.
     Outcome run(const OperationSink& sink) override;
 
-    /// The backup kept before this upload, once `run` has kept one.
-    const std::optional<Backup>& backup() const { return backup_; }
+    /// After a run that ended `configRejected`: the configuration the machine had
+    /// before, the backup kept before this upload or else the machine's newest.
+    const std::optional<Backup>& previousConfiguration() const { return previous_; }
 
   private:
     std::optional<Outcome> backUp(const OperationSink& sink);
     std::optional<QByteArray> productConfig(const OperationSink& sink) const;
+    void findPrevious(const OperationSink& sink);
 
     QString port_;
     ResourceBundle resources_;
@@ -60,4 +66,5 @@ class UploadConfig : public Operation {
     QByteArray fileBytes_;
     QString announcement_;
     std::optional<Backup> backup_;
+    std::optional<Backup> previous_;
 };

@@ -53,6 +53,7 @@ class ControllerSimTest : public QObject {
     void aPortHeldByAnotherProgramIsRefusedBeforeAnythingIsSent();
     void eraseAllKeepsTheMachinesSettings();
     void teskalFlashErasesASilentMachineSayingNothingWasSaved();
+    void aRejectedConfigurationIsOneStepFromThePreviousOne();
 };
 
 void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
@@ -465,6 +466,46 @@ void ControllerSimTest::teskalFlashErasesASilentMachineSayingNothingWasSaved() {
                           "Updating firmware v2.10.6\u2026"}));
     QVERIFY(transcript(plotter).contains("ERASE_FLASH"));
     QVERIFY(BackupIndex().list().isEmpty());
+}
+
+void ControllerSimTest::aRejectedConfigurationIsOneStepFromThePreviousOne() {
+    QTemporaryDir dir;
+    qputenv("XDG_DATA_HOME", dir.filePath("data").toUtf8());
+    const QByteArray tuned = "name: \"Tuned\"\nmeta: '1.0'\n";
+    sim::Config config;
+    config.machineConfig = tuned.toStdString();
+    config.startup = sim::Startup::ConfigError;
+    const auto plotter = simulated(config);
+    const QString port = QString::fromStdString(plotter->path());
+    ControllerHarness harness;
+    auto& controller = harness.controller;
+    const auto uploadRejected = [&] {
+        QVERIFY(harness.plug(port));
+        controller.uploadConfig("Halcot.yaml", "Corvane Halcot");
+        QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning() && controller.result(), kJobTimeoutMs);
+        QCOMPARE(controller.result()->kind, Outcome::Kind::configRejected);
+    };
+
+    // The backup from before the upload is offered.
+    controller.setBackupBeforeUploadEnabled(true);
+    uploadRejected();
+    const Backup before = BackupIndex().list().value(0);
+    QCOMPARE(before.reason, BackupReason::beforeUpload);
+    QCOMPARE(controller.previousConfiguration(), before);
+
+    // Without one, the machine's newest; a job that ends otherwise offers none.
+    controller.setBackupBeforeUploadEnabled(false);
+    uploadRejected();
+    QCOMPARE(controller.previousConfiguration(), before);
+    plotter->modify([](sim::Plotter& p) { p.config().startup = sim::Startup::Healthy; });
+    QVERIFY(harness.plug(port));
+    controller.restorePreviousConfiguration();
+    QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning() && controller.result(), kJobTimeoutMs);
+    QCOMPARE(controller.result()->kind, Outcome::Kind::succeeded);
+    QCOMPARE(storedConfig(*plotter), tuned);
+    QVERIFY(controller.logMessages().contains("Settings restored from the backup of " +
+                                              Texts::backupTime(before.time) + "."));
+    QCOMPARE(controller.previousConfiguration(), std::nullopt);
 }
 
 QTEST_GUILESS_MAIN(ControllerSimTest)

@@ -686,6 +686,16 @@ void CliTest::backupsAreListedAndRestored() {
     const QString path = backup["path"].toString();
     QVERIFY2(path.startsWith(folder + "/config-"), qPrintable(path));
 
+    // A configuration the machine rejects is followed by the command that puts back
+    // the one it had.
+    const Run rejected = run(
+        {"upload-config", "--sim", "--sim-startup", "config-error", "--product", "Corvane Halcot"});
+    QCOMPARE(rejected.exitCode, 14);
+    QVERIFY2(rejected.out.contains("To put back the configuration the machine had before: "
+                                   "teskal-flash restore-config --port sim1 " +
+                                   QFileInfo(path).fileName() + '\n'),
+             qPrintable(rejected.out));
+
     const Run restored = run({"restore-config", "--sim", QFileInfo(path).fileName()});
     QCOMPARE(restored.exitCode, 0);
     QVERIFY2(

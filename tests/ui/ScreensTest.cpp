@@ -116,6 +116,13 @@ void ScreensTest::mainWindowStates() {
         view->showResult(outcome);
         save(window, name);
     }
+    // An uploaded configuration the machine rejects, with the one it had before at hand.
+    FlasherBridge::StartupReport rejected;
+    rejected.verdict = ESP_STARTUP_CONFIG_ERROR;
+    rejected.evidence = {"[MSG:ERR: Bad GPIO gpio.48 for axes/x/motor0/stepstick/step_pin]"};
+    view->showResult(startupOutcome(rejected, StartupCause::Written::configuration, std::nullopt),
+                     true);
+    save(window, QStringLiteral("banner-config-rejected-restore"));
     view->showResult(std::nullopt);
 
     // About 60 characters a line: the 56-character sample line must not wrap.
