@@ -7,8 +7,8 @@
 #include "ui/CompareWindow.h"
 #include "ui/LogPanel.h"
 #include "ui/LogView.h"
-#include "ui/ResultBanner.h"
 #include "ui/RestoreWindow.h"
+#include "ui/ResultBanner.h"
 #include "ui/UpdaterView.h"
 
 // The whole program against the simulated plotter on a pseudo-terminal: the update
