@@ -94,7 +94,9 @@ void ResultBanner::showSummary(const std::optional<ResultSummary>& summary,
 
 void ResultBanner::clearOffers() {
     while (offers_->count() > 1) {
-        delete offers_->takeAt(0)->widget();
+        QLayoutItem* item = offers_->takeAt(0);
+        delete item->widget();
+        delete item;
     }
 }
 
