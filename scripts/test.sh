@@ -8,4 +8,5 @@ werror=OFF
 [ "${CI:-}" = "true" ] && werror=ON
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTFU_WERROR="$werror"
 cmake --build build
-ctest --test-dir build --output-on-failure -j2 --timeout 600
+# More jobs than cores: most cases spend their time in the plotter's real time-outs.
+ctest --test-dir build --output-on-failure -j6 --timeout 600
