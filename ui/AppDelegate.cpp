@@ -20,6 +20,7 @@
 #include "ui/CompareWindow.h"
 #include "ui/ConnectionCheckWindow.h"
 #include "ui/EraseQuestions.h"
+#include "ui/RepairDialog.h"
 #include "ui/RestoreWindow.h"
 #include "ui/UpdaterView.h"
 
@@ -64,6 +65,7 @@ AppDelegate::~AppDelegate() {
     compareWindow_.reset();
     connectionCheckWindow_.reset();
     restoreWindow_.reset();
+    repairDialog_.reset();
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -74,6 +76,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     window_->setWindowTitle(QStringLiteral("Teskal Firmware Updater"));
     auto* view = new UpdaterView(*updateController_);
     connect(view, &UpdaterView::connectionCheckRequested, this, &AppDelegate::showConnectionCheck);
+    connect(view, &UpdaterView::repairRequested, this, &AppDelegate::showRepair);
     window_->setCentralWidget(view);
     window_->layout()->setSizeConstraint(QLayout::SetFixedSize);
     updateController_->setSettingsQuestions(settingsQuestionsAsked(window_.get()));
@@ -224,11 +227,30 @@ void AppDelegate::showConnectionCheck() {
     if (!connectionCheckWindow_ || !connectionCheckWindow_->isVisible()) {
         connectionCheckWindow_ = std::make_unique<ConnectionCheckWindow>(
             options_.devicePlaces, PermissionRule::installed());
-        connectionCheckWindow_->refresh();
+        ConnectionHint* hint = updateController_->connectionHint();
+        connect(hint, &ConnectionHint::keepsRestartingChanged, connectionCheckWindow_.get(),
+                &ConnectionCheckWindow::showRestarting);
+        connectionCheckWindow_->showRestarting(hint->keepsRestarting());
         connectionCheckWindow_->adjustSize();
         centreOnScreen(connectionCheckWindow_.get());
     }
     bringToFront(connectionCheckWindow_.get());
+}
+
+void AppDelegate::showRepair() {
+    const BackupIndex index;
+    QList<Backup> backups =
+        index.list([this](const QString& line) { updateController_->log(line); });
+    const auto port = updateController_->deviceMonitor()->port();
+    const QUrl custom = updateController_->customFirmwareURL();
+    repairDialog_ = std::make_unique<RepairDialog>(
+        backups, port ? DeviceQueries::machineIdentity(*port) : QString(), options_.products,
+        custom.isEmpty() ? Texts::shippedFirmware(BuildConfig::firmwareVersion())
+                         : custom.fileName(),
+        window_.get());
+    connect(repairDialog_.get(), &RepairDialog::repairRequested, updateController_.get(),
+            &UpdateController::repairMachine);
+    repairDialog_->open();
 }
 
 std::optional<ProductConfig> AppDelegate::productOf(const QAction* item) const {
