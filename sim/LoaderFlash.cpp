@@ -118,8 +118,9 @@ Loader::Result Loader::flashEnd(const Request& r) {
     d_.flashEnded = true;
     d_.appFlashed = appBegun_;
     // Whatever kept the chip from starting lived in the flash: an erased chip with a
-    // new bootloader and application starts as a healthy one does.
-    if (chipErased_ && bootBegun_ && appBegun_) {
+    // new bootloader and application starts as a healthy one does. A brown-out is
+    // the power supply's, which no flash mends.
+    if (chipErased_ && bootBegun_ && appBegun_ && d_.config.startup != Startup::Brownout) {
         d_.config.startup = Startup::Healthy;
     }
     d_.flashEndNs = mono::nowNs();

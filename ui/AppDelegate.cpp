@@ -59,13 +59,14 @@ AppDelegate::AppDelegate(std::unique_ptr<UpdateController> controller, Options o
 }
 
 AppDelegate::~AppDelegate() {
-    // The windows go before the controller they observe.
+    // The windows go before the controller they observe; the dialog before the
+    // main window, its parent.
+    repairDialog_.reset();
     window_.reset();
     aboutWindow_.reset();
     compareWindow_.reset();
     connectionCheckWindow_.reset();
     restoreWindow_.reset();
-    repairDialog_.reset();
 }
 
 void AppDelegate::applicationDidFinishLaunching() {

@@ -356,10 +356,13 @@ void ConnectionTest::aPortThatComesAndGoesIsAPlotterThatKeepsRestarting() {
         CheckConnection::Watch watch{[&now] { return now; },
                                      [&](int ms) {
                                          now += ms;
-                                         if (flaps && ++looks % 2 == 0) {
-                                             std::filesystem::exists(node)
-                                                 ? std::filesystem::remove(node)
-                                                 : std::filesystem::create_symlink(pty.path, node);
+                                         if (!flaps || ++looks % 2 != 0) {
+                                             return;
+                                         }
+                                         if (std::filesystem::exists(node)) {
+                                             std::filesystem::remove(node);
+                                         } else {
+                                             std::filesystem::create_symlink(pty.path, node);
                                          }
                                      },
                                      Texts::Audience::commandLine};
