@@ -8,6 +8,7 @@ ConnectionHint::ConnectionHint(const QString& status, int patienceMs, QObject* p
     patience_.setInterval(patienceMs);
     connect(&patience_, &QTimer::timeout, this, [this] { change(waitedLong_, true); });
     followStatus(status);
+    clock_.start();
 }
 
 // The status is published on every poll, changed or not: only a status that was
@@ -27,6 +28,14 @@ void ConnectionHint::jobStarted() {
 
 void ConnectionHint::jobEnded(const Outcome& outcome) {
     change(portRefused_, outcome.kind == Outcome::Kind::portUnusable);
+}
+
+void ConnectionHint::followPresence(bool present) {
+    flapping_.sample(clock_.elapsed(), present);
+    if (flapping_.keepsRestarting() != restarting_) {
+        change(restarting_, flapping_.keepsRestarting());
+        emit keepsRestartingChanged(restarting_);
+    }
 }
 
 void ConnectionHint::change(bool& flag, bool value) {

@@ -48,6 +48,16 @@ struct StartupCause {
     friend bool operator==(const StartupCause&, const StartupCause&) = default;
 };
 
+/// How a repair ended once it had written: the machine's start (none when the job
+/// failed before it), the file put back and the copy saved before the erase.
+struct RepairCause {
+    std::optional<StartupCause> startup;
+    std::optional<QString> restored;  ///< path of the configuration put back
+    std::optional<QString> saved;     ///< path of the copy read before the erase
+
+    friend bool operator==(const RepairCause&, const RepairCause&) = default;
+};
+
 /// The verdict's name in machine-readable output: "running", "wrong-version",
 /// "boot-loop", "panic", "no-app", "brownout", "config-error" or "no-answer".
 QString verdictName(int verdict);
@@ -57,8 +67,8 @@ std::optional<int> verdictNamed(const QString& name);
 /// What is known, as data, about why an operation ended as it did (or what it
 /// found); empty where the kind alone tells. A connection check carries its whole
 /// checklist; a listing of backups, the backups found.
-using Cause =
-    std::variant<std::monostate, DownloadCause, PortCause, Checklist, StartupCause, BackupListing>;
+using Cause = std::variant<std::monostate, DownloadCause, PortCause, Checklist, StartupCause,
+                           BackupListing, RepairCause>;
 
 /// How an operation ended. Created where the result is known and carried
 /// unchanged to the window and to the command line, which present it; neither
@@ -81,6 +91,7 @@ struct Outcome {
         portUnusable,      ///< the port cannot be used; `cause` is a PortCause
         notReady,          ///< the connection check found no plotter ready to use
         noBackup,          ///< the backup to restore was not found
+        nothingToRestore,  ///< a repair knows no configuration to put back; nothing was erased
     };
 
     Kind kind = Kind::succeeded;
@@ -108,5 +119,13 @@ struct Outcome {
 
     /// True when the write itself succeeded and the outcome tells how the machine
     /// started afterwards (a `StartupCause`), whatever that was.
-    bool isVerdict() const { return std::holds_alternative<StartupCause>(cause); }
+    bool isVerdict() const { return startup() != nullptr; }
+
+    /// How the machine started, also within a repair's cause; null when not told.
+    const StartupCause* startup() const {
+        if (const auto* repair = std::get_if<RepairCause>(&cause)) {
+            return repair->startup ? &*repair->startup : nullptr;
+        }
+        return std::get_if<StartupCause>(&cause);
+    }
 };

@@ -1,5 +1,9 @@
 #include "app/Texts.h"
 
+#include <QFileInfo>
+#include <QLocale>
+#include <QStringList>
+
 #include "app/BackupIndex.h"
 #include "app/VersionText.h"
 
@@ -396,7 +400,7 @@ QString startupMessage(const StartupCause& cause) {
 }
 
 QString nextStep(const Outcome& outcome, Audience audience) {
-    if (const auto* startup = std::get_if<StartupCause>(&outcome.cause)) {
+    if (const auto* startup = outcome.startup()) {
         return startupNextStep(*startup, audience);
     }
     return outcome.kind == Outcome::Kind::failed ? failureNextStep(outcome.code) : QString();
@@ -859,6 +863,86 @@ QString retryQuestion() {
 
 QString settingsRestored(const QDateTime& time) {
     return QStringLiteral("Settings restored from the backup of %1.").arg(backupTime(time));
+}
+
+QString repairButton() {
+    return QStringLiteral("Repair\u2026");
+}
+
+QString repairMenuItem() {
+    return QStringLiteral("Repair Machine\u2026");
+}
+
+QString shippedFirmware(const QString& version) {
+    return QStringLiteral("firmware ") + version;
+}
+
+QString settingsOf(const QDateTime& time) {
+    return QStringLiteral("your settings from ") +
+           QLocale::c().toString(time, QStringLiteral("d MMM yyyy HH:mm"));
+}
+
+QString stockConfigOf(const QString& product) {
+    return QStringLiteral("the stock configuration of ") + product;
+}
+
+QString repairPlan(const QString& firmware, const std::optional<QString>& what) {
+    return what ? QStringLiteral("Erase the machine, install %1, then put back %2.")
+                      .arg(firmware, *what)
+                : QStringLiteral("Erase the machine and install %1, without a configuration.")
+                      .arg(firmware);
+}
+
+QString puttingBack(const QString& what) {
+    return QStringLiteral("NOTE: Flash was erased; %1 goes back once the machine runs.").arg(what);
+}
+
+QString repaired(const QString& firmware, const std::optional<QString>& what) {
+    return what ? QStringLiteral("Machine repaired: it runs %1 with %2.").arg(firmware, *what)
+                : QStringLiteral("Machine repaired: it runs %1, without a configuration.")
+                      .arg(firmware);
+}
+
+QString nothingToRestore(const QString& machine, const QList<Backup>& backups,
+                         const QString& folder, Audience audience) {
+    QString text = QStringLiteral(
+                       "Nothing was erased: there is no backup of the machine %1 to put back "
+                       "after the repair. ")
+                       .arg(machine);
+    if (backups.isEmpty()) {
+        text += noBackups(folder) + QStringLiteral(". ");
+    } else {
+        QStringList named;
+        for (const Backup& backup : backups) {
+            named << QStringLiteral("%1 (%2, %3)")
+                         .arg(QFileInfo(backup.path).fileName(), backup.machine,
+                              backupTime(backup.time));
+        }
+        text += QStringLiteral("Backups in %1: %2. ").arg(folder, named.join(QStringLiteral(", ")));
+    }
+    return text +
+           (audience == Audience::window
+                ? QStringLiteral("Choose another backup, a product's stock configuration, or none "
+                                 "in the Repair dialog.")
+                : QStringLiteral("Choose what goes back with --backup FILE, --product NAME or "
+                                 "--no-config."));
+}
+
+QString repairNeedsChoice() {
+    return QStringLiteral(
+        "This machine has no backup of its settings. Choose what goes back after the erase.");
+}
+
+QString keepsRestarting() {
+    return QStringLiteral("The plotter keeps restarting.");
+}
+
+QString holdBootButton(Audience audience) {
+    return QStringLiteral(
+               "If its controller board has a BOOT button, hold it while you plug the plotter "
+               "in, then %1.")
+        .arg(audience == Audience::window ? QStringLiteral("press Repair")
+                                          : QStringLiteral("run teskal-flash repair"));
 }
 
 }  // namespace Texts

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QDateTime>
+#include <QList>
 #include <QString>
 #include <QtGlobal>
 #include <cstdint>
+#include <optional>
 
 #include "app/Backup.h"
 #include "app/Outcome.h"
@@ -202,5 +204,31 @@ QString eraseAnywayQuestion();
 QString retryQuestion();
 /// "Settings restored from the backup of TIME."
 QString settingsRestored(const QDateTime& time);
+
+// Repairing a machine that does not start.
+QString repairButton();    ///< "Repair…", the banner's offer and the menu item's word
+QString repairMenuItem();  ///< "Repair Machine…"
+QString shippedFirmware(const QString& version);  ///< "firmware VERSION"
+QString settingsOf(const QDateTime& time);        ///< "your settings from 24 Nov 2026 14:02"
+QString stockConfigOf(const QString& product);    ///< "the stock configuration of PRODUCT"
+/// One sentence: "Erase the machine, install FIRMWARE, then put back WHAT." (without
+/// `what`: "Erase the machine and install FIRMWARE, without a configuration.").
+QString repairPlan(const QString& firmware, const std::optional<QString>& what);
+/// The note after the erase: "Flash was erased; WHAT goes back once the machine runs."
+QString puttingBack(const QString& what);
+/// The success: "Machine repaired: it runs FIRMWARE with WHAT." (or "…, without a
+/// configuration.").
+QString repaired(const QString& firmware, const std::optional<QString>& what);
+/// Nothing erased because nothing is known to put back: the backups that exist and
+/// how to choose, in the audience's words.
+QString nothingToRestore(const QString& machine, const QList<Backup>& backups,
+                         const QString& folder, Audience audience);
+/// The dialog's line when the machine has no backup to put back.
+QString repairNeedsChoice();
+/// A port that comes and goes: "The plotter keeps restarting." and its fix, "If its
+/// controller board has a BOOT button, hold it while you plug the plotter in, then
+/// press Repair." (teskal-flash: "then run teskal-flash repair").
+QString keepsRestarting();
+QString holdBootButton(Audience audience);
 
 }  // namespace Texts

@@ -30,6 +30,20 @@ UpdateController::UpdateController(ResourceBundle resources, DeviceMonitor::Dete
             &ConnectionHint::followStatus);
     connect(monitor_, &DeviceMonitor::isConnectedChanged, this, &UpdateController::followConnection,
             Qt::QueuedConnection);
+    // A job's own restarts take the port away for a moment; only an idle port that
+    // comes and goes tells a machine restarting by itself.
+    connect(monitor_, &DeviceMonitor::isConnectedChanged, connectionHint_, [this](bool present) {
+        if (!runner_.isRunning()) {
+            connectionHint_->followPresence(present);
+        }
+    });
+    connect(connectionHint_, &ConnectionHint::keepsRestartingChanged, this,
+            [this](bool restarting) {
+                if (restarting && !runner_.isRunning()) {
+                    post(LogEntry::error(Texts::keepsRestarting() + QLatin1Char(' ') +
+                                         Texts::holdBootButton(Texts::Audience::window)));
+                }
+            });
     connect(&runner_, &OperationRunner::phaseEntered, this, &UpdateController::enterPhase);
     connect(&runner_, &OperationRunner::progressed, this, &UpdateController::showProgress);
     connect(&runner_, &OperationRunner::logged, this, &UpdateController::appendLog);
@@ -203,6 +217,15 @@ void UpdateController::restoreBackup(const Backup& backup) {
         UploadConfig::Options options;
         options.backUpFirst = backupBeforeUpload_;
         start(std::make_shared<RestoreConfig>(*port, resources_, backup.path, options));
+    }
+}
+
+void UpdateController::repairMachine(const Repair::PutBack& putBack) {
+    if (const auto port = portForNewJob()) {
+        Repair::Options options;
+        options.flash = flashOptions();
+        options.putBack = putBack;
+        start(std::make_shared<Repair>(*port, resources_, options));
     }
 }
 

@@ -21,6 +21,7 @@
 #include "app/operations/EraseKeepingSettings.h"
 #include "app/operations/FlashFirmware.h"
 #include "app/operations/OperationRunner.h"
+#include "app/operations/Repair.h"
 #include "app/operations/UploadConfig.h"
 
 /// The application's one controller: owns the device monitor, publishes what the
@@ -135,6 +136,10 @@ class UpdateController : public PublishedState {
     void restoreBackup(const Backup& backup);
     /// `restoreBackup` of `previousConfiguration`, when there is one.
     void restorePreviousConfiguration();
+    /// Repairs the machine (see `Repair`): Erase All Flash with the firmware "Update
+    /// Firmware" would write, then `putBack`; ends with the result banner as every
+    /// job does.
+    void repairMachine(const Repair::PutBack& putBack);
 
   signals:
     void customFirmwareURLChanged(const QUrl& location);

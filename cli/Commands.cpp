@@ -13,5 +13,6 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
     commands.push_back(makeDoctorCommand());
     commands.push_back(makeBackupsCommand());
     commands.push_back(makeRestoreConfigCommand());
+    commands.push_back(makeRepairCommand());
     return commands;
 }

@@ -16,6 +16,7 @@ std::unique_ptr<Command> makeDiffConfigCommand();
 std::unique_ptr<Command> makeDoctorCommand();
 std::unique_ptr<Command> makeBackupsCommand();
 std::unique_ptr<Command> makeRestoreConfigCommand();
+std::unique_ptr<Command> makeRepairCommand();
 
 /// Every subcommand, in the order --help lists them.
 std::vector<std::unique_ptr<Command>> makeCommands();

@@ -15,6 +15,8 @@ std::vector<std::string> productNames() {
     return names;
 }
 
+}  // namespace
+
 std::string productList() {
     QString list = QStringLiteral("Products:\n");
     for (const ProductConfig& product : BuildConfig::products()) {
@@ -32,16 +34,18 @@ ProductConfig productNamed(const std::string& name) {
     });
 }
 
-}  // namespace
-
-void ConfigSource::define(CLI::App* command, const std::string& what) {
-    CLI::Option_group* source = command->add_option_group("source", what);
-    source
-        ->add_option("--product", product_,
+CLI::Option* addProductOption(CLI::App* command, std::string* product) {
+    return command
+        ->add_option("--product", *product,
                      "Product, by name (\"Corvane Halcot\") or configuration file "
                      "(\"Halcot.yaml\")")
         ->check(CLI::IsMember(productNames()).description(""))
         ->type_name("NAME");
+}
+
+void ConfigSource::define(CLI::App* command, const std::string& what) {
+    CLI::Option_group* source = command->add_option_group("source", what);
+    addProductOption(source, &product_);
     source->add_option("FILE", file_, "Configuration file (.yaml or .yml)")->type_name("");
     source->require_option(1);
     command->footer(productList());

@@ -12,7 +12,9 @@ class DoctorCommand : public Command {
             "Checks why a plotter cannot be reached, step by step: whether one is seen on USB "
             "(303a:1001), whether a serial port was made for it, whether you may open it, and "
             "whether another program holds it; it also lists the other USB serial devices. "
-            "Each problem comes with its fix. Nothing is sent to the plotter, and --sim is "
+            "Each problem comes with its fix. A plotter on USB without a usable port is watched "
+            "for up to 10 s, to tell one that keeps restarting. Nothing is sent to the plotter, "
+            "and --sim is "
             "ignored: the check is of this computer's USB.");
     }
 
@@ -22,7 +24,9 @@ class DoctorCommand : public Command {
     ExitStatus::Convention convention() const override { return ExitStatus::Convention::checklist; }
 
     std::shared_ptr<Operation> operation(const CommandContext&) const override {
-        return std::make_shared<CheckConnection>(PermissionRule::installed().howTo());
+        return std::make_shared<CheckConnection>(
+            PermissionRule::installed().howTo(), CheckConnection::Places{},
+            CheckConnection::Watch::realTime(Texts::Audience::commandLine));
     }
 };
 

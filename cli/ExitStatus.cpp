@@ -40,6 +40,9 @@ constexpr Row kTable[] = {
     {15, Kind::noBackup, 0, "the backup to restore was not found"},
     {16, Kind::noPartitionTable, 0, "the plotter holds no valid partition table"},
     {17, Kind::notWritten, 0, "a file could not be written on this computer"},
+    {18, Kind::nothingToRestore, 0,
+     "nothing is known to put back after a repair (no backup of this plotter, no choice "
+     "given); nothing was erased"},
     {usage, Kind::failed, 0, "the command line could not be understood"},
     {crashed, Kind::failed, 0, "the command ended abnormally for a plotter"},
     {stopped, Kind::failed, 0, "stopped with Ctrl+C"},

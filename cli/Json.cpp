@@ -30,8 +30,15 @@ QJsonObject progressObject(const event::Progress& progress) {
 QJsonObject resultObject(const event::Result& result) {
     QJsonObject object{
         {"type", "result"}, {"code", result.status}, {"message", result.outcome.message}};
-    if (const auto* startup = std::get_if<StartupCause>(&result.outcome.cause)) {
+    if (const auto* startup = result.outcome.startup()) {
         object.insert(QStringLiteral("machine"), verdictName(startup->verdict));
+    }
+    if (const auto* repair = std::get_if<RepairCause>(&result.outcome.cause)) {
+        const auto orNull = [](const std::optional<QString>& path) {
+            return path ? QJsonValue(*path) : QJsonValue(QJsonValue::Null);
+        };
+        object.insert(QStringLiteral("restored"), orNull(repair->restored));
+        object.insert(QStringLiteral("backup"), orNull(repair->saved));
     }
     if (!result.outcome.evidence.isEmpty() || result.outcome.isVerdict()) {
         object.insert(QStringLiteral("evidence"),

@@ -78,7 +78,8 @@ struct Config {
     /// stops it; the restart after flashing starts it again.
     bool floodConsole = false;
     /// How the chip starts at every restart into its firmware; the firmware that runs
-    /// before the first restart is healthy.
+    /// before the first restart is healthy. A whole-chip erase followed by a full
+    /// flash sets it back to healthy, but for a brown-out.
     Startup startup = Startup::Healthy;
 
     // XModem receiver. Block ordinals count the file's blocks from 1.

@@ -71,6 +71,8 @@ void Loader::restartRom() {
     mem_.reset();
     write_.reset();
     appBegun_ = false;
+    chipErased_ = false;
+    bootBegun_ = false;
 }
 
 size_t Loader::consume(const uint8_t* data, size_t len) {

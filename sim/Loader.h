@@ -98,6 +98,8 @@ class Loader {
     std::optional<MemTransfer> mem_;
     std::optional<FlashWrite> write_;
     bool appBegun_ = false;
+    bool chipErased_ = false;  ///< a whole-chip erase since the last reset into ROM
+    bool bootBegun_ = false;   ///< a FLASH_BEGIN at the bootloader's offset since then
 };
 
 /// Opcodes, error codes and helpers shared by the loader's source files.

@@ -46,6 +46,7 @@ Loader::Result Loader::eraseChip(const Request&) {
     std::fill(d_.flash.begin(), d_.flash.end(), 0xFF);
     d_.files.clear();
     d_.fileSystemErased = true;
+    chipErased_ = true;
     return answer(0, {}, d_.config.eraseDelayMs);
 }
 
@@ -68,6 +69,7 @@ Loader::Result Loader::flashBegin(const Request& r) {
     std::fill(d_.flash.begin() + first, d_.flash.begin() + end, 0xFF);
     write_ = FlashWrite{address, 0};
     appBegun_ = appBegun_ || address == kAppOffset;
+    bootBegun_ = bootBegun_ || address == 0;
     return answer(0, {}, d_.config.flashBeginDelayMs);
 }
 
@@ -115,6 +117,12 @@ Loader::Result Loader::flashEnd(const Request& r) {
     write_.reset();
     d_.flashEnded = true;
     d_.appFlashed = appBegun_;
+    // Whatever kept the chip from starting lived in the flash: an erased chip with a
+    // new bootloader and application starts as a healthy one does. A brown-out is
+    // the power supply's, which no flash mends.
+    if (chipErased_ && bootBegun_ && appBegun_ && d_.config.startup != Startup::Brownout) {
+        d_.config.startup = Startup::Healthy;
+    }
     d_.flashEndNs = mono::nowNs();
     // 0 asks the loader to reboot at once; otherwise the host resets the chip itself.
     const bool reboot = r.size >= 4 && r.word(0) == 0;

@@ -20,6 +20,7 @@
 #include "ui/CompareWindow.h"
 #include "ui/ConnectionCheckWindow.h"
 #include "ui/EraseQuestions.h"
+#include "ui/RepairDialog.h"
 #include "ui/RestoreWindow.h"
 #include "ui/UpdaterView.h"
 
@@ -58,7 +59,9 @@ AppDelegate::AppDelegate(std::unique_ptr<UpdateController> controller, Options o
 }
 
 AppDelegate::~AppDelegate() {
-    // The windows go before the controller they observe.
+    // The windows go before the controller they observe; the dialog before the
+    // main window, its parent.
+    repairDialog_.reset();
     window_.reset();
     aboutWindow_.reset();
     compareWindow_.reset();
@@ -74,6 +77,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     window_->setWindowTitle(QStringLiteral("Teskal Firmware Updater"));
     auto* view = new UpdaterView(*updateController_);
     connect(view, &UpdaterView::connectionCheckRequested, this, &AppDelegate::showConnectionCheck);
+    connect(view, &UpdaterView::repairRequested, this, &AppDelegate::showRepair);
     window_->setCentralWidget(view);
     window_->layout()->setSizeConstraint(QLayout::SetFixedSize);
     updateController_->setSettingsQuestions(settingsQuestionsAsked(window_.get()));
@@ -224,11 +228,30 @@ void AppDelegate::showConnectionCheck() {
     if (!connectionCheckWindow_ || !connectionCheckWindow_->isVisible()) {
         connectionCheckWindow_ = std::make_unique<ConnectionCheckWindow>(
             options_.devicePlaces, PermissionRule::installed());
-        connectionCheckWindow_->refresh();
+        ConnectionHint* hint = updateController_->connectionHint();
+        connect(hint, &ConnectionHint::keepsRestartingChanged, connectionCheckWindow_.get(),
+                &ConnectionCheckWindow::showRestarting);
+        connectionCheckWindow_->showRestarting(hint->keepsRestarting());
         connectionCheckWindow_->adjustSize();
         centreOnScreen(connectionCheckWindow_.get());
     }
     bringToFront(connectionCheckWindow_.get());
+}
+
+void AppDelegate::showRepair() {
+    const BackupIndex index;
+    QList<Backup> backups =
+        index.list([this](const QString& line) { updateController_->log(line); });
+    const auto port = updateController_->deviceMonitor()->port();
+    const QUrl custom = updateController_->customFirmwareURL();
+    repairDialog_ = std::make_unique<RepairDialog>(
+        backups, port ? DeviceQueries::machineIdentity(*port) : QString(), options_.products,
+        custom.isEmpty() ? Texts::shippedFirmware(BuildConfig::firmwareVersion())
+                         : custom.fileName(),
+        window_.get());
+    connect(repairDialog_.get(), &RepairDialog::repairRequested, updateController_.get(),
+            &UpdateController::repairMachine);
+    repairDialog_->open();
 }
 
 std::optional<ProductConfig> AppDelegate::productOf(const QAction* item) const {

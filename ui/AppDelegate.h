@@ -21,6 +21,7 @@ class EscapeCloser;
 class QAction;
 class QMainWindow;
 class QMenu;
+class RepairDialog;
 class RestoreWindow;
 class SleepInhibitor;
 class UpdateController;
@@ -75,6 +76,8 @@ class AppDelegate : public QObject {
     ConnectionCheckWindow* connectionCheckWindow() const { return connectionCheckWindow_.get(); }
     /// The last Restore Machine Config window; null until one was opened.
     RestoreWindow* restoreWindow() const { return restoreWindow_.get(); }
+    /// The last Repair Machine dialog; null until one was opened.
+    RepairDialog* repairDialog() const { return repairDialog_.get(); }
 
   public slots:
     void showAbout();
@@ -106,6 +109,9 @@ class AppDelegate : public QObject {
     void showComparison(const ConfigComparison& comparison, const ConfigChoice& chosen);
     /// Shows the Connection Check, a new one unless it is open already.
     void showConnectionCheck();
+    /// Opens the Repair Machine dialog on the backups folder as it is now, in place
+    /// of an earlier one; its "Repair" starts the controller's repair.
+    void showRepair();
 
   private:
     void notifyUnseen(const std::optional<Outcome>& result);
@@ -127,6 +133,7 @@ class AppDelegate : public QObject {
     std::unique_ptr<CompareWindow> compareWindow_;
     std::unique_ptr<ConnectionCheckWindow> connectionCheckWindow_;
     std::unique_ptr<RestoreWindow> restoreWindow_;
+    std::unique_ptr<RepairDialog> repairDialog_;
     EscapeCloser* escapeCloser_ = nullptr;
     QuitGuard* quitGuard_ = nullptr;
     SleepInhibitor* sleepInhibitor_;

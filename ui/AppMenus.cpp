@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "app/Texts.h"
 #include "app/UpdateController.h"
 #include "ui/AppDelegate.h"
 #include "ui/LogPanel.h"
@@ -104,6 +105,8 @@ QMenu* AppDelegate::addConfigMenu() {
     compare->addAction(QStringLiteral("Choose File\u2026"), this, &AppDelegate::compareWithFile);
     menu->addAction(QStringLiteral("Restore Machine Config\u2026"), this,
                     &AppDelegate::restoreMachineConfig);
+    menu->addSeparator();
+    menu->addAction(Texts::repairMenuItem(), this, &AppDelegate::showRepair);
     return menu;
 }
 

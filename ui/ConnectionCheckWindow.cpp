@@ -112,8 +112,16 @@ void ConnectionCheckWindow::buildLayout() {
     column->addLayout(buttons);
 }
 
+void ConnectionCheckWindow::showRestarting(bool restarting) {
+    restarting_ = restarting;
+    refresh();
+}
+
 void ConnectionCheckWindow::refresh() {
     Checklist found = checks_.check();
+    if (restarting_) {
+        CheckConnection::markRestarting(found, Texts::Audience::window);
+    }
     if (found == checklist_ && !rows_->layout()->isEmpty()) {
         return;
     }

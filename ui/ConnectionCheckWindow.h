@@ -38,6 +38,10 @@ class ConnectionCheckWindow : public QWidget {
 
     /// Runs the checks once and shows what they found.
     void refresh();
+    /// Whether the plotter's port keeps coming and going (see `ConnectionHint`):
+    /// then "The plotter keeps restarting." and its fix head the list, and no port
+    /// counts as ready.
+    void showRestarting(bool restarting);
 
     /// What the last checks found.
     const Checklist& checklist() const { return checklist_; }
@@ -58,6 +62,7 @@ class ConnectionCheckWindow : public QWidget {
     void installRule();
 
     CheckConnection checks_;
+    bool restarting_ = false;
     PermissionRule rule_;
     Launcher launch_;
     Checklist checklist_;

@@ -9,6 +9,7 @@
 
 #include "app/Texts.h"
 #include "app/UpdateController.h"
+#include "app/operations/Repair.h"
 #include "ui/Colors.h"
 #include "ui/ElidedLabel.h"
 #include "ui/Fonts.h"
@@ -43,6 +44,7 @@ UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
       button_(new QPushButton(QStringLiteral("Update Firmware"), this)),
       banner_(new ResultBanner(this)),
       restorePrevious_(new QAction(Texts::restorePreviousButton(), this)),
+      repair_(new QAction(Texts::repairButton(), this)),
       log_(new LogPanel(this)) {
     setFixedSize(480, 420);
     buildLayout();
@@ -108,6 +110,7 @@ void UpdaterView::connectTo(UpdateController& controller) {
             });
     connect(restorePrevious_, &QAction::triggered, &controller,
             &UpdateController::restorePreviousConfiguration);
+    connect(repair_, &QAction::triggered, this, &UpdaterView::repairRequested);
     connect(controller.connectionHint(), &ConnectionHint::offeredChanged, this,
             &UpdaterView::showConnectionHint);
     connect(notFound_, &QLabel::linkActivated, this, &UpdaterView::connectionCheckRequested);
@@ -179,8 +182,15 @@ void UpdaterView::showFirmwareLabel(const QString& label) {
 }
 
 void UpdaterView::showResult(const std::optional<Outcome>& result, bool previousOffered) {
+    QList<QAction*> offers;
+    if (previousOffered) {
+        offers << restorePrevious_;
+    }
+    if (result && Repair::helps(*result)) {
+        offers << repair_;
+    }
     banner_->showSummary(result ? summarize(*result, Texts::Audience::window) : std::nullopt,
-                         previousOffered ? QList<QAction*>{restorePrevious_} : QList<QAction*>{});
+                         offers);
 }
 
 void UpdaterView::showLog(const LogEntries& entries) {

@@ -44,7 +44,8 @@ class UpdaterView : public QWidget {
     void showConnectionHint(bool offered);
     void showFirmwareLabel(const QString& label);
     /// How the last job ended, in the result banner; none hides it. With
-    /// `previousOffered` the banner offers "Restore Previous Configuration".
+    /// `previousOffered` the banner offers "Restore Previous Configuration"; after a
+    /// machine that a repair helps (`Repair::helps`), "Repair…".
     void showResult(const std::optional<Outcome>& result, bool previousOffered = false);
     /// The log; see `LogView::setEntries` for scrolling.
     void showLog(const LogEntries& entries);
@@ -61,10 +62,14 @@ class UpdaterView : public QWidget {
     /// The banner's "Restore Previous Configuration"; it calls the controller's
     /// `restorePreviousConfiguration`.
     QAction* restorePreviousAction() const { return restorePrevious_; }
+    /// The banner's "Repair…"; it emits `repairRequested`.
+    QAction* repairAction() const { return repair_; }
 
   signals:
     /// The link "Plotter not found?" was followed.
     void connectionCheckRequested();
+    /// The banner's "Repair…" was pressed.
+    void repairRequested();
 
   private:
     void buildLayout();
@@ -80,6 +85,7 @@ class UpdaterView : public QWidget {
     QPushButton* button_;
     ResultBanner* banner_;
     QAction* restorePrevious_;
+    QAction* repair_;
     LogPanel* log_;
     bool isConnected_ = false;
     UpdateState state_;

@@ -1,10 +1,13 @@
 #include "app/operations/CheckConnection.h"
 
+#include <QThread>
 #include <algorithm>
+#include <chrono>
 #include <vector>
 
 #include "app/DeviceMonitor.h"
 #include "app/PortDiagnosis.h"
+#include "app/PortFlapping.h"
 #include "app/Texts.h"
 #include "esp_flasher.h"
 
@@ -77,10 +80,24 @@ void checkPlotter(const esp_usb_serial_device& plotter, const QString& rule, Che
     checkPort(path, rule, list);
 }
 
+bool hasPort(const CheckConnection::Places& places) {
+    const esp_usb_serial_device* plotter = chosenPlotter(survey(places));
+    return plotter != nullptr && plotter->path[0] != '\0';
+}
+
 }  // namespace
 
-CheckConnection::CheckConnection(QString rule, Places places)
-    : rule_(std::move(rule)), places_(std::move(places)) {}
+CheckConnection::Watch CheckConnection::Watch::realTime(Texts::Audience audience) {
+    return {[] {
+                return std::chrono::duration_cast<std::chrono::milliseconds>(
+                           std::chrono::steady_clock::now().time_since_epoch())
+                    .count();
+            },
+            [](int ms) { QThread::msleep(static_cast<unsigned long>(ms)); }, audience};
+}
+
+CheckConnection::CheckConnection(QString rule, Places places, std::optional<Watch> watch)
+    : rule_(std::move(rule)), places_(std::move(places)), watch_(std::move(watch)) {}
 
 Checklist CheckConnection::check() const {
     Checklist list;
@@ -108,8 +125,39 @@ Checklist CheckConnection::check() const {
     return list;
 }
 
+void CheckConnection::markRestarting(Checklist& list, Texts::Audience audience) {
+    if (list.ready()) {
+        list.rows.removeLast();
+        list.readyPort.reset();
+    }
+    list.rows.prepend(CheckRow::failed(Texts::keepsRestarting(), Texts::holdBootButton(audience)));
+}
+
+// A chip that restarts in a loop takes its port down at every restart, so the
+// port is looked at as often as the device monitor looks at it.
+bool CheckConnection::keepsRestarting() const {
+    PortFlapping flapping;
+    const qint64 startMs = watch_->nowMs();
+    for (qint64 now = startMs; now - startMs <= PortFlapping::kWindowMs; now = watch_->nowMs()) {
+        flapping.sample(now, hasPort(places_));
+        if (flapping.keepsRestarting()) {
+            return true;
+        }
+        watch_->pause(DeviceMonitor::kPollIntervalMs);
+    }
+    return false;
+}
+
 Outcome CheckConnection::run(const OperationSink&) {
     Checklist list = check();
+    const bool seen = !list.rows.isEmpty() && list.rows.front().mark == CheckRow::Mark::ok;
+    if (watch_ && seen && !list.ready()) {
+        const bool restarting = keepsRestarting();
+        list = check();
+        if (restarting) {
+            markRestarting(list, watch_->audience);
+        }
+    }
     Outcome outcome = list.ready()
                           ? Outcome::success(Texts::portReady(*list.readyPort))
                           : Outcome::make(Outcome::Kind::notReady, Texts::noPlotterReady());

@@ -2,7 +2,12 @@
 
 #include <QString>
 
+#include <QtGlobal>
+#include <functional>
+#include <optional>
+
 #include "app/Checklist.h"
+#include "app/Texts.h"
 #include "app/operations/Operation.h"
 
 /// Where the system describes its devices and makes their nodes; tests give a
@@ -20,9 +25,24 @@ class CheckConnection : public Operation {
   public:
     using Places = DevicePlaces;
 
+    /// How `run` watches a plotter that is on USB without a usable port, for a port
+    /// that comes and goes (see `PortFlapping`): it looks again after every `pause`
+    /// of `DeviceMonitor::kPollIntervalMs` until `nowMs`, a monotonic clock, has
+    /// passed `PortFlapping::kWindowMs`.
+    struct Watch {
+        std::function<qint64()> nowMs;
+        std::function<void(int ms)> pause;
+        Texts::Audience audience = Texts::Audience::commandLine;
+
+        /// The steady clock and a sleep of the calling thread.
+        static Watch realTime(Texts::Audience audience);
+    };
+
     /// `rule` says, in a permission problem's fix, where the permission rule comes
-    /// from (for example "button below", or the command that installs it).
-    explicit CheckConnection(QString rule, Places places = {});
+    /// from (for example "button below", or the command that installs it). With
+    /// `watch`, `run` watches a port that is not usable yet.
+    explicit CheckConnection(QString rule, Places places = {},
+                             std::optional<Watch> watch = std::nullopt);
 
     /// One pass of the checks. Reads sysfs, /proc and the account database; opens no
     /// port and sends nothing, so it may run on the GUI thread once a second.
@@ -30,10 +50,19 @@ class CheckConnection : public Operation {
 
     /// Succeeds with "Ready: the plotter on PATH can be used." when a plotter can be
     /// used, else ends `notReady` with "No plotter is ready to use."; the checklist is
-    /// the outcome's cause either way. Logs nothing.
+    /// the outcome's cause either way. Logs nothing. With a watch, a plotter on USB
+    /// without a usable port is watched for up to 10 s; a port that vanished and came
+    /// back more than twice puts "The plotter keeps restarting." and its fix first.
     Outcome run(const OperationSink& sink) override;
 
+    /// Puts "The plotter keeps restarting." and its fix at the head of `list`; a
+    /// port there in one look and gone in the next is no ready port.
+    static void markRestarting(Checklist& list, Texts::Audience audience);
+
   private:
+    bool keepsRestarting() const;
+
     QString rule_;
     Places places_;
+    std::optional<Watch> watch_;
 };

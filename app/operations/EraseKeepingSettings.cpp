@@ -48,17 +48,12 @@ Outcome EraseKeepingSettings::run(const OperationSink& sink) {
 // that a machine is never left without settings that could not be put back.
 std::optional<Outcome> EraseKeepingSettings::saveSettings(const std::optional<QString>& version,
                                                           const OperationSink& sink) {
-    auto read = MachineConfigFile::read({port_, options_.machine, BackupReason::beforeErase},
+    auto kept = MachineConfigFile::keep({port_, options_.machine, BackupReason::beforeErase},
                                         version, sink);
-    if (auto* failure = std::get_if<Outcome>(&read)) {
+    if (auto* failure = std::get_if<Outcome>(&kept)) {
         return *failure;
     }
-    const auto& kept = std::get<MachineConfigFile::Read>(read).kept;
-    if (const auto* reason = std::get_if<QString>(&kept)) {
-        return Outcome::make(Outcome::Kind::notWritten, *reason);
-    }
     backup_ = std::get<Backup>(kept);
-    sink.info(Texts::configSavedTo(backup_->path, backup_->size));
     UploadConfig::Options upload;
     upload.machine = options_.machine;
     restore_ = std::make_shared<UploadConfig>(port_, resources_,

@@ -47,6 +47,22 @@ std::variant<Read, Outcome> read(const Request& request,
     return downloadAndKeep(request, firmwareVersion, sink);
 }
 
+std::variant<Backup, Outcome> keep(const Request& request,
+                                   const std::optional<QString>& firmwareVersion,
+                                   const OperationSink& sink) {
+    auto read = MachineConfigFile::read(request, firmwareVersion, sink);
+    if (auto* failure = std::get_if<Outcome>(&read)) {
+        return *failure;
+    }
+    const auto& kept = std::get<Read>(read).kept;
+    if (const auto* reason = std::get_if<QString>(&kept)) {
+        return Outcome::make(Outcome::Kind::notWritten, *reason);
+    }
+    const Backup& backup = std::get<Backup>(kept);
+    sink.info(Texts::configSavedTo(backup.path, backup.size));
+    return backup;
+}
+
 void noteUnkept(const Read& read, const OperationSink& sink) {
     if (const auto* reason = std::get_if<QString>(&read.kept)) {
         sink.error(Texts::backupNotKept(*reason));

@@ -41,6 +41,13 @@ std::variant<Read, Outcome> read(const Request& request,
                                  const std::optional<QString>& firmwareVersion,
                                  const OperationSink& sink);
 
+/// The save before an erase: reads `request`'s file as `read` does and insists on
+/// its copy in the backups folder, whose place and size it logs. The copy, or the
+/// read's outcome, or `notWritten` with why no copy was kept.
+std::variant<Backup, Outcome> keep(const Request& request,
+                                   const std::optional<QString>& firmwareVersion,
+                                   const OperationSink& sink);
+
 /// Logs, as an error, why no copy of `read` was kept, when none was.
 void noteUnkept(const Read& read, const OperationSink& sink);
 

@@ -13,6 +13,7 @@
 #include "../support/HoldingProcess.h"
 #include "app/ConnectionHint.h"
 #include "app/PortDiagnosis.h"
+#include "app/PortFlapping.h"
 #include "app/Texts.h"
 #include "app/operations/CheckConnection.h"
 
@@ -87,6 +88,7 @@ class ConnectionTest : public QObject {
     void portProblemsInWords();
     void portIsDiagnosedAgainAfterTheLibraryCouldNotOpenIt();
     void hintOffersTheCheckAfterLongWaitsAndRefusedPorts();
+    void aPortThatComesAndGoesIsAPlotterThatKeepsRestarting();
 };
 
 void ConnectionTest::checklistFollowsTheUsbTree_data() {
@@ -305,6 +307,79 @@ void ConnectionTest::hintOffersTheCheckAfterLongWaitsAndRefusedPorts() {
     hint.jobStarted();
     QVERIFY(!hint.offered());
     QCOMPARE(changes.count(), 4);
+}
+
+void ConnectionTest::aPortThatComesAndGoesIsAPlotterThatKeepsRestarting() {
+    // The rule: more than two returns of the port within 10 s.
+    const struct {
+        const char* name;
+        QList<std::pair<qint64, bool>> looks;
+        bool restarting;
+    } cases[] = {
+        {"two returns", {{0, true}, {1, false}, {2, true}, {3, false}, {4, true}}, false},
+        {"three returns",
+         {{0, false}, {1, true}, {2, false}, {3, true}, {4, false}, {5, true}},
+         true},
+        {"three returns over 10 s",
+         {{0, false}, {1, true}, {2, false}, {3, true}, {4, false}, {10002, true}},
+         false},
+        {"the first look is no return",
+         {{0, true}, {1, false}, {2, true}, {3, false}, {4, true}},
+         false},
+    };
+    for (const auto& c : cases) {
+        PortFlapping flapping;
+        for (const auto& [at, present] : c.looks) {
+            flapping.sample(at, present);
+        }
+        QVERIFY2(flapping.keepsRestarting() == c.restarting, c.name);
+    }
+
+    // The window's hint: the device monitor's looks, four a second.
+    ConnectionHint hint(Texts::deviceConnected(), 100000);
+    QSignalSpy restarting(&hint, &ConnectionHint::keepsRestartingChanged);
+    for (const bool present : {true, false, true, false, true, false, true}) {
+        hint.followPresence(present);
+    }
+    QVERIFY(hint.keepsRestarting() && hint.offered());
+    QCOMPARE(restarting.count(), 1);
+
+    // doctor watches a plotter on USB without a port, on a virtual clock; the tty
+    // comes and goes every other look.
+    const FreePty pty;
+    for (const bool flaps : {true, false}) {
+        FakeSysfs tree;
+        plotter(tree, "1-1", "F4:12:FA:00:00:01", 1, "");
+        const std::string node = tree.dev + "/ttyACM1";
+        qint64 now = 0;
+        int looks = 0;
+        CheckConnection::Watch watch{[&now] { return now; },
+                                     [&](int ms) {
+                                         now += ms;
+                                         if (!flaps || ++looks % 2 != 0) {
+                                             return;
+                                         }
+                                         if (std::filesystem::exists(node)) {
+                                             std::filesystem::remove(node);
+                                         } else {
+                                             std::filesystem::create_symlink(pty.path, node);
+                                         }
+                                     },
+                                     Texts::Audience::commandLine};
+        CheckConnection check(QStringLiteral("RULE"),
+                              {QString::fromStdString(tree.sys), QString::fromStdString(tree.dev)},
+                              watch);
+        const Outcome outcome = check.run({});
+        QCOMPARE(outcome.kind, Outcome::Kind::notReady);
+        const QString first = rowTexts(std::get<Checklist>(outcome.cause)).first();
+        QCOMPARE(first,
+                 flaps ? QStringLiteral("problem | The plotter keeps restarting. | If its "
+                                        "controller board has a BOOT button, hold it while you "
+                                        "plug the plotter in, then run teskal-flash repair.")
+                       : QStringLiteral("ok | Plotter seen on USB (303a:1001, serial "
+                                        "F4:12:FA:00:00:01)."));
+        QVERIFY(now >= (flaps ? 2500 : PortFlapping::kWindowMs));
+    }
 }
 
 QTEST_GUILESS_MAIN(ConnectionTest)

@@ -4,9 +4,12 @@
 #include "../support/HoldingProcess.h"
 #include "ControllerHarness.h"
 #include "app/BackupIndex.h"
+#include "app/DeviceQueries.h"
 #include "app/Outcome.h"
 #include "app/SimulatedPlotter.h"
 #include "app/Texts.h"
+#include "app/operations/MachineConfigFile.h"
+#include "app/operations/Repair.h"
 #include "tests/support/Descriptors.h"
 
 namespace {
@@ -54,6 +57,8 @@ class ControllerSimTest : public QObject {
     void eraseAllKeepsTheMachinesSettings();
     void teskalFlashErasesASilentMachineSayingNothingWasSaved();
     void aRejectedConfigurationIsOneStepFromThePreviousOne();
+    void repairBringsBackAMachineThatDoesNotStartWithItsSettings();
+    void repairSavesAnAnsweringFirmwareAndSendsWhatItsStepsSend();
 };
 
 void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
@@ -406,8 +411,9 @@ void ControllerSimTest::eraseAllKeepsTheMachinesSettings() {
     qputenv("XDG_DATA_HOME", dir.filePath("data").toUtf8());
 
     // A machine that does not start after the update cannot take its settings back:
-    // the copy stays, and the log says how to restore it later.
-    plotter.modify([](sim::Plotter& p) { p.config().startup = sim::Startup::Panic; });
+    // the copy stays, and the log says how to restore it later. (A brown-out: the
+    // erase and the full flash mend every start-up that lives in the flash.)
+    plotter.modify([](sim::Plotter& p) { p.config().startup = sim::Startup::Brownout; });
     asked.clear();
     answers(BeforeErase::saveAndRestore, false, {});
     const qsizetype panicking = transcript(plotter).size();
@@ -506,6 +512,90 @@ void ControllerSimTest::aRejectedConfigurationIsOneStepFromThePreviousOne() {
     QVERIFY(controller.logMessages().contains("Settings restored from the backup of " +
                                               Texts::backupTime(before.time) + "."));
     QCOMPARE(controller.previousConfiguration(), std::nullopt);
+}
+
+// A boot-looping machine: nothing known to go back erases nothing; with a backup of
+// it, one repair brings it back running with that file, byte for byte.
+void ControllerSimTest::repairBringsBackAMachineThatDoesNotStartWithItsSettings() {
+    QTemporaryDir dir;
+    qputenv("XDG_DATA_HOME", dir.filePath("data").toUtf8());
+    QByteArray tuned = ResourceBundle(TFU_DEV_RESOURCES_DIR).readConfig("Halcot.yaml").value();
+    tuned.replace("steps_per_mm: 80.000", "steps_per_mm: 78.750");
+    sim::Config config;
+    config.startup = sim::Startup::BootLoop;
+    const auto simulatedPlotter = simulated(config);
+    sim::PtyPlotter& plotter = *simulatedPlotter;
+    const QString port = QString::fromStdString(plotter.path());
+    ControllerHarness harness;
+    auto& controller = harness.controller;
+    const auto finished = [&] {
+        QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning() && controller.result(), kJobTimeoutMs);
+    };
+    QVERIFY(harness.plug(port));
+    controller.updateFirmware();
+    finished();
+    QVERIFY(Repair::helps(*controller.result()));
+
+    QVERIFY(harness.plug(port));
+    controller.repairMachine({});
+    finished();
+    QCOMPARE(controller.result()->kind, Outcome::Kind::nothingToRestore);
+    QVERIFY(!transcript(plotter).contains("ERASE_FLASH"));
+
+    BackupIndex::Source source;
+    source.machine = DeviceQueries::machineIdentity(port);
+    source.time = QDateTime(QDate(2026, 11, 24), QTime(14, 2));
+    QVERIFY(std::holds_alternative<Backup>(BackupIndex().keep(tuned, source)));
+    QVERIFY(harness.plug(port));
+    controller.repairMachine({});
+    finished();
+    const Outcome repaired = *controller.result();
+    QCOMPARE(repaired.message,
+             QStringLiteral("Machine repaired: it runs firmware 2.10.6 with your settings from "
+                            "24 Nov 2026 14:02."));
+    QCOMPARE(repaired.startup()->verdict, ESP_STARTUP_RUNNING);
+    QCOMPARE(storedConfig(plotter), tuned);
+    QVERIFY(controller.logMessages().contains(
+        "Erase the machine, install firmware 2.10.6, then put back your settings from 24 Nov "
+        "2026 14:02."));
+}
+
+// A firmware that answers is saved before the erase, and the repair sends exactly
+// what the save, the flashing job and the upload send when run one by one.
+void ControllerSimTest::repairSavesAnAnsweringFirmwareAndSendsWhatItsStepsSend() {
+    QTemporaryDir dir;
+    qputenv("XDG_DATA_HOME", dir.filePath("data").toUtf8());
+    const ResourceBundle resources(TFU_DEV_RESOURCES_DIR);
+    const ProductConfig halcot{"Corvane Halcot", "Halcot.yaml"};
+    QStringList wires;
+    for (const bool whole : {true, false}) {
+        const auto plotter = simulated();
+        const QString port = QString::fromStdString(plotter->path());
+        FlashFirmware::Options flash;
+        flash.developmentImages = DevelopmentImages::accept;
+        if (whole) {
+            Repair::Options options;
+            options.flash = flash;
+            options.putBack = {Repair::PutBack::Kind::product, {}, halcot};
+            Repair repair(port, resources, options);
+            QCOMPARE(repair.run({}).kind, Outcome::Kind::succeeded);
+            QVERIFY(repair.saved());
+            QCOMPARE(repair.saved()->reason, BackupReason::beforeErase);
+        } else {
+            const auto version = DeviceQueries::firmwareVersion(port);
+            QVERIFY(std::holds_alternative<Backup>(
+                MachineConfigFile::keep({port, {}, BackupReason::beforeErase}, version, {})));
+            flash.eraseAll = flash.writeBootPartitions = true;
+            QCOMPARE(FlashFirmware(port, resources, flash).run({}).kind, Outcome::Kind::succeeded);
+            QCOMPARE(
+                UploadConfig(port, resources, ConfigChoice::ofProduct(halcot), {}).run({}).kind,
+                Outcome::Kind::succeeded);
+        }
+        QCOMPARE(storedConfig(*plotter), resources.readConfig("Halcot.yaml").value());
+        wires << transcript(*plotter).join('\n');
+    }
+    QVERIFY(wires[0].indexOf("$Xmodem/Send=config.yaml") < wires[0].indexOf("ERASE_FLASH"));
+    QCOMPARE(wires[0], wires[1]);
 }
 
 QTEST_GUILESS_MAIN(ControllerSimTest)

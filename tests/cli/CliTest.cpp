@@ -704,6 +704,21 @@ void CliTest::backupsAreListedAndRestored() {
         qPrintable(restored.out));
     QVERIFY(restored.out.contains("Settings restored from the backup of "));
     QCOMPARE(run({"restore-config", "--sim", "config-19990101-000000.yaml"}).exitCode, 15);
+
+    // A repair saves the answering firmware's file first, and that copy goes back.
+    const Run repaired = run({"repair", "--sim", "--sim-startup", "boot-loop", "--json"});
+    QCOMPARE(repaired.exitCode, 0);
+    const QJsonObject result = jsonObjects(repaired.out).last();
+    QCOMPARE(result["machine"], "running");
+    QVERIFY2(result["backup"].toString().startsWith(folder + "/config-"), qPrintable(repaired.out));
+    QCOMPARE(result["restored"], result["backup"]);
+    const Run bare = run({"repair", "--sim", "--no-config", "--json"});
+    QCOMPARE(bare.exitCode, 0);
+    QCOMPARE(jsonObjects(bare.out).last()["restored"], QJsonValue(QJsonValue::Null));
+    const Run unknown = run({"repair", "--sim", "--verbose", "--backup", "config-19990101.yaml"});
+    QCOMPARE(unknown.exitCode, 15);
+    QVERIFY(!unknown.out.contains("Opening port"));
+    QVERIFY(run({"repair", "--help"}).out.contains("18 nothing is known to put back"));
     qputenv("XDG_DATA_HOME", file("home-data").toUtf8());
 }
 

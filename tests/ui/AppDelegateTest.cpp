@@ -124,6 +124,8 @@ void AppDelegateTest::menuBarMatchesTheTableAndProductItemsUploadByTag() {
         "    ---",
         "    Choose File\u2026||",
         "  Restore Machine Config\u2026||",
+        "  ---",
+        "  Repair Machine\u2026||",
     };
     QCOMPARE(menus(), expected);
     QCOMPARE(action("About Teskal Firmware Updater")->menuRole(), QAction::AboutRole);
@@ -141,11 +143,12 @@ void AppDelegateTest::menuBarMatchesTheTableAndProductItemsUploadByTag() {
                  QStringList{"ERROR: No device connected"});
 
     launch({});
-    QCOMPARE(menus().mid(menus().indexOf("Config||")),
-             QStringList({"Config||", "  No products configured||disabled", "  ---",
-                          "  Select from Disk...||", "  ---", "  Save Machine Config\u2026||",
-                          "  Compare With Machine\u2026||", "    Choose File\u2026||",
-                          "  Restore Machine Config\u2026||"}));
+    QCOMPARE(
+        menus().mid(menus().indexOf("Config||")),
+        QStringList({"Config||", "  No products configured||disabled", "  ---",
+                     "  Select from Disk...||", "  ---", "  Save Machine Config\u2026||",
+                     "  Compare With Machine\u2026||", "    Choose File\u2026||",
+                     "  Restore Machine Config\u2026||", "  ---", "  Repair Machine\u2026||"}));
 }
 
 void AppDelegateTest::togglesFlipTheFlagAndTheCheckMark() {

@@ -2,11 +2,14 @@
 #include <QTreeWidget>
 
 #include "UiTestSupport.h"
+#include "app/BackupIndex.h"
+#include "app/DeviceQueries.h"
 #include "app/SimulatedPlotter.h"
 #include "ui/AppDelegate.h"
 #include "ui/CompareWindow.h"
 #include "ui/LogPanel.h"
 #include "ui/LogView.h"
+#include "ui/RepairDialog.h"
 #include "ui/RestoreWindow.h"
 #include "ui/ResultBanner.h"
 #include "ui/UpdaterView.h"
@@ -20,6 +23,7 @@ class EndToEndTest : public QObject {
 
   private slots:
     void updateButtonAndConfigMenuRunTheirJobs();
+    void aMachineLeftRestartingInALoopIsRepairedInTwoClicks();
 };
 
 void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
@@ -154,6 +158,45 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     answerNextMessageBox("Keep Running", &asked);
     QVERIFY(window->close());
     QVERIFY(asked.isEmpty());
+}
+
+// Break it, see the red banner, press Repair: it comes back with its newest backup.
+void EndToEndTest::aMachineLeftRestartingInALoopIsRepairedInTwoClicks() {
+    QTemporaryDir folder;
+    qputenv("XDG_DATA_HOME", folder.filePath("data").toUtf8());
+    sim::Config config;
+    config.startup = sim::Startup::BootLoop;
+    const auto plotter = startSimulatedPlotter(ResourceBundle(TFU_DEV_RESOURCES_DIR),
+                                               SimulatedPace::instant, config);
+    const QString port = QString::fromStdString(plotter->path());
+    const QByteArray settings = "name: Repaired plotter\nmeta: 1.2\n";
+    BackupIndex::Source source;
+    source.machine = DeviceQueries::machineIdentity(port);
+    QVERIFY(std::holds_alternative<Backup>(BackupIndex().keep(settings, source)));
+    AppDelegate delegate(
+        std::make_unique<UpdateController>(
+            ResourceBundle(TFU_DEV_RESOURCES_DIR),
+            [port](uint16_t, uint16_t) { return strdup(port.toUtf8().constData()); },
+            UpdateController::DevelopmentImages::accept),
+        AppDelegate::Options());
+    delegate.applicationDidFinishLaunching();
+    auto* view = qobject_cast<UpdaterView*>(delegate.window()->centralWidget());
+    QTRY_VERIFY(view->updateButton()->isEnabled());
+    QTest::mouseClick(view->updateButton(), Qt::LeftButton);
+    QPushButton* offer = nullptr;
+    QTRY_VERIFY_WITH_TIMEOUT((offer = view->resultBanner()->findChild<QPushButton*>()) != nullptr,
+                             60000);
+    QCOMPARE(offer->text(), QStringLiteral("Repair\u2026"));
+    QTest::mouseClick(offer, Qt::LeftButton);
+    QVERIFY(delegate.repairDialog() != nullptr);
+    QTest::mouseClick(delegate.repairDialog()->repairButton(), Qt::LeftButton);
+    const UpdateController& controller = delegate.updateController();
+    QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning() && controller.result(), 60000);
+    QCOMPARE(controller.result()->startup()->verdict, ESP_STARTUP_RUNNING);
+    plotter->inspect([&](const sim::Plotter& p) {
+        const auto stored = p.storedConfig().value_or(std::vector<uint8_t>{});
+        QCOMPARE(QByteArray(reinterpret_cast<const char*>(stored.data()), stored.size()), settings);
+    });
 }
 
 QTEST_MAIN(EndToEndTest)

@@ -15,6 +15,7 @@
 #include "ui/LogPanel.h"
 #include "ui/LogView.h"
 #include "ui/QuitGuard.h"
+#include "ui/RepairDialog.h"
 #include "ui/RestoreWindow.h"
 #include "ui/UpdaterView.h"
 
@@ -33,7 +34,7 @@ class ScreensTest : public QObject {
     void aboutWindow();
     void compareWindow();
     void connectionCheckWindow();
-    void restoreWindow();
+    void restoreWindowAndRepairDialog();
 
   private:
     void save(QWidget* window, const QString& name) {
@@ -98,6 +99,9 @@ void ScreensTest::mainWindowStates() {
     const std::pair<QString, Outcome> banners[] = {
         {"banner-running", verdict(ESP_STARTUP_RUNNING, {})},
         {"banner-wrong-version", verdict(ESP_STARTUP_WRONG_VERSION, {"[VER:2.9.1:]"})},
+        {"banner-boot-loop-repair",
+         verdict(ESP_STARTUP_BOOT_LOOP, {"rst:0xc (RTC_SW_CPU_RST),boot:0x8 (SPI_FAST_FLASH_BOOT)",
+                                         "ESP-ROM:esp32s3-20210327"})},
         {"banner-panic",
          verdict(ESP_STARTUP_PANIC,
                  {"Guru Meditation Error: Core  1 panic'ed (LoadProhibited). Exception was "
@@ -181,7 +185,7 @@ void ScreensTest::compareWindow() {
     save(&compare, QStringLiteral("compare-by-line"));
 }
 
-void ScreensTest::restoreWindow() {
+void ScreensTest::restoreWindowAndRepairDialog() {
     const QDateTime time(QDate(2024, 5, 1), QTime(14, 3, 22));
     const QString folder =
         QStringLiteral("/home/owner/.local/share/teskal-firmware-updater/backups");
@@ -203,6 +207,15 @@ void ScreensTest::restoreWindow() {
     restore.show();
     QVERIFY(QTest::qWaitForWindowExposed(&restore));
     save(&restore, QStringLiteral("restore"));
+
+    RepairDialog repair(restore.backups(), QStringLiteral("3C8A1F20B4E2"),
+                        {{"Corvane Halcot", "Halcot.yaml"}}, QStringLiteral("firmware 2.10.6"));
+    repair.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&repair));
+    QCOMPARE(repair.sentence()->text(),
+             QStringLiteral("Erase the machine, install firmware 2.10.6, then put back your "
+                            "settings from 2 May 2024 16:03."));
+    save(&repair, QStringLiteral("repair"));
 }
 
 // A plotter whose serial port was never made, beside a USB serial adapter.
