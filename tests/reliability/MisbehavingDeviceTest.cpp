@@ -1,8 +1,5 @@
 #include <fcntl.h>
-#include <grp.h>
-#include <spawn.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
@@ -10,7 +7,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -23,8 +19,10 @@
 #include "sim/PtyPlotter.h"
 #include "tests/api/JobSupport.h"
 #include "tests/support/Descriptors.h"
+#include "tests/support/HoldingProcess.h"
 #include "tests/support/Records.h"
 #include "tests/support/TestImages.h"
+#include "tests/support/Unprivileged.h"
 
 // Every entry point of the shared library against a healthy plotter and against ports
 // that cannot be opened; plotters that do what no healthy one does, and other
@@ -236,19 +234,10 @@ TEST(MisbehavingDevice, NullBufferWithALengthIsRefusedBeforeThePortOpens) {
     }
 }
 
-// Another program with the port open, as a serial monitor would have it: `sleep`
-// with the node as its standard input.
 TEST(SharedPort, PortThatAnotherProcessHoldsIsNotOpened) {
     sim::PtyPlotter plotter;
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, 0, plotter.path().c_str(), O_RDWR | O_NOCTTY, 0);
-    char* argv[] = {const_cast<char*>("sleep"), const_cast<char*>("60"), nullptr};
-    pid_t holder = -1;
-    ASSERT_EQ(posix_spawnp(&holder, "sleep", &actions, nullptr, argv, environ), 0);
-    posix_spawn_file_actions_destroy(&actions);
-
-    const std::string inUse = "Port is in use by sleep (pid " + std::to_string(holder) + ")";
+    const HoldingProcess holder(plotter.path());
+    const std::string inUse = "Port is in use by sleep (pid " + std::to_string(holder.pid) + ")";
     logLines.clear();
     EXPECT_EQ(flash(plotter.path()), 2u);
     EXPECT_EQ(logLines, (Lines{"Opening port: " + plotter.path(), inUse, "Failed to open port"}));
@@ -258,25 +247,6 @@ TEST(SharedPort, PortThatAnotherProcessHoldsIsNotOpened) {
     EXPECT_EQ(queryVersion(plotter.path()), "null");
     EXPECT_EQ(esp_probe_partition_table(plotter.path().c_str(), stub.data(), stub.size()), -1);
     plotter.inspect([](const sim::Plotter& p) { EXPECT_EQ(p.transcript(), Lines{}); });
-    ::kill(holder, SIGKILL);
-    ::waitpid(holder, nullptr, 0);
-}
-
-// Root and CAP_SYS_ADMIN pass over a port's exclusivity, so these cases run their
-// opener in a child that has given up root (and every capability with it) for
-// user and group 65534. Returns the child's exit status, or -1.
-int runUnprivileged(const std::function<int()>& body) {
-    const pid_t pid = ::fork();
-    if (pid == 0) {
-        if (::geteuid() == 0 &&
-            (::setgroups(0, nullptr) != 0 || ::setgid(65534) != 0 || ::setuid(65534) != 0)) {
-            ::_exit(125);
-        }
-        ::_exit(body());
-    }
-    int status = 0;
-    ::waitpid(pid, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 TEST(SharedPort, SecondOpenDuringAJobFailsWithEbusyForAnUnprivilegedProcess) {
@@ -285,33 +255,31 @@ TEST(SharedPort, SecondOpenDuringAJobFailsWithEbusyForAnUnprivilegedProcess) {
     sim::PtyPlotter plotter(config);
     ASSERT_EQ(::chmod(plotter.path().c_str(), 0666), 0);
     const char* node = plotter.path().c_str();
-    // Only system calls in the child: the parent has threads.
     auto openAsOther = [node] {
-        const int fd = ::open(node, O_RDWR | O_NOCTTY | O_NONBLOCK);
-        return fd >= 0 ? 0 : errno;
+        return std::to_string(::open(node, O_RDWR | O_NOCTTY | O_NONBLOCK) >= 0 ? 0 : errno);
     };
     std::thread job([&] { queryVersion(plotter.path()); });
     for (int i = 0; i < 100 && descriptorsOn(plotter.path()) < 2; ++i) {
         std::this_thread::sleep_for(10ms);
     }
     std::this_thread::sleep_for(100ms);  // past the open sequence, within the 500 ms settle
-    EXPECT_EQ(runUnprivileged(openAsOther), EBUSY);
+    EXPECT_EQ(runUnprivileged(openAsOther), std::to_string(EBUSY));
     job.join();
-    EXPECT_EQ(runUnprivileged(openAsOther), 0) << "still exclusive after the job";
+    EXPECT_EQ(runUnprivileged(openAsOther), "0") << "still exclusive after the job";
 }
 
 // A node that another descriptor keeps alive keeps its exclusivity flag across
 // closes; the simulator holds its side open, so every job finds the same node.
 TEST(SharedPort, TwoJobsInARowOnOnePseudoTerminalAsAnUnprivilegedUser) {
-    const int status = runUnprivileged([] {
+    const std::string failed = runUnprivileged([] {
         sim::PtyPlotter plotter;
         int failedJobs = 0;
         for (const int job : {1, 2}) {
             failedJobs |= queryVersion(plotter.path()) == "null" ? job : 0;
         }
-        return failedJobs;
+        return std::to_string(failedJobs);
     });
-    EXPECT_EQ(status, 0) << "1: the first job failed, 2: the second, 3: both";
+    EXPECT_EQ(failed, "0") << "1: the first job failed, 2: the second, 3: both";
 }
 
 }  // namespace
