@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <memory>
 #include <string>
 #include <thread>
 #include <tuple>
@@ -154,54 +155,54 @@ TEST(EntryPoint, PortsThatCannotBeOpenedFailEveryCallAndLeaveNoDescriptor) {
     ::unlink(notATerminal);
 }
 
+// Runs `call` against a fresh plotter set up by `configure`: it must come to `outcome`
+// within `boundS` seconds and leave nothing open on the port.
+void expectWithin(const std::function<void(sim::Config&)>& configure,
+                  const std::function<std::string(const std::string&)>& call,
+                  const std::string& outcome, double boundS, int row = __builtin_LINE()) {
+    const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
+    sim::Config config;
+    configure(config);
+    auto plotter = std::make_unique<sim::PtyPlotter>(config);
+    const std::string path = plotter->path();
+    const auto start = Clock::now();
+    EXPECT_EQ(call(path), outcome);
+    EXPECT_LT(secondsSince(start), boundS);
+    plotter.reset();
+    EXPECT_EQ(descriptorsOn(path), 0u) << "the job left its port open";
+}
+
+std::string flashCode(const std::string& path) {
+    return std::to_string(flash(path));
+}
+
+std::string uploadCode(const std::string& path) {
+    return std::to_string(upload(path));
+}
+
 // A firmware stuck printing status lines never leaves the gap that ends "read until
 // nothing arrives"; each call ends by the drain bound and its own time-outs.
+// Bounds: settle, 2 s per bounded drain, time-outs, and 1.5 s to spare.
 TEST(MisbehavingDevice, FloodingConsoleEndsEveryCallWithinItsBound) {
-    const auto expectBounded = [](const std::function<std::string(const std::string&)>& call,
-                                  const std::string& outcome, double boundS,
-                                  int row = __builtin_LINE()) {
-        const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
-        sim::Config config;
-        config.floodConsole = true;
-        sim::PtyPlotter plotter(config);
-        const auto start = Clock::now();
-        EXPECT_EQ(call(plotter.path()), outcome);
-        EXPECT_LT(secondsSince(start), boundS);
-    };
-    // Bounds: settle, 2 s per bounded drain, time-outs, and 1.5 s to spare.
-    expectBounded(queryVersion, "null", 0.5 + 2 + 2 + 1.5);
-    expectBounded([](auto& path) { return "code " + std::to_string(upload(path)); }, "code 8",
-                  0.5 + (2 + 2) + 2 + 1.5);
-    expectBounded(
+    const auto flood = [](sim::Config& c) { c.floodConsole = true; };
+    expectWithin(flood, queryVersion, "null", 0.5 + 2 + 2 + 1.5);
+    expectWithin(flood, uploadCode, "8", 0.5 + (2 + 2) + 2 + 1.5);
+    expectWithin(
+        flood,
         [](auto& path) {
             const auto code = flash(path, firmware.data(), firmware.size(), stub.data(), "2.10.6");
-            return "code " + std::to_string(code) + ", " + logLines.back();
+            return std::to_string(code) + ", " + logLines.back();
         },
-        "code 0, Could not confirm firmware version after update.",
-        2 + 2 + 3 * (2 + 2) + 2 * 1 + 1.5);
+        "0, Could not confirm firmware version after update.", 2 + 2 + 3 * (2 + 2) + 2 * 1 + 1.5);
 }
 
 // The cable is pulled in the middle of a job. The simulator closes its side, the
 // line hangs up, and the step that was waiting runs into its time-out.
+// Bounds: settle, reset and exchanges, then the time-out of the waiting step.
 TEST(MisbehavingDevice, UnpluggedMidJobFailsWithinTheStepTimeOutAndReleasesThePort) {
-    const auto expectUnplug = [](const std::function<void(sim::Config&)>& unplug,
-                                 const std::function<esp_error_t(const std::string&)>& job,
-                                 esp_error_t code, double boundS, int row = __builtin_LINE()) {
-        const ::testing::ScopedTrace trace(__FILE__, row, "in this row");
-        sim::Config config;
-        unplug(config);
-        sim::PtyPlotter plotter(config);
-        const auto start = Clock::now();
-        EXPECT_EQ(job(plotter.path()), code);
-        EXPECT_LT(secondsSince(start), boundS);
-        EXPECT_EQ(descriptorsOn(plotter.path()), 0u) << "the job left its port open";
-    };
-    // Bounds: settle, reset and exchanges, then the time-out of the waiting step.
-    const auto flashJob = [](const std::string& path) { return flash(path); };
-    expectUnplug([](auto& c) { c.goneAfterFlashData = 2; }, flashJob, 6, 10.0 + 5.0);
-    expectUnplug([](auto& c) { c.goneAtMd5 = 0; }, flashJob, 7, 10.0 + 5.0);
-    expectUnplug([](auto& c) { c.goneAfterXModemBlocks = 2; },
-                 [](const std::string& path) { return upload(path); }, 8, 7.5 + 5.0);
+    expectWithin([](auto& c) { c.goneAfterFlashData = 2; }, flashCode, "6", 10.0 + 5.0);
+    expectWithin([](auto& c) { c.goneAtMd5 = 0; }, flashCode, "7", 10.0 + 5.0);
+    expectWithin([](auto& c) { c.goneAfterXModemBlocks = 2; }, uploadCode, "8", 7.5 + 5.0);
 }
 
 // In a child process, so that a crash fails the case rather than the test program.
