@@ -34,9 +34,9 @@ class DeviceJobsTest : public ::testing::Test {
 
 TEST_F(DeviceJobsTest, UploadFailuresReturn8WithoutRestart) {
     const auto file = pattern(5000, 5);
-    const Prepare unanswered = [](auto& d) { d.plotter.config().xmodemHandshake = false; };
-    const Prepare cancelling = [](auto& d) { d.plotter.config().xmodemCanBlock = 2; };
-    for (const Prepare& fault : {unanswered, cancelling}) {
+    for (const Prepare& fault :
+         {Prepare([](auto& d) { d.plotter.config().xmodemHandshake = false; }),
+          Prepare([](auto& d) { d.plotter.config().xmodemCanBlock = 2; })}) {
         const auto& watched = device(fault);
         EXPECT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), nullptr), 8u);
         EXPECT_FALSE(watched.plotter.storedConfig().has_value());
@@ -66,9 +66,7 @@ TEST_F(DeviceJobsTest, UploadKeepsItsWaitsAndDropsStaleConsoleOutput) {
     const struct {
         const char* name;
         bool answerVersion;
-        Bytes afterVersion;
-        Bytes stale;
-        Bytes file;
+        Bytes afterVersion, stale, file;
         Writes writes;
     } cases[] = {
         {"version answered", true, {}, {}, file, answered},
@@ -102,7 +100,7 @@ TEST_F(DeviceJobsTest, UploadKeepsItsWaitsAndDropsStaleConsoleOutput) {
 
 TEST_F(DeviceJobsTest, QueryVersionTellsAnEmptyVersionFromNoneWithinTwoSeconds) {
     device([](auto& d) { d.plotter.config().versionReport = ""; });
-    EXPECT_EQ(esp::runQueryVersionJob(port), std::string());
+    EXPECT_EQ(esp::runQueryVersionJob(port), "");
     const auto& silent = device([](auto& d) { d.plotter.config().silentConsole = true; });
     EXPECT_EQ(esp::runQueryVersionJob(port), std::nullopt);
     EXPECT_NEAR(silent.elapsedMs(), 500 + 50 + 2000, 5);
@@ -119,18 +117,14 @@ Bytes configFile(size_t size) {
 }
 
 TEST_F(DeviceJobsTest, DownloadGivesBackTheUploadedBytes) {
-    const struct {
-        bool crc;
-        size_t blockSize;
-    } modes[] = {{true, 1024}, {false, 1024}, {true, 128}};
-    for (const auto& mode : modes) {
+    for (const auto& [crc, blockSize] : {std::pair{true, 1024}, {false, 1024}, {true, 128}}) {
         for (const size_t size : {0, 1, 1023, 1024, 1025, 70000}) {
-            SCOPED_TRACE(testing::Message() << (mode.crc ? "CRC " : "checksum ") << mode.blockSize
+            SCOPED_TRACE(testing::Message() << (crc ? "CRC " : "checksum ") << blockSize
                                             << "-byte blocks, " << size << " bytes");
             clearRecords();
             device([&](auto& d) {
-                d.plotter.config().xmodemCrc = d.plotter.config().xmodemSendCrc = mode.crc;
-                d.plotter.config().xmodemSendBlockSize = mode.blockSize;
+                d.plotter.config().xmodemCrc = d.plotter.config().xmodemSendCrc = crc;
+                d.plotter.config().xmodemSendBlockSize = static_cast<size_t>(blockSize);
             });
             const auto file = configFile(size);
             ASSERT_EQ(esp::runUploadConfigJob(port, file.data(), file.size(), nullptr), 0u);
@@ -171,8 +165,7 @@ TEST_F(DeviceJobsTest, DownloadAsksAgainForLostBlocksAndEndsCleanlyOnFailure) {
         EXPECT_NEAR(watched.writes.front().first, 550, 5);
         EXPECT_EQ(downloaded, failure ? std::nullopt : std::optional(file));
         EXPECT_EQ(logLines, failure ? Lines{failure} : Lines{});
-        EXPECT_EQ(told.reason, cause.reason);
-        EXPECT_EQ(told.block, cause.block);
+        EXPECT_EQ(std::pair(told.reason, told.block), std::pair(cause.reason, cause.block));
     };
     const auto corrupt = [](int times) {
         return [times](sim::Config& c) {
@@ -252,15 +245,16 @@ TEST_F(DeviceJobsTest, ProbeReadsTheTableThroughTheStubWithoutAReset) {
         EXPECT_EQ(watched.firstActionMs, 500);
         EXPECT_TRUE(watched.endsWithoutReset());
     };
-    expectProbe([](auto& p) { p.loadFlash(0x8000, partitionTable("dA")); }, 1);
-    expectProbe([](auto& p) { p.loadFlash(0x8000, partitionTable("dD")); }, 0);
+    const auto table = [](const char* entries, int syncFrom = 1) {
+        return [=](sim::Plotter& p) {
+            p.loadFlash(0x8000, partitionTable(entries));
+            p.config().syncFromAttempt = syncFrom;
+        };
+    };
+    expectProbe(table("dA"), 1);
+    expectProbe(table("dD"), 0);
     expectProbe([](auto&) {}, 0);
-    expectProbe(
-        [](auto& p) {
-            p.loadFlash(0x8000, partitionTable("dA"));
-            p.config().syncFromAttempt = 25;
-        },
-        1);
+    expectProbe(table("dA", 25), 1);
     expectProbe([](auto& p) { p.config().silent = true; }, -1);
     expectProbe([](auto& p) { p.config().greeting = false; }, -1);
     expectProbe(

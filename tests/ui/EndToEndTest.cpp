@@ -1,5 +1,4 @@
 #include <QPlainTextEdit>
-#include <QTreeWidget>
 
 #include "UiTestSupport.h"
 #include "app/BackupIndex.h"
@@ -10,14 +9,12 @@
 #include "ui/LogPanel.h"
 #include "ui/LogView.h"
 #include "ui/RepairDialog.h"
-#include "ui/RestoreWindow.h"
 #include "ui/ResultBanner.h"
 #include "ui/UpdaterView.h"
 
 // The whole program against the simulated plotter on a pseudo-terminal: the update
-// button (clicked twice), Save Machine Config and the restore of the copy it kept,
-// and Compare With Machine with the compare window's upload run to the end;
-// quitting during the update asks first.
+// button (clicked twice), Save Machine Config, and Compare With Machine with the
+// compare window's upload run to the end; quitting during the update asks first.
 class EndToEndTest : public QObject {
     Q_OBJECT
 
@@ -109,19 +106,6 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     QVERIFY2(log.first().startsWith("Machine config saved to " + folder.filePath("machine.yaml")),
              qPrintable(log.first()));
     QVERIFY(suggestedName.startsWith("machine-config-"));
-
-    // The save kept a copy, which Restore puts back with the normal upload.
-    menuItem(window, "Restore Machine Config\u2026")->trigger();
-    RestoreWindow* restore = delegate.restoreWindow();
-    QCOMPARE(restore->backups().size(), 1);
-    QCOMPARE(restore->list()->topLevelItem(0)->text(4),
-             QString::fromStdString(plotter->path()) + " (this machine)");
-    QTest::mouseClick(restore->restoreButton(), Qt::LeftButton);
-    QTRY_VERIFY_WITH_TIMEOUT(!log.isEmpty() && log.last().startsWith("Settings restored from the "
-                                                                     "backup of "),
-                             60000);
-    QVERIFY(log.contains("Upload successful; restarting machine."));
-    QTRY_VERIFY(!delegate.updateController().jobRunning());
 
     const ProductConfig& product = BuildConfig::products().first();
     menuItem(window, product.name, "Compare With Machine\u2026")->trigger();
