@@ -361,11 +361,13 @@ QString startupNextStep(const StartupCause& cause, Audience audience) {
                                 "teskal-flash version.");
         default:
             return window ? QStringLiteral(
-                                "Run the update again with Options > Erase All Flash. If it "
-                                "keeps happening, save the log (File > Save Log…) for support.")
+                                "Press Repair… to erase the machine, install the firmware again "
+                                "and put back your settings. If it keeps happening, save the log "
+                                "(File > Save Log…) for support.")
                           : QStringLiteral(
-                                "Run teskal-flash flash --erase-all. If it keeps happening, keep "
-                                "this output for support.");
+                                "Run teskal-flash repair to erase the machine, install the "
+                                "firmware again and put back your settings. If it keeps "
+                                "happening, keep this output for support.");
     }
 }
 
@@ -894,7 +896,8 @@ QString repairPlan(const QString& firmware, const std::optional<QString>& what) 
 }
 
 QString puttingBack(const QString& what) {
-    return QStringLiteral("NOTE: Flash was erased; %1 goes back once the machine runs.").arg(what);
+    return QStringLiteral("NOTE: Flash was erased; once the machine runs, %1 will be put back.")
+        .arg(what);
 }
 
 QString repaired(const QString& firmware, const std::optional<QString>& what) {

@@ -214,7 +214,7 @@ QString stockConfigOf(const QString& product);    ///< "the stock configuration 
 /// One sentence: "Erase the machine, install FIRMWARE, then put back WHAT." (without
 /// `what`: "Erase the machine and install FIRMWARE, without a configuration.").
 QString repairPlan(const QString& firmware, const std::optional<QString>& what);
-/// The note after the erase: "Flash was erased; WHAT goes back once the machine runs."
+/// The note after the erase: "Flash was erased; once the machine runs, WHAT will be put back."
 QString puttingBack(const QString& what);
 /// The success: "Machine repaired: it runs FIRMWARE with WHAT." (or "…, without a
 /// configuration.").
