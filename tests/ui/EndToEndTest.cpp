@@ -171,12 +171,17 @@ void EndToEndTest::aMachineLeftRestartingInALoopIsRepairedInTwoClicks() {
     QTRY_VERIFY_WITH_TIMEOUT((offer = view->resultBanner()->findChild<QPushButton*>()) != nullptr,
                              60000);
     QCOMPARE(offer->text(), QStringLiteral("Repair\u2026"));
+    const UpdateController& controller = delegate.updateController();
+    // The status check that follows a restart may still hold the port.
+    QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning(), 30000);
     QTest::mouseClick(offer, Qt::LeftButton);
     QVERIFY(delegate.repairDialog() != nullptr);
     QTest::mouseClick(delegate.repairDialog()->repairButton(), Qt::LeftButton);
-    const UpdateController& controller = delegate.updateController();
+    QVERIFY(controller.jobRunning());
     QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning() && controller.result(), 60000);
-    QCOMPARE(controller.result()->startup()->verdict, ESP_STARTUP_RUNNING);
+    const StartupCause* startup = controller.result()->startup();
+    QVERIFY2(startup != nullptr && startup->verdict == ESP_STARTUP_RUNNING,
+             qPrintable(controller.logMessages().join('\n')));
     plotter->inspect([&](const sim::Plotter& p) {
         const auto stored = p.storedConfig().value_or(std::vector<uint8_t>{});
         QCOMPARE(QByteArray(reinterpret_cast<const char*>(stored.data()), stored.size()), settings);
