@@ -248,9 +248,6 @@ void CliTest::subcommands_data() {
     QTest::newRow("flash, resources missing")
         << L{"flash", "--port", freePort_, "--resources", file("empty-resources")} << 12 << ""
         << L{} << "ERROR: Bundled firmware not found\n";
-    QTest::newRow("upload, product")
-        << L{"upload-config", "--sim", "--product", "Corvane Halcot"} << 0
-        << "Preparing Corvane Halcot config v1.2.0-devset\n" + kUploaded << L{} << "";
     QTest::newRow("upload, file after --sim")
         << L{"upload-config", "--sim", file("workshop.yml")} << 0
         << "Preparing workshop.yml v9.9\n" + kUploaded << L{} << "";
@@ -258,9 +255,6 @@ void CliTest::subcommands_data() {
         << L{"upload-config", "--sim", "--product", "Halcot.yaml", "--port", kNoPort} << 11 << ""
         << L{"Preparing"}
         << "ERROR: The development set's configurations are only for simulated plotters\n";
-    QTest::newRow("save-config") << L{"save-config", "--sim", file("saved.yaml")} << 0
-                                 << "Machine config saved to " + file("saved.yaml") + " (512 bytes)"
-                                 << L{} << "";
     QTest::newRow("save-config, destination cannot be written")
         << L{"save-config", "--sim", "/nonexistent/folder/machine.yaml"} << 17 << ""
         << L{"Machine config saved"} << QString();
@@ -621,7 +615,8 @@ void CliTest::backupsAreListedAndRestored() {
     QCOMPARE(nothingToRestore.exitCode, 15);
     QCOMPARE(nothingToRestore.err, "ERROR: No backup of the machine sim1 in " + folder + '\n');
 
-    QCOMPARE(run({"save-config", "--sim", file("kept.yaml")}).exitCode, 0);
+    QVERIFY(run({"save-config", "--sim", file("kept.yaml")})
+                .out.contains("Machine config saved to " + file("kept.yaml") + " (512 bytes)"));
     const QJsonArray backups =
         jsonObjects(run({"backups", "--json"}).out).last()["backups"].toArray();
     QCOMPARE(backups.size(), 1);
