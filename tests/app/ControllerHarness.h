@@ -4,6 +4,7 @@
 #include <QTest>
 #include <algorithm>
 #include <cstring>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -78,6 +79,17 @@ class ControllerHarness : public QObject {
             return std::nullopt;
         }
         return *outcome();
+    }
+
+    /// Plugs in `path`, starts `job` and waits up to a minute for its result; false
+    /// when the plug or the result did not come.
+    bool run(const QString& path, const std::function<void()>& job) {
+        if (!plug(path)) {
+            return false;
+        }
+        job();
+        return QTest::qWaitFor([this] { return !controller.jobRunning() && controller.result(); },
+                               60000);
     }
 
     /// The states from the first busy one to the first that is not, which only the

@@ -67,13 +67,9 @@ class FakeNotifications : public QObject {
     uint Notify(const QString& app, uint replaces, const QString& icon, const QString& title,
                 const QString& body, const QStringList& actions, const QVariantMap& hints,
                 int timeout) {
-        calls << QStringList{app,
-                             QString::number(replaces),
-                             icon,
-                             title,
-                             body,
-                             QString::number(actions.size() + hints.size()),
-                             QString::number(timeout)}
+        const QString extras = QString::number(actions.size() + hints.size());
+        calls << QStringList{app,    QString::number(replaces), icon, title, body,
+                             extras, QString::number(timeout)}
                      .join('|');
         return 1;
     }

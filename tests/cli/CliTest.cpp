@@ -14,7 +14,6 @@
 #include <QMap>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QSet>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -82,15 +81,18 @@ bool containsInOrder(const QString& text, const QStringList& lines) {
     return next == lines.size();
 }
 
+QByteArray contentsOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 // Whether a plotter (USB 303a:1001) is attached to this computer.
 bool plotterAttached() {
     const QDir devices(QStringLiteral("/sys/bus/usb/devices"));
     for (const QString& device : devices.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        const auto id = [&](const char* name) {
-            QFile file(devices.filePath(device + '/' + name));
-            return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
-        };
-        if (id("idVendor") == "303a" && id("idProduct") == "1001") {
+        const QString ids = devices.filePath(device) + "/id";
+        if (contentsOf(ids + "Vendor").trimmed() == "303a" &&
+            contentsOf(ids + "Product").trimmed() == "1001") {
             return true;
         }
     }
@@ -99,11 +101,6 @@ bool plotterAttached() {
 
 qint64 devImageSize(const QString& name) {
     return QFileInfo(kDev + '/' + name + ".bin").size();
-}
-
-QByteArray contentsOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 // Stands in for teskal-flash as a fleet's child, which is started with "--port P
@@ -147,6 +144,7 @@ class CliTest : public QObject {
     void severalPlottersRunAtOnce();
     void fleetEndsWithTheFirstFailureInPortOrder();
     void terminalProgressIsRedrawnInPlace();
+    void ctrlCWarnsOnceDuringAWrite_data();
     void ctrlCWarnsOnceDuringAWrite();
     void aPortTheUserMayNotOpenIsNamedAndGetsNothing();
     void doctorAndDetectSayWhyNoPlotterIsReady();
@@ -155,12 +153,8 @@ class CliTest : public QObject {
   private:
     QString file(const QString& name) const { return files_.filePath(name); }
     QTemporaryDir files_;
-    // A serial port nobody serves, and one whose every open fails as a USB node's
-    // does once its device has gone.
-    const FreePty free_;
-    const FreePty gone_{false};
+    const FreePty free_;  // a serial port nobody serves
     const QString freePort_ = QString::fromStdString(free_.path);
-    const QString gonePort_ = QString::fromStdString(gone_.path);
 };
 
 void CliTest::initTestCase() {
@@ -206,191 +200,136 @@ void CliTest::subcommands_data() {
     using L = QStringList;  // short rows
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QStringList>("outLines");  // in this order, others between them
+    QTest::addColumn<QString>("out");  // lines in this order, others between them
     QTest::addColumn<QStringList>("notInOut");
     QTest::addColumn<QString>("err");  // exact; null: not compared
 
-    const QString device = "Device running firmware v3.7.8 \u2014 updating firmware only.";
     // The command line's own words, not the window's menus.
     const QString note = QStringLiteral(
         "NOTE: Flash was erased. Run teskal-flash upload-config to upload the configuration for "
         "your machine.");
+    const QString refused = QStringLiteral("refused: a development image, not firmware\n");
     QTest::newRow("detect, 64 simulated")
-        << L{"detect", "--sim", "64"} << 0 << L{"sim1", "sim2", "sim64"} << L{"sim65"} << "";
-    QTest::newRow("version") << L{"version", "--sim"} << 0 << L{"v3.7.8"} << L{} << "";
+        << L{"detect", "--sim", "64"} << 0 << "sim1\nsim2\nsim64" << L{"sim65"} << "";
+    QTest::newRow("version") << L{"version", "--sim"} << 0 << "v3.7.8" << L{} << "";
     // A port that cannot be used is named as such, never as a silent machine.
     QTest::newRow("version, port missing")
-        << L{"version", "--port", kNoPort} << 2 << L{} << L{}
+        << L{"version", "--port", kNoPort} << 2 << "" << L{}
         << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
-    QTest::newRow("version, not a serial port")
-        << L{"version", "--port", "/dev/null"} << 2 << L{} << L{}
-        << "ERROR: /dev/null is not a serial port. Name the plotter's port, for example "
-           "/dev/ttyACM0.\n";
     QTest::newRow("version, no answer")
-        << L{"version", "--port", freePort_} << 9 << L{} << L{}
+        << L{"version", "--port", freePort_} << 9 << "" << L{}
         << "ERROR: Operation timed out. Try unplugging and reconnecting.\n";
-    QTest::newRow("probe") << L{"probe", "--sim"} << 0 << L{"Partition table: present"} << L{}
-                           << "";
+    QTest::newRow("probe") << L{"probe", "--sim"} << 0 << "Partition table: present" << L{} << "";
     QTest::newRow("flash, application only")
         << L{"flash", "--sim"} << 0
-        << L{"Updating firmware v2.10.6\u2026", "Checking device status\u2026", device, kComplete}
+        << "Checking device status\u2026\nDevice running firmware v3.7.8 \u2014 updating "
+           "firmware only.\n" +
+               kComplete
         << L{"Opening port"} << "";
     QTest::newRow("flash, erase all, settings discarded, verbose")
         << L{"flash", "--sim", "--erase-all", "--discard-config", "--verbose"} << 0
-        << L{"Updating firmware v2.10.6\u2026",
-             "Erasing entire flash...",
-             "Flash plan: 4 entries (FULL)",
-             kComplete,
-             "",
-             note}
-        << L{"Checking device status", "Saving the machine's settings", "Uploading config"} << "";
+        << "Flash plan: 4 entries (FULL)\n" + kComplete + "\n\n" + note
+        << L{"Saving the machine's settings", "Uploading config"} << "";
     QTest::newRow("flash, erase all keeps the settings")
         << L{"flash", "--sim", "--erase-all"} << 0
-        << L{"Saving the machine's settings before Erase All Flash\u2026",
-             "Updating firmware v2.10.6\u2026",
-             kComplete,
-             "",
-             note,
-             "Uploading config file...",
-             kUploaded}
-        << L{"Checking device status"} << "";
+        << "Saving the machine's settings before Erase All Flash\u2026\n" + note + '\n' + kUploaded
+        << L{} << "";
     QTest::newRow("flash, refused image, nothing sent")
         << L{"flash", "--sim", "--verbose", "--firmware", file("text.bin")} << 11
-        << L{"Updating firmware (custom: text.bin)\u2026"}
+        << "Updating firmware (custom: text.bin)\u2026"
         << L{"Checking device status", "Opening port"}
-        << "ERROR: Firmware image refused: not a firmware image (first byte 0x7B, expected "
-           "0xE9)\n";
+        << "ERROR: Firmware image refused: not a firmware image (first byte 0x7B, expected 0xE9)\n";
     QTest::newRow("flash, development image for a real port")
-        << L{"flash", "--sim", "--port", freePort_} << 11 << L{} << L{"Checking device status"}
-        << "ERROR: Firmware image refused: a development image, not firmware\n";
+        << L{"flash", "--sim", "--port", freePort_} << 11 << "" << L{"Checking device status"}
+        << "ERROR: Firmware image " + refused;
+    QTest::newRow("flash, real port, marker at the end of a bundled image")
+        << L{"flash", "--resources", file("real"), "--port", freePort_} << 11 << "" << L{}
+        << "ERROR: Bundled esp32s3_stub.bin " + refused;
     QTest::newRow("flash, resources missing")
-        << L{"flash", "--port", freePort_, "--resources", file("empty-resources")} << 12 << L{}
+        << L{"flash", "--port", freePort_, "--resources", file("empty-resources")} << 12 << ""
         << L{} << "ERROR: Bundled firmware not found\n";
-    QTest::newRow("upload, product")
-        << L{"upload-config", "--sim", "--product", "Corvane Halcot"} << 0
-        << L{"Preparing Corvane Halcot config v1.2.0-devset", kUploaded} << L{} << "";
     QTest::newRow("upload, file after --sim")
         << L{"upload-config", "--sim", file("workshop.yml")} << 0
-        << L{"Preparing workshop.yml v9.9", "Uploading config file...", kUploaded} << L{} << "";
-    QTest::newRow("upload, invalid file")
-        << L{"upload-config", "--sim", file("bad.yaml")} << 11 << L{} << L{"Preparing"}
-        << "ERROR: bad.yaml is not a valid machine configuration: line 3, column 1: end of "
-           "sequence flow not found\n";
+        << "Preparing workshop.yml v9.9\n" + kUploaded << L{} << "";
     QTest::newRow("upload, development configuration for a real port")
-        << L{"upload-config", "--sim", "--product", "Halcot.yaml", "--port", kNoPort} << 11 << L{}
+        << L{"upload-config", "--sim", "--product", "Halcot.yaml", "--port", kNoPort} << 11 << ""
         << L{"Preparing"}
         << "ERROR: The development set's configurations are only for simulated plotters\n";
-    QTest::newRow("upload, port cannot be opened")
-        << L{"upload-config", "--resources", kDev, "--product", "Halcot.yaml", "--port", kNoPort}
-        << 2 << L{} << L{"Preparing"}
-        << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
-    QTest::newRow("save-config") << L{"save-config", "--sim", file("saved.yaml")} << 0
-                                 << L{"Machine config saved to " + file("saved.yaml") +
-                                      " (512 bytes)"}
-                                 << L{} << "";
-    QTest::newRow("save-config, port cannot be opened")
-        << L{"save-config", "--port", kNoPort, file("unsaved.yaml")} << 2 << L{} << L{}
-        << "ERROR: " + kNoPort + " does not exist. Plug the plotter in, or name another port.\n";
-    QTest::newRow("save-config, the port's device has gone")
-        << L{"save-config", "--port", gonePort_, file("unsaved.yaml")} << 2 << L{} << L{}
-        << "ERROR: " + gonePort_ +
-               " does not answer: its device has gone. Unplug the plotter, plug it in again and "
-               "try again.\n";
     QTest::newRow("save-config, destination cannot be written")
-        << QStringList{"save-config", "--sim", "/nonexistent/folder/machine.yaml"} << 17
-        << QStringList{} << QStringList{"Machine config saved"} << QString();
+        << L{"save-config", "--sim", "/nonexistent/folder/machine.yaml"} << 17 << ""
+        << L{"Machine config saved"} << QString();
     QTest::newRow("statuses in the help, from the one table")
-        << QStringList{"save-config", "--help"} << 0
-        << QStringList{"Exit status:",
-                       "  0  saved",
-                       "  1  no plotter is connected",
-                       "  2  the port cannot be used (missing, not a serial port, not permitted, "
-                       "in "
-                       "use) or could not be opened",
-                       "  8  a configuration transfer with the machine failed (upload or download)",
-                       "  17 a file could not be written on this computer"}
-        << QStringList{"  9 "} << "";
+        << L{"save-config", "--help"} << 0
+        << "Exit status:\n  0  saved\n  1  no plotter is connected\n  2  the port cannot be used "
+           "(missing, not a serial port, not permitted, in use) or could not be opened\n  8  a "
+           "configuration transfer with the machine failed (upload or download)\n  17 a file "
+           "could not be written on this computer"
+        << L{"  9 "} << "";
     QTest::newRow("diff-config's statuses follow diff(1)")
-        << QStringList{"diff-config", "--help"} << 0
-        << QStringList{"  0  equal by key", "  1  different, as diff(1) reports it",
-                       "  8  a configuration transfer with the machine failed (upload or "
-                       "download) (also when no plotter is connected)"}
-        << QStringList{"  1  no plotter"} << "";
+        << L{"diff-config", "--help"} << 0
+        << "  0  equal by key\n  1  different, as diff(1) reports it\n  8  a configuration "
+           "transfer with the machine failed (upload or download) (also when no plotter is "
+           "connected)"
+        << L{"  1  no plotter"} << "";
     QTest::newRow("doctor's statuses")
-        << QStringList{"doctor", "--help"} << 0
-        << QStringList{"  0  a plotter is ready to use", "  1  no plotter is ready to use"}
-        << QStringList{"  2 "} << "";
+        << L{"doctor", "--help"} << 0
+        << "  0  a plotter is ready to use\n  1  no plotter is ready to use" << L{"  2 "} << "";
     QTest::newRow("diff-config, different")
         << L{"diff-config", "--sim", "--product", "Corvane Halcot"} << 1
-        << L{"axes/x/max_travel_mm: 300.000 \u2192 330.000", "+ axes/z/motor0/rc_servo/pwm_hz: 50",
-             "name: Simulated plotter \u2192 Corvane Halcot"}
+        << "axes/x/max_travel_mm: 300.000 \u2192 330.000\n+ axes/z/motor0/rc_servo/pwm_hz: "
+           "50\nname: Simulated plotter \u2192 Corvane Halcot"
         << L{} << "";
     QTest::newRow("diff-config, invalid file")
-        << L{"diff-config", "--sim", file("bad.yaml")} << 11 << L{} << L{"Downloading"}
+        << L{"diff-config", "--sim", file("bad.yaml")} << 11 << "" << L{"Downloading"}
         << "ERROR: bad.yaml is not a valid machine configuration: line 3, column 1: end of "
            "sequence flow not found\n";
+    const QString partition = QStringLiteral("(the application partition holds 1,966,080 bytes)");
     QTest::newRow("inspect, simulated, at the limits and past them")
         << L{"inspect",        "--sim",
              file("fits.bin"), kDev + "/configs/Halcot.yaml",
              file("over.bin"), file("exact.yaml"),
              file("over.yaml")}
         << 11
-        << L{"fits.bin",
-             "  chip: ESP32-S3 (chip id 9)",
-             "  version: 0.0.0-devset",
-             "  project: teskal-devset",
-             "  partition: fits (the application partition holds 1,966,080 bytes)",
-             "  result: passes",
-             "Halcot.yaml",
-             "  meta: 1.2.0-devset",
-             "  result: passes",
-             "  partition: too large (the application partition holds 1,966,080 bytes)"}
+        << "fits.bin\n  chip: ESP32-S3 (chip id 9)\n  version: 0.0.0-devset\n  project: "
+           "teskal-devset\n  partition: fits " +
+               partition +
+               "\n  result: passes\nHalcot.yaml\n  meta: 1.2.0-devset\n  result: "
+               "passes\n  partition: too large " +
+               partition
         << L{}
         << "ERROR: over.bin cannot be used: too large for the application partition (1,966,081 "
-           "bytes; the partition holds 1,966,080)\n"
-           "ERROR: over.yaml is not a valid machine configuration: larger than 1 MiB\n"
-           "ERROR: 2 of 5 files refused\n";
+           "bytes; the partition holds 1,966,080)\nERROR: over.yaml is not a valid machine "
+           "configuration: larger than 1 MiB\nERROR: 2 of 5 files refused\n";
     QTest::newRow("inspect, refusals")
         << L{"inspect",        "--resources",    file("empty-resources"), kDev + "/firmware.bin",
              file("text.bin"), file("notes.txt")}
         << 11
-        << L{"firmware.bin",
-             "  partition: unknown (no partition table in the resources)",
-             "  result: refused",
-             "text.bin",
-             "  size: 20 bytes",
-             "  SHA-256: "
-             "fa9c3e324e6282a583cf5744a6d61770870e8710d7200dcc77af917e46839f13",
-             "  result: refused",
-             "notes.txt",
-             "  result: refused"}
+        << "firmware.bin\n  partition: unknown (no partition table in the resources)\n  result: "
+           "refused\ntext.bin\n  size: 20 bytes\n  SHA-256: "
+           "fa9c3e324e6282a583cf5744a6d61770870e8710d7200dcc77af917e46839f13\n  result: "
+           "refused\nnotes.txt\n  result: refused"
         << L{"partition: fits"}
-        << "ERROR: firmware.bin cannot be used: a development image, not firmware\n"
-           "ERROR: text.bin cannot be used: not a firmware image (first byte 0x7B, expected "
-           "0xE9)\n"
-           "ERROR: notes.txt is neither a firmware image (.bin) nor a machine configuration "
-           "(.yaml, .yml)\n"
-           "ERROR: 3 of 3 files refused\n";
-    QTest::newRow("flash, real port, marker at the end of a bundled image")
-        << L{"flash", "--resources", file("real"), "--port", freePort_} << 11 << L{}
-        << L{"Checking device status"}
-        << "ERROR: Bundled esp32s3_stub.bin refused: a development image, not firmware\n";
+        << "ERROR: firmware.bin cannot be used: a development image, not firmware\nERROR: text.bin "
+           "cannot be used: not a firmware image (first byte 0x7B, expected 0xE9)\nERROR: "
+           "notes.txt is neither a firmware image (.bin) nor a machine configuration (.yaml, "
+           ".yml)\nERROR: 3 of 3 files refused\n";
     QTest::newRow("detect, 65 simulated")
-        << L{"detect", "--sim", "65"} << 64 << L{} << L{} << QString();
-    QTest::newRow("usage error") << L{"flash", "--all", "--port", "sim1"} << 64 << L{} << L{}
+        << L{"detect", "--sim", "65"} << 64 << "" << L{} << QString();
+    QTest::newRow("usage error") << L{"flash", "--all", "--port", "sim1"} << 64 << "" << L{}
                                  << QString();
 }
 
 void CliTest::subcommands() {
     QFETCH(QStringList, arguments);
     QFETCH(int, exitCode);
-    QFETCH(QStringList, outLines);
+    QFETCH(QString, out);
     QFETCH(QStringList, notInOut);
     QFETCH(QString, err);
 
     const Run result = run(arguments);
     QCOMPARE(result.exitCode, exitCode);
-    QVERIFY2(containsInOrder(result.out, outLines), qPrintable(result.out));
+    QVERIFY2(containsInOrder(result.out, out.isEmpty() ? QStringList() : out.split('\n')),
+             qPrintable(result.out));
     for (const QString& absent : notInOut) {
         QVERIFY2(!result.out.contains(absent), qPrintable(absent));
     }
@@ -418,29 +357,26 @@ void CliTest::jsonLogLinesCarryTheirSeverity() {
     QCOMPARE(result.exitCode, 11);
     const QList<QJsonObject> objects = jsonObjects(result.out);
     QVERIFY(objects.contains(QJsonObject({{"type", "log"}, {"line", "  result: refused"}})));
-    QVERIFY(objects.contains(
-        QJsonObject({{"type", "log"},
-                     {"severity", "error"},
-                     {"line",
-                      "ERROR: notes.txt is neither a firmware image (.bin) nor a machine "
-                      "configuration (.yaml, .yml)"}})));
+    const QString refusal =
+        "ERROR: notes.txt is neither a firmware image (.bin) nor a machine "
+        "configuration (.yaml, .yml)";
+    QVERIFY(
+        objects.contains(QJsonObject({{"type", "log"}, {"severity", "error"}, {"line", refusal}})));
 }
 
 // After the write the machine's own start decides: the status, "machine", its lines
 // as evidence, and the text ends with the verdict, never with "complete".
 void CliTest::theMachinesStartDecidesTheStatus() {
-    const std::tuple<QStringList, int, QString, QString> rows[] = {
-        {{"flash", "--sim-startup", "panic"}, 13, "panic", "Guru Meditation Error"},
-        {{"flash", "--sim-startup", "no-app"}, 13, "no-app", "invalid header: 0xffffffff"},
-        {{"flash", "--sim-startup", "other-version"}, 10, "wrong-version", "[VER:0.9.0"},
-        {{"upload-config", "--sim-startup", "config-error", "--product", "Corvane Halcot"},
-         14,
-         "config-error",
+    const std::tuple<QString, int, QString, QString> rows[] = {
+        {"flash --sim-startup panic", 13, "panic", "Guru Meditation Error"},
+        {"flash --sim-startup no-app", 13, "no-app", "invalid header: 0xffffffff"},
+        {"flash --sim-startup other-version", 10, "wrong-version", "[VER:0.9.0"},
+        {"upload-config --sim-startup config-error --product Halcot.yaml", 14, "config-error",
          "[MSG:ERR: Bad GPIO"},
     };
     for (const auto& [arguments, status, machine, evidence] : rows) {
-        const Run json = run(QStringList(arguments) << "--sim"
-                                                    << "--json");
+        const Run json = run(arguments.split(' ') << "--sim"
+                                                  << "--json");
         QCOMPARE(json.exitCode, status);
         const QJsonObject result = jsonObjects(json.out).last();
         QCOMPARE(result["code"].toInt(), status);
@@ -547,40 +483,48 @@ void CliTest::terminalProgressIsRedrawnInPlace() {
 }
 
 // With several plotters the program stops its children before it ends.
+void CliTest::ctrlCWarnsOnceDuringAWrite_data() {
+    QTest::addColumn<QStringList>("plotters");
+    QTest::addColumn<bool>("duringWrite");
+    for (const bool write : {true, false}) {
+        const char* when = write ? "during the write" : "before it";
+        QTest::addRow("one plotter, %s", when) << QStringList{"--sim"} << write;
+        QTest::addRow("three plotters, %s", when) << QStringList{"--sim", "3", "--all"} << write;
+    }
+}
+
 void CliTest::ctrlCWarnsOnceDuringAWrite() {
-    for (const QStringList& plotters : {QStringList{"--sim"}, QStringList{"--sim", "3", "--all"}}) {
-        for (const bool duringWrite : {true, false}) {
-            QProcess process;
-            process.start(kProgram, QStringList{"flash", "--json"} + plotters);
-            const QByteArray awaited = duringWrite ? "\"type\":\"progress\"" : "\"type\":\"log\"";
-            QByteArray out;
-            QVERIFY(QTest::qWaitFor(
-                [&] {
-                    process.waitForReadyRead(50);
-                    out += process.readAllStandardOutput();
-                    return out.contains(awaited);
-                },
-                20000));
-            const auto pid = static_cast<pid_t>(process.processId());
-            const QList<QByteArray> children =
-                contentsOf(QStringLiteral("/proc/%1/task/%1/children").arg(pid)).split(' ');
-            QCOMPARE(children.size(), plotters.size() == 1 ? 1 : 4);  // and an empty last
-            ::kill(pid, SIGINT);
-            if (duringWrite) {
-                QByteArray err;
-                QTRY_COMPARE(QString::fromUtf8(err += process.readAllStandardError()), kWarning);
-                QVERIFY(!process.waitForFinished(300));  // the write goes on
-                ::kill(pid, SIGINT);
-            }
-            QVERIFY(process.waitForFinished(5000));
-            QCOMPARE(process.exitCode(), 130);
-            QVERIFY(!process.readAllStandardOutput().contains("\"type\":\"result\""));
-            for (const QByteArray& child : children.mid(0, children.size() - 1)) {
-                int status = 0;
-                QCOMPARE(::waitpid(child.toInt(), &status, 0), child.toInt());
-                QVERIFY(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
-            }
-        }
+    QFETCH(QStringList, plotters);
+    QFETCH(bool, duringWrite);
+    QProcess process;
+    process.start(kProgram, QStringList{"flash", "--json"} + plotters);
+    const QByteArray awaited = duringWrite ? "\"type\":\"progress\"" : "\"type\":\"log\"";
+    QByteArray out;
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+            process.waitForReadyRead(50);
+            out += process.readAllStandardOutput();
+            return out.contains(awaited);
+        },
+        20000));
+    const auto pid = static_cast<pid_t>(process.processId());
+    const QList<QByteArray> children =
+        contentsOf(QStringLiteral("/proc/%1/task/%1/children").arg(pid)).split(' ');
+    QCOMPARE(children.size(), plotters.size() == 1 ? 1 : 4);  // and an empty last
+    ::kill(pid, SIGINT);
+    if (duringWrite) {
+        QByteArray err;
+        QTRY_COMPARE(QString::fromUtf8(err += process.readAllStandardError()), kWarning);
+        QVERIFY(!process.waitForFinished(300));  // the write goes on
+        ::kill(pid, SIGINT);
+    }
+    QVERIFY(process.waitForFinished(5000));
+    QCOMPARE(process.exitCode(), 130);
+    QVERIFY(!process.readAllStandardOutput().contains("\"type\":\"result\""));
+    for (const QByteArray& child : children.mid(0, children.size() - 1)) {
+        int status = 0;
+        QCOMPARE(::waitpid(child.toInt(), &status, 0), child.toInt());
+        QVERIFY(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
     }
 }
 
@@ -666,43 +610,37 @@ void CliTest::backupsAreListedAndRestored() {
     const QString data = file("data");
     qputenv("XDG_DATA_HOME", data.toUtf8());
     const QString folder = data + "/teskal-firmware-updater/backups";
-    const Run none = run({"backups"});
-    QCOMPARE(none.exitCode, 0);
-    QCOMPARE(none.out, "No backups in " + folder + '\n');
+    QCOMPARE(run({"backups"}).out, "No backups in " + folder + '\n');
     const Run nothingToRestore = run({"restore-config", "--sim"});
     QCOMPARE(nothingToRestore.exitCode, 15);
     QCOMPARE(nothingToRestore.err, "ERROR: No backup of the machine sim1 in " + folder + '\n');
 
-    QCOMPARE(run({"save-config", "--sim", file("kept.yaml")}).exitCode, 0);
-    const Run listed = run({"backups", "--json"});
-    QCOMPARE(listed.exitCode, 0);
-    const QJsonArray backups = jsonObjects(listed.out).last()["backups"].toArray();
+    QVERIFY(run({"save-config", "--sim", file("kept.yaml")})
+                .out.contains("Machine config saved to " + file("kept.yaml") + " (512 bytes)"));
+    const QJsonArray backups =
+        jsonObjects(run({"backups", "--json"}).out).last()["backups"].toArray();
     QCOMPARE(backups.size(), 1);
-    const QJsonObject backup = backups[0].toObject();
-    QCOMPARE(backup["machine"], "sim1");
-    QCOMPARE(backup["reason"], "save");
-    QCOMPARE(backup["firmware"], "v3.7.8");
-    QCOMPARE(backup["size"], 512);
-    const QString path = backup["path"].toString();
-    QVERIFY2(path.startsWith(folder + "/config-"), qPrintable(path));
+    QJsonObject backup = backups[0].toObject();
+    const QString name = QFileInfo(backup.take("path").toString()).fileName();
+    QCOMPARE(backup.take("reason"), "save");
+    QCOMPARE(backup.take("machine"), "sim1");
+    QCOMPARE(backup.take("firmware"), "v3.7.8");
+    QCOMPARE(backup.take("size"), 512);
+    QVERIFY2(QFile::exists(folder + '/' + name) && name.startsWith("config-"), qPrintable(name));
 
     // A configuration the machine rejects is followed by the command that puts back
     // the one it had.
     const Run rejected = run(
-        {"upload-config", "--sim", "--sim-startup", "config-error", "--product", "Corvane Halcot"});
+        {"upload-config", "--sim", "--sim-startup", "config-error", "--product", "Halcot.yaml"});
     QCOMPARE(rejected.exitCode, 14);
     QVERIFY2(rejected.out.contains("To put back the configuration the machine had before: "
                                    "teskal-flash restore-config --port sim1 " +
-                                   QFileInfo(path).fileName() + '\n'),
+                                   name + '\n'),
              qPrintable(rejected.out));
-
-    const Run restored = run({"restore-config", "--sim", QFileInfo(path).fileName()});
+    const Run restored = run({"restore-config", "--sim", name});
     QCOMPARE(restored.exitCode, 0);
-    QVERIFY2(
-        containsInOrder(restored.out,
-                        {"Preparing " + QFileInfo(path).fileName() + " v0.0.0-sim", kUploaded}),
-        qPrintable(restored.out));
-    QVERIFY(restored.out.contains("Settings restored from the backup of "));
+    QVERIFY2(containsInOrder(restored.out, {"Preparing " + name + " v0.0.0-sim", kUploaded}),
+             qPrintable(restored.out));
     QCOMPARE(run({"restore-config", "--sim", "config-19990101-000000.yaml"}).exitCode, 15);
 
     // A repair saves the answering firmware's file first, and that copy goes back.

@@ -46,7 +46,6 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     QMainWindow* window = delegate.window();
     auto* view = qobject_cast<UpdaterView*>(window->centralWidget());
     const QStringList& log = view->logPanel()->view()->lines();
-    menuItem(window, "Detailed Logging")->trigger();
 
     // From a job's first write to its end the button stays disabled, while the
     // monitor goes on publishing the connection four times a second.
@@ -84,12 +83,8 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     QCOMPARE(asked, QStringList(3, question));
     QVERIFY(window->isVisible());
 
+    // The log's lines are the job's, which the controller's and teskal-flash's cases check.
     QTRY_VERIFY_WITH_TIMEOUT(log.contains(QStringLiteral("Firmware update complete.")), 60000);
-    QCOMPARE(log.mid(0, 3),
-             QStringList({"Updating firmware v2.10.6\u2026", "Checking device status\u2026",
-                          "Device running firmware v3.7.8 \u2014 updating firmware only."}));
-    QVERIFY(log.contains("Flash plan: 2 entries (app only)"));
-    QVERIFY(log.contains("Verifying firmware version..."));  // the shipped version is expected
     QCOMPARE(log.filter(QStringLiteral("ERROR:")), QStringList());
     QTRY_VERIFY(!delegate.updateController().jobRunning());
     const ResultBanner* banner = view->resultBanner();
@@ -138,7 +133,6 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     asked.clear();
 
     // With no job running the window closes without a question.
-    QTRY_VERIFY(!delegate.updateController().jobRunning());
     answerNextMessageBox("Keep Running", &asked);
     QVERIFY(window->close());
     QVERIFY(asked.isEmpty());

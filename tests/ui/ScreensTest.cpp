@@ -8,6 +8,7 @@
 #include "app/operations/CheckStartup.h"
 #include "ui/AboutWindow.h"
 #include "ui/AppDelegate.h"
+#include "ui/Colors.h"
 #include "ui/CompareWindow.h"
 #include "ui/ConnectionCheckWindow.h"
 #include "ui/EraseQuestions.h"
@@ -17,6 +18,7 @@
 #include "ui/QuitGuard.h"
 #include "ui/RepairDialog.h"
 #include "ui/RestoreWindow.h"
+#include "ui/ResultBanner.h"
 #include "ui/UpdaterView.h"
 
 // Renders the windows in their characteristic states to PNG files in the folder
@@ -96,34 +98,38 @@ void ScreensTest::mainWindowStates() {
         report.evidence = evidence;
         return startupOutcome(report, StartupCause::Written::firmware, QStringLiteral("2.10.6"));
     };
-    const std::pair<QString, Outcome> banners[] = {
-        {"banner-running", verdict(ESP_STARTUP_RUNNING, {})},
-        {"banner-wrong-version", verdict(ESP_STARTUP_WRONG_VERSION, {"[VER:2.9.1:]"})},
+    const QString rebooted =
+        QStringLiteral("rst:0xc (RTC_SW_CPU_RST),boot:0x8 (SPI_FAST_FLASH_BOOT)");
+    const QString badGpio =
+        QStringLiteral("[MSG:ERR: Bad GPIO gpio.48 for axes/x/motor0/stepstick/step_pin]");
+    using namespace BannerColors;
+    // Green when the machine runs what was written, amber when that is not confirmed.
+    const std::tuple<QString, Outcome, QColor> banners[] = {
+        {"banner-running", verdict(ESP_STARTUP_RUNNING, {}), goodEdge()},
+        {"banner-wrong-version", verdict(ESP_STARTUP_WRONG_VERSION, {"[VER:2.9.1:]"}),
+         cautionEdge()},
         {"banner-boot-loop-repair",
-         verdict(ESP_STARTUP_BOOT_LOOP, {"rst:0xc (RTC_SW_CPU_RST),boot:0x8 (SPI_FAST_FLASH_BOOT)",
-                                         "ESP-ROM:esp32s3-20210327"})},
+         verdict(ESP_STARTUP_BOOT_LOOP, {rebooted, "ESP-ROM:esp32s3-20210327"}), badEdge()},
         {"banner-panic",
-         verdict(ESP_STARTUP_PANIC,
-                 {"Guru Meditation Error: Core  1 panic'ed (LoadProhibited). Exception was "
-                  "unhandled.",
-                  "Backtrace: 0x4200b9c3:0x3fcebe60 0x4200c1a6:0x3fcebe90",
-                  "rst:0xc (RTC_SW_CPU_RST),boot:0x8 (SPI_FAST_FLASH_BOOT)"})},
-        {"banner-config-error",
-         verdict(ESP_STARTUP_CONFIG_ERROR,
-                 {"[MSG:ERR: Bad GPIO gpio.48 for axes/x/motor0/stepstick/step_pin]"})},
-        {"banner-failed", Outcome::library(3)},
+         verdict(ESP_STARTUP_PANIC, {"Guru Meditation Error: Core  1 panic'ed (LoadProhibited).",
+                                     "Backtrace: 0x4200b9c3:0x3fcebe60", rebooted}),
+         badEdge()},
+        {"banner-config-error", verdict(ESP_STARTUP_CONFIG_ERROR, {badGpio}), badEdge()},
+        {"banner-failed", Outcome::library(3), badEdge()},
     };
     view->showState(UpdateState::flashComplete());
     view->showStatusMessage(QStringLiteral("Device connected"));
     view->showLog(LogEntries(log) << LogEntry::info("Firmware update complete."));
-    for (const auto& [name, outcome] : banners) {
+    for (const auto& [name, outcome, edge] : banners) {
         view->showResult(outcome);
         save(window, name);
+        const QImage banner = view->resultBanner()->grab().toImage();
+        QCOMPARE(banner.pixelColor(1, banner.height() / 2), edge);
     }
     // An uploaded configuration the machine rejects, with the one it had before at hand.
     FlasherBridge::StartupReport rejected;
     rejected.verdict = ESP_STARTUP_CONFIG_ERROR;
-    rejected.evidence = {"[MSG:ERR: Bad GPIO gpio.48 for axes/x/motor0/stepstick/step_pin]"};
+    rejected.evidence = {badGpio};
     view->showResult(startupOutcome(rejected, StartupCause::Written::configuration, std::nullopt),
                      true);
     save(window, QStringLiteral("banner-config-rejected-restore"));
@@ -191,13 +197,8 @@ void ScreensTest::restoreWindowAndRepairDialog() {
         QStringLiteral("/home/owner/.local/share/teskal-firmware-updater/backups");
     const auto backup = [&](int hours, BackupReason reason, const QString& machine,
                             std::optional<QString> firmware) {
-        return Backup{folder + QStringLiteral("/config-%1.yaml").arg(hours),
-                      time.addSecs(3600 * hours),
-                      reason,
-                      machine,
-                      firmware,
-                      2870,
-                      QString(64, '0')};
+        const QString path = folder + QStringLiteral("/config-%1.yaml").arg(hours);
+        return Backup{path, time.addSecs(3600 * hours), reason, machine, firmware, 2870, {}};
     };
     RestoreWindow restore({backup(0, BackupReason::save, "3C8A1F20B4E2", "v3.7.8"),
                            backup(3, BackupReason::beforeErase, "3C8A1F20B4E2", "v3.7.8"),
