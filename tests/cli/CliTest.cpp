@@ -389,8 +389,8 @@ void CliTest::theMachinesStartDecidesTheStatus() {
              "ERROR: Firmware written, but the machine does not start: it crashed at start-up.");
     QVERIFY(ending[1].startsWith("  Guru Meditation Error"));
     QCOMPARE(ending.last(),
-             "Run teskal-flash flash --erase-all. If it keeps happening, keep this output for "
-             "support.");
+             "Run teskal-flash repair to erase the machine, install the firmware again and put "
+             "back your settings. If it keeps happening, keep this output for support.");
 }
 
 // Each plotter's JSON lines carry its port; an application-only update writes the
