@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "ui/Fonts.h"
+#include "ui/Layouts.h"
 
 namespace {
 
@@ -83,14 +84,8 @@ QString CompareWindow::summary(const ConfigComparison& comparison, const QString
 }
 
 void CompareWindow::buildLayout() {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(20, 20, 20, 20);
-    column->setSpacing(12);
-
-    summary_->setTextFormat(Qt::PlainText);
-    summary_->setWordWrap(true);
-    summary_->setFont(Fonts::system(13));
-    column->addWidget(summary_);
+    QVBoxLayout* column = Layouts::windowColumn(this, 12);
+    Layouts::addSummary(column, summary_);
 
     tabs_->setFont(Fonts::system(12));
     tabs_->addTab(keys_, QStringLiteral("By Key"));

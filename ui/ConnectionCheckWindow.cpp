@@ -9,6 +9,7 @@
 #include "app/Texts.h"
 #include "ui/Colors.h"
 #include "ui/Fonts.h"
+#include "ui/Layouts.h"
 
 namespace {
 
@@ -89,9 +90,7 @@ ConnectionCheckWindow::ConnectionCheckWindow(CheckConnection::Places places, Per
 }
 
 void ConnectionCheckWindow::buildLayout() {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(20, 20, 20, 20);
-    column->setSpacing(16);
+    QVBoxLayout* column = Layouts::windowColumn(this, 16);
 
     column->addWidget(
         makeLabel(Texts::connectionCheckIntro(), 12, AppColors::secondaryText(), this));

@@ -8,6 +8,7 @@
 
 #include "app/Texts.h"
 #include "ui/Fonts.h"
+#include "ui/Layouts.h"
 #include "ui/RestoreWindow.h"
 
 namespace {
@@ -28,13 +29,8 @@ RepairDialog::RepairDialog(const QList<Backup>& backups, const QString& machine,
     setWindowTitle(QStringLiteral("Repair Machine"));
     setWindowModality(Qt::WindowModal);
     setMinimumWidth(440);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(20, 20, 20, 20);
-    column->setSpacing(12);
-    sentence_->setWordWrap(true);
-    sentence_->setTextFormat(Qt::PlainText);
-    sentence_->setFont(Fonts::system(13));
-    column->addWidget(sentence_);
+    QVBoxLayout* column = Layouts::windowColumn(this, 12);
+    Layouts::addSummary(column, sentence_);
     auto* label = new QLabel(QStringLiteral("Put back:"), this);
     label->setFont(Fonts::system(12));
     auto* row = new QHBoxLayout;

@@ -10,6 +10,7 @@
 
 #include "app/Texts.h"
 #include "ui/Fonts.h"
+#include "ui/Layouts.h"
 
 RestoreWindow::RestoreWindow(QList<Backup> backups, const QString& machine, const QString& folder,
                              QWidget* parent)
@@ -53,15 +54,9 @@ QList<Backup> RestoreWindow::ordered(QList<Backup> backups, const QString& machi
 }
 
 void RestoreWindow::buildLayout(const QString& summary) {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(20, 20, 20, 20);
-    column->setSpacing(12);
-
-    summary_->setTextFormat(Qt::PlainText);
-    summary_->setWordWrap(true);
-    summary_->setFont(Fonts::system(13));
+    QVBoxLayout* column = Layouts::windowColumn(this, 12);
     summary_->setText(summary);
-    column->addWidget(summary_);
+    Layouts::addSummary(column, summary_);
 
     list_->setFont(Fonts::system(12));
     list_->setRootIsDecorated(false);

@@ -13,6 +13,7 @@
 #include "ui/Colors.h"
 #include "ui/ElidedLabel.h"
 #include "ui/Fonts.h"
+#include "ui/Layouts.h"
 #include "ui/LogPanel.h"
 #include "ui/ResultBanner.h"
 #include "ui/StatusDot.h"
@@ -52,9 +53,7 @@ UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
 }
 
 void UpdaterView::buildLayout() {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(20, 20, 20, 20);
-    column->setSpacing(16);
+    QVBoxLayout* column = Layouts::windowColumn(this, 16);
 
     auto* statusRow = new QHBoxLayout;
     statusRow->setSpacing(8);
