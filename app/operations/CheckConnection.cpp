@@ -81,7 +81,8 @@ void checkPlotter(const esp_usb_serial_device& plotter, const QString& rule, Che
 }
 
 bool hasPort(const CheckConnection::Places& places) {
-    const esp_usb_serial_device* plotter = chosenPlotter(survey(places));
+    const auto devices = survey(places);
+    const esp_usb_serial_device* plotter = chosenPlotter(devices);
     return plotter != nullptr && plotter->path[0] != '\0';
 }
 
