@@ -2,7 +2,8 @@
 #
 # Replaces DESTINATION with a copy of SOURCE. A vendor set is refused when any of
 # its images carries the development marker: a development bootloader or
-# application written to a real machine would leave it unable to boot.
+# application written to a real machine would leave it unable to boot. So is one
+# whose catalogue key is the development key, which signs development images.
 file(REMOVE_RECURSE "${DESTINATION}")
 if(SOURCE STREQUAL "")
     return()
@@ -18,5 +19,12 @@ if(KIND STREQUAL "VENDOR")
             message(FATAL_ERROR "${image} is a development image; it must never be shipped")
         endif()
     endforeach()
+    if(EXISTS "${SOURCE}/catalogue.pub")
+        file(STRINGS "${SOURCE}/catalogue.pub" marked LIMIT_COUNT 1 REGEX "TESKAL DEVELOPMENT")
+        if(marked)
+            message(FATAL_ERROR
+                "${SOURCE}/catalogue.pub is the development key; it must never be shipped")
+        endif()
+    endif()
 endif()
 file(COPY "${SOURCE}/" DESTINATION "${DESTINATION}")

@@ -11,6 +11,8 @@ using Bytes = std::vector<uint8_t>;
 
 /// The marker every development image carries, readable with `strings`.
 inline constexpr std::string_view kMarker = "TESKAL DEVELOPMENT IMAGE - NOT FIRMWARE";
+/// The line before the development catalogue key's PEM block (PEM readers skip it).
+inline constexpr std::string_view kKeyMarker = "TESKAL DEVELOPMENT KEY - NOT FOR RELEASES";
 
 void appendLE32(Bytes& out, uint32_t value);
 void appendLE16(Bytes& out, uint16_t value);

@@ -22,12 +22,12 @@ constexpr Partition kPartitions[] = {
     {"spiffs", 0x01, 0x82, 0x3D0000, 0x30000},
 };
 
-Bytes appDescriptor() {
+Bytes appDescriptor(std::string_view version) {
     Bytes out;
     appendLE32(out, 0xABCD5432);
     appendLE32(out, 0);  // secure version
     out.insert(out.end(), 8, 0);
-    appendField(out, kAppVersion, 32);
+    appendField(out, version, 32);
     appendField(out, kProjectName, 32);
     appendField(out, "00:00:00", 16);
     appendField(out, "Jan  1 2000", 16);
@@ -78,8 +78,8 @@ Bytes bootloader() {
                                      });
 }
 
-Bytes application() {
-    Bytes rodata = appDescriptor();
+Bytes application(std::string_view version) {
+    Bytes rodata = appDescriptor(version);
     const Bytes text = markerText(0x10000 - rodata.size());
     rodata.insert(rodata.end(), text.begin(), text.end());
     return buildEspImage(0x40375A80, {

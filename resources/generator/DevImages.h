@@ -17,8 +17,9 @@ Bytes partitionTable();
 Bytes bootApp();
 /// A small second-stage bootloader image (two RAM segments).
 Bytes bootloader();
-/// An application image of about 1.5 MB with its app descriptor at offset 32.
-Bytes application();
+/// An application image of about 1.5 MB with its app descriptor at offset 32,
+/// reporting `version`.
+Bytes application(std::string_view version = kAppVersion);
 /// A flasher stub: 20-byte header, about 16 KB of text at 0x40380000, a few KB
 /// of data at 0x3FC96000.
 Bytes stub();
