@@ -56,11 +56,10 @@ std::optional<qint64> imageSize(const QJsonValue& value) {
 }
 
 // A relative reference only: an address of its own would send the updater to a
-// host the catalogue's owner never configured.
+// host its owner never configured.
 bool relativeReference(const QString& text) {
     const QUrl url(text, QUrl::StrictMode);
-    return !text.isEmpty() && url.isValid() && url.isRelative() && url.host().isEmpty() &&
-           !text.startsWith(QLatin1String("//"));
+    return !text.isEmpty() && url.isValid() && url.isRelative() && url.host().isEmpty();
 }
 
 std::variant<CatalogueImage, QString> readImage(const QJsonValue& value, const QString& path) {

@@ -50,38 +50,37 @@ std::variant<VerifiedCatalogue, CatalogueFailure> CatalogueClient::fetchCatalogu
 
 std::variant<CatalogueCache::Stored, CatalogueFailure> CatalogueClient::fetchFiles() const {
     const QDeadlineTimer deadline(options_.catalogueTimeoutMs);
-    const auto refusal = [this](const DownloadFailure& failure, const QUrl& url,
-                                bool signature) -> CatalogueFailure {
-        const QString address = displayAddress(url);
-        switch (failure.kind) {
-            case Kind::unreachable:
-                return {CatalogueProblem::unreachable,
-                        Texts::catalogueUnreachable(address, failure.reason)};
-            case Kind::timedOut:
-            case Kind::stalled:
-                return {
-                    CatalogueProblem::timedOut,
-                    Texts::catalogueTimedOut(address, wholeSeconds(options_.catalogueTimeoutMs))};
-            case Kind::tooLarge:
-                break;
-        }
-        // A signature longer than one is no signature.
-        return signature
-                   ? CatalogueFailure{CatalogueProblem::badSignature,
-                                      Texts::catalogueBadSignature(source_.address())}
-                   : CatalogueFailure{CatalogueProblem::tooLarge,
-                                      Texts::catalogueTooLarge(address, Catalogue::kMaxFileSize)};
-    };
     auto catalogue = download(source_.catalogueUrl(), {Catalogue::kMaxFileSize, deadline});
     if (const auto* failure = std::get_if<DownloadFailure>(&catalogue)) {
-        return refusal(*failure, source_.catalogueUrl(), false);
+        return refusal(*failure, source_.catalogueUrl());
     }
     auto signature = download(source_.signatureUrl(), {CatalogueKey::kSignatureSize, deadline});
     if (const auto* failure = std::get_if<DownloadFailure>(&signature)) {
-        return refusal(*failure, source_.signatureUrl(), true);
+        // A signature longer than one is no signature.
+        if (failure->kind == Kind::tooLarge) {
+            return CatalogueFailure{CatalogueProblem::badSignature,
+                                    Texts::catalogueBadSignature(source_.address())};
+        }
+        return refusal(*failure, source_.signatureUrl());
     }
     return CatalogueCache::Stored{std::get<QByteArray>(catalogue), std::get<QByteArray>(signature),
                                   source_.catalogueUrl()};
+}
+
+CatalogueFailure CatalogueClient::refusal(const DownloadFailure& failure, const QUrl& url) const {
+    const QString address = displayAddress(url);
+    switch (failure.kind) {
+        case Kind::unreachable:
+            break;
+        case Kind::timedOut:
+        case Kind::stalled:
+            return {CatalogueProblem::timedOut,
+                    Texts::catalogueTimedOut(address, wholeSeconds(options_.catalogueTimeoutMs))};
+        case Kind::tooLarge:
+            return {CatalogueProblem::tooLarge,
+                    Texts::catalogueTooLarge(address, Catalogue::kMaxFileSize)};
+    }
+    return {CatalogueProblem::unreachable, Texts::catalogueUnreachable(address, failure.reason)};
 }
 
 std::variant<VerifiedCatalogue, CatalogueFailure> CatalogueClient::verify(
@@ -122,14 +121,14 @@ std::optional<VerifiedCatalogue> CatalogueClient::fromCache(
 std::variant<VerifiedImage, CatalogueFailure> CatalogueClient::fetchImage(
     const VerifiedCatalogue& catalogue, const CatalogueEntry& entry,
     const Progress& progress) const {
-    const QString& version = entry.version;
-    auto listed = catalogue.catalogue.find(version);
+    // Only the catalogue's own entries: a revoked or made-up version is never handed out.
+    auto listed = catalogue.catalogue.find(entry.version);
     if (const auto* failure = std::get_if<CatalogueFailure>(&listed)) {
         return *failure;
     }
     if (std::get<CatalogueEntry>(listed) != entry) {
         return CatalogueFailure{CatalogueProblem::notListed,
-                                Texts::catalogueVersionNotListed(version)};
+                                Texts::catalogueVersionNotListed(entry.version)};
     }
     const CatalogueImage& image = entry.image;
     if (auto cached = cachedImage(image)) {
@@ -138,40 +137,52 @@ std::variant<VerifiedImage, CatalogueFailure> CatalogueClient::fetchImage(
         }
         return std::move(*cached);
     }
-    const QUrl url = catalogue.origin.resolved(QUrl(image.url));
-    const DownloadLimits limits{image.size, QDeadlineTimer(QDeadlineTimer::Forever),
-                                options_.imageStallMs};
-    auto fetched = download(url, limits, [&](qint64 received) {
-        if (progress) {
-            progress(received, image.size);
-        }
-    });
-    if (const auto* failure = std::get_if<DownloadFailure>(&fetched)) {
-        switch (failure->kind) {
-            case Kind::unreachable:
-                return CatalogueFailure{CatalogueProblem::imageUnreachable,
-                                        Texts::catalogueImageUnreachable(
-                                            version, displayAddress(url), failure->reason)};
-            case Kind::timedOut:
-            case Kind::stalled:
-                return CatalogueFailure{
-                    CatalogueProblem::imageStalled,
-                    Texts::catalogueImageStalled(version, wholeSeconds(options_.imageStallMs))};
-            case Kind::tooLarge:
-                return CatalogueFailure{CatalogueProblem::imageOversize,
-                                        Texts::catalogueImageOversize(version, image.size)};
-        }
+    auto fetched = downloadImage(catalogue.origin, entry, progress);
+    if (const auto* failure = std::get_if<CatalogueFailure>(&fetched)) {
+        return *failure;
     }
     const QByteArray& bytes = std::get<QByteArray>(fetched);
     if (bytes.size() != image.size) {
-        return CatalogueFailure{CatalogueProblem::imageTruncated,
-                                Texts::catalogueImageTruncated(version, bytes.size(), image.size)};
+        return CatalogueFailure{
+            CatalogueProblem::imageTruncated,
+            Texts::catalogueImageTruncated(entry.version, bytes.size(), image.size)};
     }
     if (sha256Hex(bytes) != image.sha256) {
         return CatalogueFailure{CatalogueProblem::imageTampered,
-                                Texts::catalogueImageTampered(version)};
+                                Texts::catalogueImageTampered(entry.version)};
     }
     return VerifiedImage{bytes, cache_.keepImage(image.sha256, bytes)};
+}
+
+std::variant<QByteArray, CatalogueFailure> CatalogueClient::downloadImage(
+    const QUrl& origin, const CatalogueEntry& entry, const Progress& progress) const {
+    const QUrl url = origin.resolved(QUrl(entry.image.url));
+    const DownloadLimits limits{entry.image.size, QDeadlineTimer(QDeadlineTimer::Forever),
+                                options_.imageStallMs};
+    auto fetched = download(url, limits, [&](qint64 received) {
+        if (progress) {
+            progress(received, entry.image.size);
+        }
+    });
+    const auto* failure = std::get_if<DownloadFailure>(&fetched);
+    if (failure == nullptr) {
+        return std::get<QByteArray>(std::move(fetched));
+    }
+    switch (failure->kind) {
+        case Kind::unreachable:
+            break;
+        case Kind::timedOut:
+        case Kind::stalled:
+            return CatalogueFailure{
+                CatalogueProblem::imageStalled,
+                Texts::catalogueImageStalled(entry.version, wholeSeconds(options_.imageStallMs))};
+        case Kind::tooLarge:
+            return CatalogueFailure{CatalogueProblem::imageOversize,
+                                    Texts::catalogueImageOversize(entry.version, entry.image.size)};
+    }
+    return CatalogueFailure{
+        CatalogueProblem::imageUnreachable,
+        Texts::catalogueImageUnreachable(entry.version, displayAddress(url), failure->reason)};
 }
 
 std::optional<VerifiedImage> CatalogueClient::cachedImage(const CatalogueImage& image) const {

@@ -13,6 +13,7 @@
 #include "app/catalogue/CatalogueFailure.h"
 #include "app/catalogue/CatalogueKey.h"
 #include "app/catalogue/CatalogueSource.h"
+#include "app/catalogue/Download.h"
 
 /// A catalogue whose signature, content and freshness were checked.
 struct VerifiedCatalogue {
@@ -74,10 +75,14 @@ class CatalogueClient {
 
   private:
     std::variant<CatalogueCache::Stored, CatalogueFailure> fetchFiles() const;
+    CatalogueFailure refusal(const DownloadFailure& failure, const QUrl& url) const;
     std::variant<VerifiedCatalogue, CatalogueFailure> verify(
         const CatalogueCache::Stored& stored) const;
     std::optional<VerifiedCatalogue> fromCache(const CatalogueFailure& unreachable) const;
     std::optional<VerifiedImage> cachedImage(const CatalogueImage& image) const;
+    std::variant<QByteArray, CatalogueFailure> downloadImage(const QUrl& origin,
+                                                             const CatalogueEntry& entry,
+                                                             const Progress& progress) const;
 
     CatalogueSource source_;
     CatalogueKey key_;
