@@ -30,8 +30,8 @@ helper=$usr/lib/teskal-firmware-updater/install-udev-rule
 [ -x "$helper" ] || fail "the permission rule's installer is not in the package"
 [ -f "$(dirname "$helper")/../udev/rules.d/60-teskal-firmware-updater.rules" ] ||
     fail "the installer would not find the udev rule"
-if [ -d "$share/resources" ] && grep -rqF "TESKAL DEVELOPMENT IMAGE" "$share/resources"; then
-    fail "the real programs' resources hold development images"
+if [ -d "$share/resources" ] && grep -rqF "TESKAL DEVELOPMENT" "$share/resources"; then
+    fail "the real programs' resources hold development images or the development key"
 fi
 
 "$usr/bin/teskal-flash" --help | grep -qF "Try it without hardware: teskal-flash flash --sim" ||
@@ -49,4 +49,13 @@ fi
 # CMake wraps its message; the words are what counts.
 tr -s ' \n' '  ' <"$work/stage.log" | grep -qF "is a development image; it must never be shipped" ||
     { cat "$work/stage.log"; fail "the vendor set was refused for another reason"; }
+# Nor a vendor set whose catalogue key is the development key.
+mkdir "$work/key-only"
+cp "$devset/catalogue.pub" "$work/key-only/"
+if cmake -DKIND=VENDOR "-DSOURCE=$work/key-only" "-DDESTINATION=$work/vendor" -P "$stage_script" \
+    >"$work/stage.log" 2>&1; then
+    fail "the development catalogue key was staged as a vendor key"
+fi
+tr -s ' \n' '  ' <"$work/stage.log" | grep -qF "is the development key; it must never be shipped" ||
+    { cat "$work/stage.log"; fail "the vendor key was refused for another reason"; }
 echo "package $(basename "${debs[0]}") installs and flashes its simulated plotter"
