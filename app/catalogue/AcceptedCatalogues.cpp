@@ -25,8 +25,8 @@ std::optional<QDateTime> timeOf(const QJsonObject& records, const QString& keyId
 }  // namespace
 
 QString AcceptedCatalogues::defaultFolder() {
-    // Qt 6.4 has no standard location for state; the base directory specification
-    // ignores a relative value.
+    // Qt 6.4 has no standard location for state. As for the other XDG folders, a
+    // relative value does not count.
     const QString state = qEnvironmentVariable("XDG_STATE_HOME");
     const QString base =
         QDir::isAbsolutePath(state) ? state : QDir::homePath() + QStringLiteral("/.local/state");
