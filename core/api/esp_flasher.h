@@ -215,7 +215,7 @@ typedef struct esp_snapshot_status {
  * chip is reset into its firmware on every return; nothing is ever written.
  * progress gets the fraction of the size read ("Reading flash"). The bytes given to
  * the sink are a snapshot only when the result is 0: on any other result the caller
- * discards them. With report (freed and filled as by esp_flash_firmware_checked),
+ * discards them. With report (filled as by esp_flash_firmware_checked, on every return),
  * after a successful read the job listens to the restart and asks for the version
  * (2 s, then up to three queries of 2 s, 1 s apart), logging nothing; listened is 0
  * on every other return. Returns 0; 2, 3, 4, 5 as esp_flash_firmware; 7 the MD5
