@@ -77,7 +77,7 @@ struct Config {
     // one gap apart, then the MD5, unless `readPacketLimit` is set.
     /// The real stub's limit: a packet size above 4096 is answered with status 0, then
     /// nothing is sent, and the reply to the next command has a 2-byte body with status
-    /// 0xC0. Off, the partition-table probe's one-packet read works as specified.
+    /// 0xC0. Off by default, so the partition-table probe's one 16384-byte packet comes.
     bool readPacketLimit = false;
     /// The stub sends as many packets ahead of the acknowledgements as the request's
     /// in-flight field allows, where the measured one waits for each.
