@@ -95,7 +95,10 @@ int64_t loopPeriodNs(Startup startup) {
 }  // namespace
 
 void Boot::start(int64_t restartNs, int64_t readyNs, bool byHost) {
-    const Startup startup = d_.config.startup;
+    const auto decided = d_.starts.onRestart(d_.flash, d_.config.startup, d_.reportedVersion);
+    d_.reportedVersion = decided.version;
+    startup_ = decided.startup;
+    const Startup startup = startup_;
     runs_ = startup == Startup::Healthy || startup == Startup::ConfigError ||
             startup == Startup::OtherVersion;
     if (startup == Startup::OtherVersion) {
@@ -133,7 +136,7 @@ void Boot::startHealthy(int64_t restartNs, int64_t readyNs, bool byHost) {
 
 // Each turn schedules the next one; a reset into the loader cancels the chain.
 void Boot::cycle(int64_t atNs, bool first, bool byHost) {
-    const Startup startup = d_.config.startup;
+    const Startup startup = startup_;
     const std::string_view again = startup == Startup::Brownout ? kBrownoutReset : kSoftwareReset;
     print(atNs, romBanner(first ? (byHost ? kHostReset : kSoftwareReset) : again));
     print(atNs + kBootLoaderAfterNs, std::string(kBootLoader) + std::string(kAppLoaded));

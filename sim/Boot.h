@@ -8,9 +8,9 @@
 
 namespace sim::detail {
 
-/// What the chip prints when it restarts into its firmware, as `Config::startup`
-/// chooses (ROM banner, boot loader, the firmware's start-up messages, or a crash
-/// again and again), and whether a firmware then runs. Scheduled on the device's
+/// What the chip prints when it restarts into its firmware, as its flash says
+/// (`FlashStarts`: ROM banner, boot loader, the firmware's start-up messages, or a
+/// crash again and again), and whether a firmware then runs. Scheduled on the device's
 /// outbox; a reset into the loader cancels what has not been printed yet.
 class Boot {
   public:
@@ -37,6 +37,7 @@ class Boot {
     std::string version() const;
 
     Device& d_;
+    Startup startup_ = Startup::Healthy;
     bool runs_ = true;
     std::optional<std::string> messages_;  ///< absent before the first restart
 };

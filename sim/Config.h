@@ -70,6 +70,23 @@ struct Config {
     std::optional<int> badFlashDataAt;
     std::vector<ResponseFault> responseFaults;
 
+    // READ_FLASH. Packets of up to 4096 bytes are read as the flasher stub does it: one
+    // packet, then nothing until the host acknowledges it with the running total (a
+    // SLIP frame of one little-endian word), and the MD5 of the region once an
+    // acknowledgement reaches its size. Larger packets go out without acknowledgements,
+    // one gap apart, then the MD5, unless `readPacketLimit` is set.
+    /// The real stub's limit: a packet size above 4096 is answered with status 0, then
+    /// nothing is sent, and the reply to the next command has a 2-byte body with status
+    /// 0xC0. Off by default, so the partition-table probe's one 16384-byte packet comes.
+    bool readPacketLimit = false;
+    /// The stub sends as many packets ahead of the acknowledgements as the request's
+    /// in-flight field allows, where the measured one waits for each.
+    bool readSendsAhead = false;
+    /// Once this many acknowledged packets were sent, the read stalls: nothing follows.
+    std::optional<int> readStallAfterPackets;
+    /// This acknowledged read (from 0) ends with a wrong MD5.
+    std::optional<int> wrongReadDigestAt;
+
     // Firmware console.
     bool silentConsole = false;    ///< console lines are taken but never answered
     bool okBeforeVersion = false;  ///< "$I" prints "ok" before its "[VER:" line
@@ -77,8 +94,11 @@ struct Config {
     /// line every 5 ms without end and answers nothing. A reset into the loader
     /// stops it; the restart after flashing starts it again.
     bool floodConsole = false;
-    /// How the chip starts at every restart into its firmware; the firmware that runs
-    /// before the first restart is healthy. A whole-chip erase followed by a full
+    /// How the chip starts when it restarts into its firmware from a flash it has not
+    /// started from before, or at any restart once this was changed; a flash it has
+    /// started from starts as it did then, and the flash before the first write as a
+    /// healthy one (so writing an earlier flash back brings back its start). After each
+    /// restart it holds the start the chip had. A whole-chip erase followed by a full
     /// flash sets it back to healthy, but for a brown-out.
     Startup startup = Startup::Healthy;
 
@@ -120,9 +140,14 @@ struct Config {
     std::optional<int> hangAfterFlashData;
 
     // Timing. Loader frames that must reach the host in reads of their own (the
-    // greeting, extra SYNC replies, READ_FLASH data, duplicates) follow one another
-    // `frameGapMs` apart; the delays postpone the response of their command.
+    // greeting, extra SYNC replies, unacknowledged READ_FLASH data, duplicates) follow
+    // one another `frameGapMs` apart; the delays postpone the response of their command.
     int frameGapMs = 5;
+    /// Bytes per second on the line for the stub's part of an acknowledged read (its
+    /// packets and MD5): each arrives once its last byte would have; 0: at once.
+    int64_t linkBytesPerSecond = 0;
+    /// From an acknowledgement to the stub's next packet or its MD5.
+    int readTurnaroundMs = 0;
     int flashBeginDelayMs = 0;       ///< per FLASH_BEGIN (the region's erase)
     int flashBlockDelayMs = 0;       ///< per FLASH_DATA
     int eraseDelayMs = 0;            ///< whole-chip erase

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "serial/Clock.h"
+
 namespace sim::detail {
 
 namespace {
@@ -66,13 +68,15 @@ void Loader::restartRom() {
     d_.mode = Mode::RomLoader;
     d_.outbox.cancelScheduled();
     d_.ram.clear();
-    d_.flashEnded = false;
+    d_.loaderDone = false;
     d_.appFlashed = false;
     mem_.reset();
     write_.reset();
     appBegun_ = false;
     chipErased_ = false;
     bootBegun_ = false;
+    read_.reset();
+    garbleNext_ = false;
 }
 
 size_t Loader::consume(const uint8_t* data, size_t len) {
@@ -81,7 +85,7 @@ size_t Loader::consume(const uint8_t* data, size_t len) {
         size_t used = 0;
         const FrameReader::Event event = reader_.feed(data + pos, len - pos, used);
         pos += used;
-        if (event == FrameReader::Event::Stray && d_.flashEnded) {
+        if (event == FrameReader::Event::Stray && d_.loaderDone) {
             // Without modem lines the only sign of the reset after FLASH_END is the
             // host talking to the firmware's console, which gets this byte too.
             d_.mode = Mode::Console;
@@ -98,7 +102,7 @@ size_t Loader::consume(const uint8_t* data, size_t len) {
 }
 
 void Loader::handle(const std::vector<uint8_t>& packet) {
-    if (packet.size() < 8 || packet[0] != 0x00) {
+    if (takeAcknowledgement(packet) || packet.size() < 8 || packet[0] != 0x00) {
         return;
     }
     const size_t size = packet[2] | size_t{packet[3]} << 8;
@@ -107,6 +111,9 @@ void Loader::handle(const std::vector<uint8_t>& packet) {
     }
     ++frames_;
     const Request request{packet[1], le32(&packet[4]), packet.data() + 8, size};
+    if (garbleReply(request.op)) {
+        return;
+    }
     // A SYNC is answered by the ROM the host just reset into, MEM_END by the ROM
     // that then starts the stub: the status width is the answering program's.
     const bool romAnswers = rom() || request.op == op::kSync;
@@ -117,9 +124,27 @@ void Loader::handle(const std::vector<uint8_t>& packet) {
     if (response) {
         sendResponse(request.op, *response, romAnswers ? 4 : 2);
     }
+    if (read_ && !read_->started) {
+        read_->started = true;
+        sendReadPackets(mono::nowNs());
+    }
     if (d_.config.silent) {
         d_.outbox.clear();
     }
+}
+
+// A stub still inside a read (one whose packets it cannot send, or one the host left)
+// takes a request for read data: the request does nothing, and its reply is garbled.
+bool Loader::garbleReply(uint8_t opcode) {
+    // Over a pseudo-terminal a SYNC is what tells of the host's reset into ROM.
+    if (opcode == op::kSync || (!garbleNext_ && !(read_ && read_->started))) {
+        return false;
+    }
+    garbleNext_ = false;
+    read_.reset();
+    d_.note("GARBLED " + opName(opcode));
+    d_.outbox.send(slipFrame(responsePacket(opcode, 0, {}, 0xC0, 0x00, 2)));
+    return true;
 }
 
 Loader::Result Loader::execute(const Request& r) {

@@ -63,8 +63,20 @@ class Loader {
         uint32_t next;
         uint32_t nextSeq;
     };
+    /// An acknowledged READ_FLASH: packets go out as acknowledgements allow.
+    struct PacedRead {
+        uint32_t address;
+        uint32_t size;
+        uint32_t packetSize;
+        uint32_t window;  ///< packets it sends ahead of the acknowledgements
+        int ordinal;      ///< counted over the plotter's life, from 0
+        bool started = false;
+        uint32_t sent = 0;
+        uint32_t acked = 0;
+    };
 
     void restartRom();
+    bool garbleReply(uint8_t op);
     void handle(const std::vector<uint8_t>& packet);
     Result execute(const Request& r);
     void sendResponse(uint8_t op, const Response& response, size_t statusBytes);
@@ -85,6 +97,12 @@ class Loader {
     Result flashMd5(const Request& r);
     Result readFlash(const Request& r);
     void scheduleReadData(uint32_t address, uint32_t size, uint32_t packetSize);
+    void startPacedRead(const Request& r);
+    /// True when `packet` was an acknowledgement of the read under way.
+    bool takeAcknowledgement(const std::vector<uint8_t>& packet);
+    void sendReadPackets(int64_t earliestNs);
+    void sendReadDigest(int64_t earliestNs);
+    void sendOnWire(std::vector<uint8_t> frame, int64_t earliestNs);
     void scheduleRestart();
 
     Device& d_;
@@ -100,6 +118,12 @@ class Loader {
     bool appBegun_ = false;
     bool chipErased_ = false;  ///< a whole-chip erase since the last reset into ROM
     bool bootBegun_ = false;   ///< a FLASH_BEGIN at the bootloader's offset since then
+    std::optional<PacedRead> read_;
+    int pacedReads_ = 0;
+    int readPacketsSent_ = 0;
+    /// The stub took a request for read data: its reply to the next command is garbled.
+    bool garbleNext_ = false;
+    int64_t wireFreeNs_ = 0;  ///< when the line has sent what the stub gave it
 };
 
 /// Opcodes, error codes and helpers shared by the loader's source files.
@@ -122,6 +146,14 @@ inline constexpr uint8_t kReadFlash = 0xD2;
 inline constexpr uint8_t kErrInvalid = 0x05;   ///< malformed, out of range, out of sequence
 inline constexpr uint8_t kErrFailed = 0x06;    ///< not possible in the current state
 inline constexpr uint8_t kErrChecksum = 0x07;  ///< data checksum mismatch
+
+/// The host's hard reset holds RTS this long before it lets the chip run.
+inline constexpr int64_t kHardResetNs = 100'000'000;
+
+/// True when `size` bytes at `address` lie within the simulated flash.
+inline bool inFlash(const Device& d, uint32_t address, uint32_t size) {
+    return uint64_t{address} + size <= d.flash.size();
+}
 
 /// 0xEF folded with every byte by exclusive-or, as the data commands carry it.
 uint8_t dataChecksum(const uint8_t* data, size_t len);

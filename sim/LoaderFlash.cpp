@@ -11,12 +11,6 @@ namespace {
 
 constexpr uint32_t kSectorSize = 4096;
 constexpr uint32_t kAppOffset = 0x10000;
-// The host's hard reset holds RTS this long before it lets the chip run.
-constexpr int64_t kHardResetNs = 100'000'000;
-
-bool inFlash(const Device& d, uint32_t address, uint32_t size) {
-    return uint64_t{address} + size <= d.flash.size();
-}
 
 std::vector<uint8_t> hexText(const std::vector<uint8_t>& digest) {
     static constexpr char kDigits[] = "0123456789abcdef";
@@ -43,6 +37,7 @@ Loader::Result Loader::eraseChip(const Request&) {
     if (rom()) {
         return failure(kErrInvalid);
     }
+    d_.beforeFlashChange();
     std::fill(d_.flash.begin(), d_.flash.end(), 0xFF);
     d_.files.clear();
     d_.fileSystemErased = true;
@@ -62,13 +57,15 @@ Loader::Result Loader::flashBegin(const Request& r) {
     if (blockSize == 0 || !inFlash(d_, address, size)) {
         return failure(kErrInvalid);
     }
+    d_.beforeFlashChange();
     // Flash erases whole sectors, so the neighbours of an unaligned region go too.
     const size_t first = address / kSectorSize * kSectorSize;
     const size_t end = std::min<uint64_t>(
         d_.flash.size(), (uint64_t{address} + size + kSectorSize - 1) / kSectorSize * kSectorSize);
     std::fill(d_.flash.begin() + first, d_.flash.begin() + end, 0xFF);
     write_ = FlashWrite{address, 0};
-    appBegun_ = appBegun_ || address == kAppOffset;
+    appBegun_ =
+        appBegun_ || address == kAppOffset || (address < kAppOffset && kAppOffset - address < size);
     bootBegun_ = bootBegun_ || address == 0;
     return answer(0, {}, d_.config.flashBeginDelayMs);
 }
@@ -115,7 +112,7 @@ Loader::Result Loader::flashData(const Request& r) {
 Loader::Result Loader::flashEnd(const Request& r) {
     d_.note("FLASH_END");
     write_.reset();
-    d_.flashEnded = true;
+    d_.loaderDone = true;
     d_.appFlashed = appBegun_;
     // Whatever kept the chip from starting lived in the flash: an erased chip with a
     // new bootloader and application starts as a healthy one does. A brown-out is
@@ -123,10 +120,10 @@ Loader::Result Loader::flashEnd(const Request& r) {
     if (chipErased_ && bootBegun_ && appBegun_ && d_.config.startup != Startup::Brownout) {
         d_.config.startup = Startup::Healthy;
     }
-    d_.flashEndNs = mono::nowNs();
+    d_.loaderDoneNs = mono::nowNs();
     // 0 asks the loader to reboot at once; otherwise the host resets the chip itself.
     const bool reboot = r.size >= 4 && r.word(0) == 0;
-    d_.restartNs = d_.flashEndNs + (reboot ? 0 : kHardResetNs);
+    d_.restartNs = d_.loaderDoneNs + (reboot ? 0 : kHardResetNs);
     if (reboot) {
         d_.mode = Mode::Console;
     } else {
@@ -138,7 +135,7 @@ Loader::Result Loader::flashEnd(const Request& r) {
 void Loader::scheduleRestart() {
     d_.outbox.scheduleAt(d_.restartNs, [this, frame = frames_] {
         const bool inLoader = d_.mode == Mode::RomLoader || d_.mode == Mode::Stub;
-        if (frames_ == frame && d_.flashEnded && inLoader) {
+        if (frames_ == frame && d_.loaderDone && inLoader) {
             d_.mode = Mode::Console;
         }
         return std::vector<uint8_t>{};
@@ -167,38 +164,6 @@ Loader::Result Loader::flashMd5(const Request& r) {
     }
     // The ROM reports the digest as hexadecimal text, the stub as raw bytes.
     return answer(0, rom() ? hexText(digest) : digest, d_.config.md5DelayMs);
-}
-
-Loader::Result Loader::readFlash(const Request& r) {
-    d_.note("READ_FLASH");
-    if (rom() || r.size < 16) {
-        return failure(kErrInvalid);
-    }
-    const uint32_t address = r.word(0);
-    const uint32_t size = r.word(1);
-    const uint32_t packetSize = r.word(2);
-    if (packetSize == 0 || !inFlash(d_, address, size)) {
-        return failure(kErrInvalid);
-    }
-    scheduleReadData(address, size, packetSize);
-    return answer();
-}
-
-// The data follows the response as bare frames, one gap apart, then the digest of
-// all of it; the host acknowledges nothing in between.
-void Loader::scheduleReadData(uint32_t address, uint32_t size, uint32_t packetSize) {
-    int step = 1;
-    for (uint32_t offset = 0; offset < size; offset += packetSize, ++step) {
-        const uint32_t start = address + offset;
-        const uint32_t length = std::min(packetSize, size - offset);
-        d_.outbox.schedule(step * gapMs(), [this, start, length] {
-            const auto first = d_.flash.begin() + start;
-            return slipFrame(std::vector<uint8_t>(first, first + length));
-        });
-    }
-    d_.outbox.schedule(step * gapMs(), [this, address, size] {
-        return slipFrame(md5Digest(d_.flash.data() + address, size));
-    });
 }
 
 }  // namespace sim::detail

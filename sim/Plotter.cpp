@@ -66,7 +66,7 @@ void Plotter::Impl::enter(Mode from, Mode to) {
         }
         // The chip ran from the host's reset on, however late a read notices it.
         const int64_t restartNs = std::min(mono::nowNs(), device.restartNs);
-        console.restart(restartNs, device.flashEndNs + int64_t{device.config.bootMs} * 1'000'000,
+        console.restart(restartNs, device.loaderDoneNs + int64_t{device.config.bootMs} * 1'000'000,
                         true);
     }
 }
@@ -158,6 +158,10 @@ const std::vector<std::string>& Plotter::transcript() const {
 
 std::string Plotter::versionReport() const {
     return impl_->device.reportedVersion.value_or(impl_->device.config.versionReport);
+}
+
+Startup Plotter::startup() const {
+    return impl_->device.starts.current();
 }
 
 Config& Plotter::config() {

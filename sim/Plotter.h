@@ -18,9 +18,10 @@ namespace sim {
 ///
 /// It switches mode by what arrives, since a pseudo-terminal carries no modem
 /// lines: a SLIP frame in console mode means the host reset the chip into its ROM
-/// loader; any SYNC means a fresh reset into ROM; console text after FLASH_END, or
-/// no loader frame for 100 ms after it (the host's hard reset), means the chip
-/// restarted into its firmware, which then starts as `Config::startup` says.
+/// loader; any SYNC means a fresh reset into ROM; console text after FLASH_END or
+/// after an acknowledged read, or no loader frame for 100 ms after FLASH_END (the
+/// host's hard reset), means the chip restarted into its firmware, which then starts
+/// as its flash says (see `Config::startup`).
 ///
 /// Output that must reach the host separately from a command's reply (the stub's
 /// greeting, extra SYNC replies, READ_FLASH data, XModem handshakes, delayed
@@ -36,7 +37,9 @@ class Plotter {
     Plotter& operator=(Plotter&&) noexcept;
 
     /// Takes bytes the host wrote; returns the reply to hand out at once (at most
-    /// one loader frame, so a host that drops what follows a frame loses nothing).
+    /// one loader frame, so a host that drops what follows a frame loses nothing;
+    /// only an acknowledged read, which the host reads as a stream, may put its
+    /// packets behind a response).
     std::vector<uint8_t> onHostBytes(const uint8_t* data, size_t len);
 
     /// The loopback's idle source: waits up to `timeoutMs` with `mono::sleepMs` for
@@ -78,6 +81,10 @@ class Plotter {
     /// or the flashed application's own version when its descriptor holds one,
     /// another one for `Startup::OtherVersion`, otherwise `Config::versionReport`.
     std::string versionReport() const;
+
+    /// How the chip started at its last restart into its firmware (healthy before the
+    /// first): what its flash made of it, which a menu of start-ups shows.
+    Startup startup() const;
 
     /// Live settings; changes apply to what arrives next.
     Config& config();

@@ -8,7 +8,9 @@
 
 #include <cerrno>
 #include <condition_variable>
+#include <ctime>
 #include <mutex>
+#include <optional>
 #include <system_error>
 #include <thread>
 
@@ -40,7 +42,7 @@ struct PtyPlotter::Impl {
     ~Impl();
 
     void run();
-    int pollTimeoutMs();
+    std::optional<int64_t> pollTimeoutNs();
     bool deviceHung() const;
     bool serviceWakeUp();
     void readInput();
@@ -120,8 +122,16 @@ void PtyPlotter::Impl::run() {
         if (outputSent < output.size()) {
             fds[1].events |= POLLOUT;
         }
-        const int timeout = master >= 0 ? pollTimeoutMs() : -1;
-        if (::poll(fds, 2, timeout) < 0 && errno != EINTR) {
+        // To the nanosecond: a paced read is due every few milliseconds, and rounding
+        // each wait up to a whole one would slow it by a fifth.
+        const std::optional<int64_t> timeoutNs =
+            master >= 0 ? pollTimeoutNs() : std::optional<int64_t>();
+        timespec timeout{};
+        if (timeoutNs) {
+            timeout.tv_sec = static_cast<time_t>(*timeoutNs / 1'000'000'000);
+            timeout.tv_nsec = static_cast<long>(*timeoutNs % 1'000'000'000);
+        }
+        if (::ppoll(fds, 2, timeoutNs ? &timeout : nullptr, nullptr) < 0 && errno != EINTR) {
             return;
         }
         if ((fds[0].revents & POLLIN) && !serviceWakeUp()) {
@@ -139,17 +149,16 @@ void PtyPlotter::Impl::run() {
     }
 }
 
-int PtyPlotter::Impl::pollTimeoutMs() {
+std::optional<int64_t> PtyPlotter::Impl::pollTimeoutNs() {
     std::optional<int64_t> due;
     {
         std::lock_guard lock(mutex);
         due = plotter.nextOutputNs();
     }
     if (!due) {
-        return -1;
+        return std::nullopt;
     }
-    const int64_t wait = std::max(*due, scheduledNotBeforeNs) - mono::nowNs();
-    return wait <= 0 ? 0 : static_cast<int>((wait + 999'999) / 1'000'000);
+    return std::max<int64_t>(0, std::max(*due, scheduledNotBeforeNs) - mono::nowNs());
 }
 
 bool PtyPlotter::Impl::deviceHung() const {

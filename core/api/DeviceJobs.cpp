@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "api/JobSteps.h"
 #include "api/Jobs.h"
 #include "esp/EspLoader.h"
 #include "fluidnc/Console.h"
@@ -8,6 +9,7 @@
 #include "fluidnc/Transcript.h"
 #include "fluidnc/XModem.h"
 #include "image/Partitions.h"
+#include "image/WholeFlash.h"
 #include "serial/Clock.h"
 
 namespace esp {
@@ -21,18 +23,6 @@ constexpr int kAckAfterUploadMs = 5000;
 // came back after its chip restarted has missed the start, which "$SS" replays.
 constexpr int kStartupListenMs = 1500;
 constexpr int kStartupReplayMs = 1500;
-constexpr uint32_t kPartitionTableOffset = 0x8000;
-constexpr size_t kPartitionTableSize = 0xC00;
-
-bool enterAndSyncQuietly(EspLoader& loader) {
-    for (int attempt = 0; attempt < 3; ++attempt) {
-        loader.enterBootloader();
-        if (loader.sync(10)) {
-            return true;
-        }
-    }
-    return false;
-}
 
 // One answered command first, so that the console sits idle at its prompt when
 // the transfer command comes; the answer itself is not needed.
@@ -94,10 +84,10 @@ StartupRecord runCheckStartupJob(SerialPort& port, int timeoutMs) {
 int runProbePartitionTableJob(SerialPort& port, const uint8_t* stub, size_t stubLen) {
     mono::sleepMs(kSettleMs);
     EspLoader loader(port, {});
-    if (!enterAndSyncQuietly(loader) || !loader.uploadStub(stub, stubLen)) {
+    if (!enterAndSync(loader, JobLog(nullptr)) || !loader.uploadStub(stub, stubLen)) {
         return -1;
     }
-    const auto table = loader.readFlash(kPartitionTableOffset, kPartitionTableSize);
+    const auto table = loader.readFlash(image::kPartitionTableOffset, image::kPartitionTableSize);
     if (table.empty()) {
         return -1;
     }

@@ -4,69 +4,18 @@
 #include <string>
 
 #include "api/CText.h"
+#include "api/EntryHelpers.h"
 #include "api/Jobs.h"
 #include "api/PortList.h"
 #include "api/esp_flasher.h"
 #include "serial/PortDiscovery.h"
-#include "serial/PortHolder.h"
 
 namespace {
 
-struct Buffer {
-    const char* name;
-    const uint8_t* data;
-    size_t length;
-};
-
-void logLine(esp_log_cb log, const std::string& line) {
-    if (log != nullptr) {
-        log(line.c_str());
-    }
-}
-
-// The jobs would read `length` bytes from the null pointer; null with length 0
-// stays the absent buffer it has always meant.
-bool refuseNullBuffers(std::initializer_list<Buffer> buffers, esp_log_cb log) {
-    for (const Buffer& buffer : buffers) {
-        if (buffer.data == nullptr && buffer.length != 0) {
-            logLine(log, std::string("Invalid argument: ") + buffer.name + " is null with length " +
-                             std::to_string(buffer.length));
-            return true;
-        }
-    }
-    return false;
-}
-
-// A second program on the port (a serial monitor, a G-code sender) would take
-// some of the device's replies, and the job would fail with misleading advice.
-bool refuseSharedPort(const char* path, esp_log_cb log) {
-    if (path == nullptr) {
-        return false;
-    }
-    const auto holder = findOtherPortHolder(path);
-    if (!holder) {
-        return false;
-    }
-    logLine(log,
-            "Port is in use by " + holder->name + " (pid " + std::to_string(holder->pid) + ")");
-    logLine(log, "Failed to open port");
-    return true;
-}
-
-// `log` hears why another program keeps the port from us; a plain open failure is
-// logged only where the caller's log has always said so.
-bool openPort(SerialPort& serial, const char* path, esp_log_cb log, bool logOpenFailure) {
-    if (refuseSharedPort(path, log)) {
-        return false;
-    }
-    if (path == nullptr || !serial.open(path)) {
-        if (logOpenFailure) {
-            logLine(log, "Failed to open port");
-        }
-        return false;
-    }
-    return true;
-}
+using esp::fillReport;
+using esp::logLine;
+using esp::openPort;
+using esp::refuseNullBuffers;
 
 int downloadFailure(fluidnc::DownloadFailure::Reason reason) {
     using Reason = fluidnc::DownloadFailure::Reason;
@@ -89,13 +38,6 @@ int downloadFailure(fluidnc::DownloadFailure::Reason reason) {
             return ESP_DOWNLOAD_ANSWER_NOT_SENT;
     }
     return ESP_DOWNLOAD_OK;
-}
-
-void fillReport(esp_startup_report* report, const esp::StartupRecord& record,
-                const char* expectedVersion) {
-    if (report != nullptr) {
-        esp::fillStartupReport(*report, record, expectedVersion);
-    }
 }
 
 }  // namespace

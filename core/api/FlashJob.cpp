@@ -1,76 +1,22 @@
 #include <cstdio>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "api/JobSteps.h"
 #include "api/Jobs.h"
 #include "esp/EspLoader.h"
-#include "fluidnc/Console.h"
 #include "fluidnc/Transcript.h"
 #include "serial/Clock.h"
 
 namespace esp {
 namespace {
 
-constexpr uint32_t kChipIdS3 = 9;
-constexpr int kBootloaderEntries = 3;
-constexpr int kSyncAttempts = 10;
-constexpr int kVersionQueries = 3;
-constexpr int kVersionQueryMs = 2000;
-constexpr int kBootWaitMs = 2000;
-
 struct FlashEntry {
     uint32_t address;
     const uint8_t* data;
     size_t size;
 };
-
-class JobLog {
-  public:
-    explicit JobLog(esp_log_cb log) : log_(log) {}
-
-    void operator()(const std::string& line) const {
-        if (log_ != nullptr) {
-            log_(line.c_str());
-        }
-    }
-
-    EspLoader::LogFn forLoader() const {
-        if (log_ == nullptr) {
-            return {};
-        }
-        return [log = log_](const std::string& line) { log(line.c_str()); };
-    }
-
-  private:
-    esp_log_cb log_;
-};
-
-bool enterAndSync(EspLoader& loader, const JobLog& log) {
-    for (int attempt = 1; attempt <= kBootloaderEntries; ++attempt) {
-        if (attempt > 1) {
-            log("Retrying bootloader entry (attempt " + std::to_string(attempt) + ")...");
-        }
-        loader.enterBootloader();
-        log("Syncing...");
-        if (loader.sync(kSyncAttempts)) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool identifyChip(EspLoader& loader, const JobLog& log) {
-    const uint32_t chipId = loader.readChipId();
-    char line[32];
-    std::snprintf(line, sizeof line, "Chip ID: 0x%X", chipId);
-    log(line);
-    if (chipId != kChipIdS3) {
-        log("Wrong chip! Expected ESP32-S3 (0x0009)");
-        return false;
-    }
-    log("Chip: ESP32-S3");
-    return true;
-}
 
 std::vector<FlashEntry> buildPlan(const FlashRequest& request) {
     std::vector<FlashEntry> plan;
@@ -120,26 +66,15 @@ esp_error_t writePlan(EspLoader& loader, const std::vector<FlashEntry>& plan,
     return result::Success;
 }
 
-// The chip has just been reset into the new firmware, which needs about two
-// seconds before its console answers. What the chip prints meanwhile tells how it
-// started, so with a record that wait reads instead of sleeping.
 void confirmVersion(SerialPort& port, const std::string& expected, const JobLog& log,
                     StartupRecord* startup) {
     log("Verifying firmware version...");
     std::optional<fluidnc::Transcript> transcript;
     if (startup != nullptr) {
-        fluidnc::listen(port, kBootWaitMs, transcript.emplace());
-    } else {
-        mono::sleepMs(kBootWaitMs);
+        transcript.emplace();
     }
-    fluidnc::Transcript* const keep = transcript ? &*transcript : nullptr;
-    std::optional<std::string> version;
-    for (int attempt = 1; attempt <= kVersionQueries && !version; ++attempt) {
-        if (attempt > 1) {
-            mono::sleepMs(1000);
-        }
-        version = fluidnc::queryVersion(port, kVersionQueryMs, keep);
-    }
+    const std::optional<std::string> version =
+        awaitVersion(port, transcript ? &*transcript : nullptr);
     const bool confirmed = version && version->find(expected) != std::string::npos;
     if (version) {
         log("Device running firmware " + *version);
@@ -157,28 +92,9 @@ void confirmVersion(SerialPort& port, const std::string& expected, const JobLog&
 
 esp_error_t prepareFlash(EspLoader& loader, const FlashRequest& request, esp_progress_cb progress,
                          const JobLog& log) {
-    log("Entering bootloader...");
-    if (!enterAndSync(loader, log)) {
-        log("Sync failed after all retries");
-        return result::NoSync;
+    if (const auto code = startFlasher(loader, request.stub, request.stubLen, log); code != 0) {
+        return code;
     }
-    log("Sync OK");
-    if (!identifyChip(loader, log)) {
-        return result::ChipRefused;
-    }
-    if (!loader.checkSecurityFuses()) {
-        log("ABORTED: Device has secure boot or flash encryption enabled. Flashing plaintext "
-            "firmware would brick it.");
-        return result::ChipRefused;
-    }
-    log("Uploading flash stub (" + std::to_string(request.stubLen) + " bytes)...");
-    if (!loader.uploadStub(request.stub, request.stubLen)) {
-        log("Stub upload failed");
-        return result::StubFailed;
-    }
-    log("Stub running");
-    log("Attaching SPI flash...");
-    loader.attachFlash();
     if (request.eraseAll) {
         if (progress != nullptr) {
             progress(0.08f, "Erasing flash...");

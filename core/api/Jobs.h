@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "api/esp_flasher.h"
+#include "esp/EspLoader.h"
 #include "fluidnc/Download.h"
 #include "serial/SerialPort.h"
 
@@ -26,6 +27,8 @@ constexpr esp_error_t WriteFailed = 6;
 constexpr esp_error_t VerifyFailed = 7;
 constexpr esp_error_t UploadFailed = 8;
 constexpr esp_error_t DownloadFailed = 8;  ///< shares the upload's code
+constexpr esp_error_t ReadFailed = 8;      ///< a flash read without a snapshot: the download's
+constexpr esp_error_t TimedOut = 9;
 }  // namespace result
 
 /// The images and options of one flashing job; every buffer is borrowed.
@@ -82,6 +85,31 @@ esp_error_t runUploadConfigJob(SerialPort& port, const uint8_t* data, size_t len
 std::optional<std::vector<uint8_t>> runDownloadFileJob(SerialPort& port, const std::string& name,
                                                        esp_progress_cb progress, esp_log_cb log,
                                                        fluidnc::DownloadFailure* failure = nullptr);
+
+/// How a snapshot job ended.
+struct SnapshotResult {
+    esp_error_t code = result::Success;
+    int end = ESP_SNAPSHOT_DONE;  ///< enum esp_snapshot_end
+    uint64_t size = 0;            ///< the whole flash, once decided
+    uint64_t received = 0;        ///< bytes handed to the sink
+};
+
+/// The snapshot job after the port has been opened (from the 500 ms settle on):
+/// the flashing job's start, then the whole flash into `sink` in flash order, and a
+/// reset into the firmware once the stub ran. The bytes are a snapshot only when
+/// the code is 0. With `startup`, a successful read is followed by listening to the
+/// restart into it; it is left as it was otherwise.
+SnapshotResult runSnapshotJob(SerialPort& port, const uint8_t* stub, size_t stubLen,
+                              const ReadSink& sink, esp_progress_cb progress, esp_log_cb log,
+                              StartupRecord* startup = nullptr);
+
+/// The restore job after the port has been opened, for a snapshot that passed
+/// `image::snapshotRefusal`: the flashing job's start, then the snapshot as one region
+/// at 0x0 with its MD5 check, FLASH_END and the reset. With `startup`, the restart is
+/// listened to after the reset. 0, 3, 4, 5, 6 or 7.
+esp_error_t runRestoreJob(SerialPort& port, const uint8_t* snapshot, size_t size,
+                          const uint8_t* stub, size_t stubLen, esp_progress_cb progress,
+                          esp_log_cb log, StartupRecord* startup = nullptr);
 
 /// The version query after the port has been opened.
 std::optional<std::string> runQueryVersionJob(SerialPort& port);

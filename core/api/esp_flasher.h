@@ -24,8 +24,9 @@ extern "C" {
 
 /* Result code: 0 success, 2 port not opened, 3 no sync, 4 wrong chip or
  * secure boot, 5 stub failed, 6 erase or write failed, 7 MD5 mismatch,
- * 8 configuration upload or file download failed. 1, 9 and 10 are reserved
- * for the application. */
+ * 8 configuration upload or file download failed (and a flash read that gave
+ * no snapshot), 9 time-out (only a flash read that went silent returns it).
+ * 1 and 10 are reserved for the application. */
 typedef uint32_t esp_error_t;
 
 /* Progress callback: fraction 0..1 and a short stage text. May be null. */
@@ -177,6 +178,72 @@ typedef struct esp_download_status {
 esp_error_t esp_download_file(const char* port, const char* name, uint8_t** data, size_t* length,
                               esp_progress_cb progress, esp_log_cb log,
                               esp_download_status* status);
+
+/* ---- The whole flash: a snapshot, and writing one back ---- */
+
+/* Receives bytes in order, as they arrive. Returns 0 to go on, anything else to stop. */
+typedef int (*esp_data_cb)(void* context, const uint8_t* data, size_t length);
+
+/* Why esp_snapshot_machine ended. */
+enum esp_snapshot_end {
+    ESP_SNAPSHOT_DONE = 0,              /* every byte read, and the stub's MD5 of them matched */
+    ESP_SNAPSHOT_INVALID_ARGUMENTS = 1, /* a null sink, or a null stub with a length */
+    ESP_SNAPSHOT_NOT_STARTED = 2,       /* port, sync, chip, fuses or stub: the result tells */
+    ESP_SNAPSHOT_NOTHING_TO_KEEP = 3,   /* no bootloader header at 0x0 and no partition table
+                                           at 0x8000: an erased chip */
+    ESP_SNAPSHOT_READ_REFUSED = 4,      /* READ_FLASH was not accepted */
+    ESP_SNAPSHOT_NO_DATA = 5,           /* 5 s passed without the next packet or the digest */
+    ESP_SNAPSHOT_BROKEN = 6,            /* a packet or digest of the wrong size or unreadable */
+    ESP_SNAPSHOT_MD5_MISMATCH = 7,      /* the stub's MD5 differs from that of the bytes read */
+    ESP_SNAPSHOT_STOPPED = 8            /* the sink asked to stop */
+};
+
+/* Filled by esp_snapshot_machine on every return. */
+typedef struct esp_snapshot_status {
+    int end;           /* enum esp_snapshot_end */
+    uint64_t size;     /* the whole flash in bytes once decided, else 0 */
+    uint64_t received; /* bytes handed to the sink */
+} esp_snapshot_status;
+
+/* Reads the whole flash into `sink` (called with `sinkContext`), from address 0
+ * up. It starts as esp_flash_firmware does (the same open rules, 500 ms, bootloader
+ * entry, chip and fuse checks, stub and attach, with the same log lines), reads the
+ * bootloader header and the partition table, decides the size (what the header at
+ * 0x0 declares, 1 to 16 MiB; without one, the end of the last partition of a valid
+ * table at 0x8000; with neither nothing is worth keeping) and reads the rest in
+ * acknowledged 4096-byte packets, checked by the stub's MD5. Once the stub ran, the
+ * chip is reset into its firmware on every return; nothing is ever written.
+ * progress gets the fraction of the size read ("Reading flash"). The bytes given to
+ * the sink are a snapshot only when the result is 0: on any other result the caller
+ * discards them. With report (filled as by esp_flash_firmware_checked, on every return),
+ * after a successful read the job listens to the restart and asks for the version
+ * (2 s, then up to three queries of 2 s, 1 s apart), logging nothing; listened is 0
+ * on every other return. Returns 0; 2, 3, 4, 5 as esp_flash_firmware; 7 the MD5
+ * differs; 8 no snapshot (nothing to keep, read refused or broken, sink stopped, or
+ * invalid arguments: a null sink gives 8, a null stub with a length 5); 9 the read
+ * went silent. status may be null. */
+esp_error_t esp_snapshot_machine(const char* port, const uint8_t* stub, size_t stubLen,
+                                 esp_data_cb sink, void* sinkContext, esp_progress_cb progress,
+                                 esp_log_cb log, esp_snapshot_status* status,
+                                 esp_startup_report* report);
+
+/* Writes a whole-flash snapshot back as one region at 0x0 and verifies it by MD5,
+ * then FLASH_END and a reset into its firmware. A snapshot that is not one (a size
+ * other than 1, 2, 4, 8 or 16 MiB, no image header at 0x0, a header for another
+ * chip) is refused before the port is opened, with one line ("Snapshot cannot be
+ * used: " and the reason) and 6; a null buffer with a length is refused as by
+ * esp_flash_firmware (6, or 5 for the stub). The caller decides whether a snapshot
+ * that carries the development marker may be written. The start is that of
+ * esp_flash_firmware, with its lines; then "Restoring whole flash: <n> bytes at
+ * 0x00000", the loader's write and verify lines, with progress "Flashing" from
+ * ESP_PROGRESS_REGIONS_START over ESP_PROGRESS_REGIONS_SPAN. With report, after
+ * the reset the job listens as esp_snapshot_machine does and judges the start
+ * against expectedVersion (null or empty: any version counts as running).
+ * Returns 0, 2, 3, 4, 5, 6 or 7. */
+esp_error_t esp_restore_machine(const char* port, const uint8_t* snapshot, size_t snapshotLen,
+                                const uint8_t* stub, size_t stubLen, const char* expectedVersion,
+                                esp_progress_cb progress, esp_log_cb log,
+                                esp_startup_report* report);
 
 /* ---- Why a port cannot be used, and what is attached over USB ---- */
 

@@ -68,12 +68,28 @@ std::vector<uint8_t> EspLoader::receiveFrame(int timeoutMs) {
 
 CommandResult EspLoader::sendCommand(uint8_t op, const std::vector<uint8_t>& payload,
                                      uint32_t checksum, int timeoutMs) {
-    const std::string name = cmdName(op);
-    if (!sendFrame(buildCommandPacket(op, payload, checksum))) {
-        log("SEND FAIL: " + name);
+    if (!sendRequest(op, payload, checksum)) {
         return failed();
     }
-    const std::vector<uint8_t> frame = receiveFrame(timeoutMs);
+    return judgeResponse(op, receiveFrame(timeoutMs));
+}
+
+bool EspLoader::sendRequest(uint8_t op, const std::vector<uint8_t>& payload, uint32_t checksum) {
+    if (readUnfinished_) {
+        // A stub still inside a read takes the next request for read data and garbles
+        // its reply; only a reset brings it back.
+        log(std::string("NOT SENT: ") + cmdName(op) + " (a flash read was left unfinished)");
+        return false;
+    }
+    if (!sendFrame(buildCommandPacket(op, payload, checksum))) {
+        log(std::string("SEND FAIL: ") + cmdName(op));
+        return false;
+    }
+    return true;
+}
+
+CommandResult EspLoader::judgeResponse(uint8_t op, const std::vector<uint8_t>& frame) {
+    const std::string name = cmdName(op);
     if (frame.empty()) {
         log("NO RESPONSE: " + name);
         return failed();
@@ -120,6 +136,7 @@ bool EspLoader::enterBootloader() {
     }
     // Drop the boot text the chip printed while it restarted.
     port_.flush();
+    readUnfinished_ = false;
     return true;
 }
 
@@ -171,6 +188,7 @@ void EspLoader::hardReset() {
     port_.setRTS(false);
     mono::sleepMs(kLineHoldMs);
     stubRunning_ = false;
+    readUnfinished_ = false;
 }
 
 }  // namespace esp

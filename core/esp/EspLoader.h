@@ -11,6 +11,8 @@
 
 namespace esp {
 
+class FrameStream;
+
 /// Result of one command exchange.
 struct CommandResult {
     bool ok = false;            ///< answered the command sent, with status 0
@@ -29,6 +31,30 @@ struct StubHeader {
 
 /// Progress callback: fraction 0..1 and a short stage text; may be null.
 using ProgressFn = void (*)(float, const char*);
+
+/// How an acknowledged flash read is paced.
+struct ReadPacing {
+    /// Bytes per data packet. The stub answers a larger size with status 0 and then
+    /// sends nothing, and garbles its reply to the next command.
+    uint32_t packetSize = 4096;
+    /// Packets the stub may send ahead of the acknowledgements; a stub may also wait
+    /// for each acknowledgement whatever this says.
+    uint32_t inFlight = 8;
+};
+
+/// How an acknowledged flash read ended.
+enum class ReadEnd {
+    done,            ///< every byte arrived and the stub's MD5 of them matched
+    refused,         ///< READ_FLASH was not answered with status 0
+    noData,          ///< 5 s passed without the next packet or the digest
+    broken,          ///< a packet or digest of the wrong size, a corrupt frame, or an
+                     ///< acknowledgement that could not be written
+    digestMismatch,  ///< all bytes arrived, but the stub's MD5 of them differs
+    stopped,         ///< the sink asked to stop
+};
+
+/// Receives a read's bytes in flash order, as they arrive; false stops the read.
+using ReadSink = std::function<bool(const uint8_t* data, size_t size)>;
 
 /// One conversation with the chip's ROM loader and, once started, its flasher stub.
 ///
@@ -113,15 +139,32 @@ class EspLoader {
     /// Exactly `size` bytes of flash at `address`, or empty on failure.
     std::vector<uint8_t> readFlash(uint32_t address, size_t size);
 
+    /// Reads `size` bytes of flash at `address` in acknowledged packets: each data
+    /// packet is answered at once with the running total, and the stub's closing MD5
+    /// must match what arrived. Every wait is bounded (3 s for the answer, 5 s for
+    /// each packet and the digest); each failure writes one log line. Bytes go to
+    /// `sink` as they arrive, so they only become a copy of the flash once the
+    /// result is `done`. After any end but `done` and `digestMismatch` the stub may
+    /// still be inside the read, so the session sends no further command until the
+    /// next `enterBootloader` or `hardReset` (each is refused with one log line).
+    ReadEnd readFlashAcknowledged(uint32_t address, size_t size, const ReadSink& sink,
+                                  const ReadPacing& pacing = {});
+
     /// True after the stub has greeted and until `hardReset`.
     bool stubRunning() const { return stubRunning_; }
 
   private:
     void log(const std::string& line) const;
+    bool sendRequest(uint8_t op, const std::vector<uint8_t>& payload, uint32_t checksum);
+    CommandResult judgeResponse(uint8_t op, const std::vector<uint8_t>& frame);
+    ReadEnd receiveRead(FrameStream& stream, size_t size, const ReadSink& sink,
+                        const ReadPacing& pacing);
 
     SerialPort& port_;
     LogFn log_;
     bool stubRunning_ = false;
+    /// A read was left unfinished: the stub may take the next command for read data.
+    bool readUnfinished_ = false;
 };
 
 }  // namespace esp

@@ -58,13 +58,6 @@ std::optional<AppDescription> readAppDescription(const uint8_t* data, const Segm
     return app;
 }
 
-bool containsMarker(const uint8_t* data, size_t size) {
-    const std::boyer_moore_horspool_searcher searcher(kDevelopmentMarker.begin(),
-                                                      kDevelopmentMarker.end());
-    const char* text = reinterpret_cast<const char*>(data);
-    return std::search(text, text + size, searcher) != text + size;
-}
-
 // Fills the segment list; returns the offset right after the last segment, or
 // none with `report.layoutFault` set.
 std::optional<size_t> readSegments(const uint8_t* data, size_t size, ImageReport& report) {
@@ -105,6 +98,16 @@ uint8_t checksumOf(const uint8_t* data, const std::vector<Segment>& segments) {
 
 }  // namespace
 
+bool carriesDevelopmentMarker(const uint8_t* data, size_t size) {
+    if (data == nullptr) {
+        return false;
+    }
+    const std::boyer_moore_horspool_searcher searcher(kDevelopmentMarker.begin(),
+                                                      kDevelopmentMarker.end());
+    const char* text = reinterpret_cast<const char*>(data);
+    return std::search(text, text + size, searcher) != text + size;
+}
+
 ImageReport inspectImage(const uint8_t* data, size_t size) {
     ImageReport report;
     report.size = size;
@@ -113,7 +116,7 @@ ImageReport inspectImage(const uint8_t* data, size_t size) {
         report.layoutFault = "an empty file (0 bytes)";
         return report;
     }
-    report.developmentMarker = containsMarker(data, size);
+    report.developmentMarker = carriesDevelopmentMarker(data, size);
     if (data[0] != kMagic) {
         report.layoutFault = "not a firmware image (first byte " + hexByte(data[0]) +
                              ", expected " + hexByte(kMagic) + ")";

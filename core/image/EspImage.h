@@ -63,4 +63,7 @@ struct ImageReport {
 /// Thread-safe.
 ImageReport inspectImage(const uint8_t* data, size_t size);
 
+/// True when `kDevelopmentMarker` stands anywhere in the borrowed bytes. Thread-safe.
+bool carriesDevelopmentMarker(const uint8_t* data, size_t size);
+
 }  // namespace image

@@ -36,11 +36,6 @@ class FlashJobTest : public ::testing::Test {
         return std::equal(bytes.begin(), bytes.end(), device->plotter.flash().begin() + address);
     }
 
-    static Lines linesAfter(const std::string& line) {
-        const auto at = std::find(logLines.begin(), logLines.end(), line);
-        return at == logLines.end() ? Lines{"(no " + line + ")"} : Lines(at + 1, logLines.end());
-    }
-
     const Bytes firmware = pattern(40000, 1);
     const Bytes bootloader = pattern(20001, 2);
     const Bytes partitions = pattern(3072, 3);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -39,6 +40,20 @@ inline Bytes partitionTable(const std::string& entries) {
         out.insert(out.end(), entry.begin(), entry.end() - (kind == '~' ? 1 : 0));
     }
     return out;
+}
+
+/// The start of a bootloader image header for chip 9 whose byte 3 declares the
+/// flash size in its high nibble (0 to 4: 1, 2, 4, 8 or 16 MiB).
+inline Bytes bootloaderHeader(uint8_t sizeCode) {
+    return {
+        0xE9, 3, 2, static_cast<uint8_t>(sizeCode << 4 | 0x0F), 0x08, 0x99, 0x3C, 0x40, 0xEE, 0, 0,
+        0,    9, 0};
+}
+
+/// The log lines after the first `line`, or a line saying it is missing.
+inline Lines linesAfter(const std::string& line) {
+    const auto at = std::find(logLines.begin(), logLines.end(), line);
+    return at == logLines.end() ? Lines{"(no " + line + ")"} : Lines(at + 1, logLines.end());
 }
 
 inline Lines concat(std::initializer_list<Lines> parts) {

@@ -1,0 +1,42 @@
+#include "sim/FlashStarts.h"
+
+#include <functional>
+#include <string_view>
+#include <utility>
+
+namespace sim::detail {
+
+namespace {
+
+uint64_t fingerprint(const std::vector<uint8_t>& flash) {
+    return std::hash<std::string_view>{}(
+        std::string_view(reinterpret_cast<const char*>(flash.data()), flash.size()));
+}
+
+}  // namespace
+
+void FlashStarts::beforeWrite(const std::vector<uint8_t>& flash,
+                              const std::optional<std::string>& version) {
+    if (written_) {
+        return;
+    }
+    written_ = true;
+    known_.try_emplace(fingerprint(flash), Start{current_.startup, version});
+}
+
+FlashStarts::Start FlashStarts::onRestart(const std::vector<uint8_t>& flash, Startup& knob,
+                                          std::optional<std::string> version) {
+    written_ = false;
+    const uint64_t key = fingerprint(flash);
+    const auto known = known_.find(key);
+    Start start{knob, std::move(version)};
+    if (knob == knobSeen_ && known != known_.end()) {
+        start = known->second;
+    }
+    known_.insert_or_assign(key, start);
+    knobSeen_ = knob = start.startup;
+    current_ = start;
+    return start;
+}
+
+}  // namespace sim::detail
