@@ -11,6 +11,7 @@
 
 #include "ui/Colors.h"
 #include "ui/Fonts.h"
+#include "ui/LogViewAccessible.h"
 
 namespace {
 
@@ -52,6 +53,7 @@ LogView::LogView(QWidget* parent)
       boldHeight_(QFontMetrics(bold_).height()),
       cellWidth_(cellWidth(regular_, bold_)),
       spacing_(2) {
+    LogViewAccessible::install();
     // Lines may arrive far faster than a screen refreshes; the scroll bar and the
     // lines are redrawn at most once per frame.
     refresh_.setSingleShot(true);
@@ -76,8 +78,11 @@ void LogView::setEntries(const LogEntries& entries) {
         for (qsizetype i = shown; i < entries.size(); ++i) {
             append(entries[i]);
         }
+        LogViewAccessible::reportAppended(this, shown);
     } else {
+        const QStringList before = lines_;
         rebuild(entries);
+        LogViewAccessible::reportReplaced(this, before);
     }
     if (entries.size() != shown) {
         scrollPending_ = !entries.isEmpty();

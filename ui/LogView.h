@@ -11,7 +11,8 @@
 /// system font at 11 px (errors in bold, after "ERROR:").
 ///
 /// Lines are measured once when they arrive and painted only while visible, so a
-/// line appended to a log of any length costs the same. GUI thread only.
+/// line appended to a log of any length costs the same. A screen reader finds it as
+/// the read-only text "Log" (see `LogViewAccessible`). GUI thread only.
 class LogView : public QAbstractScrollArea {
     Q_OBJECT
 
