@@ -54,11 +54,6 @@ export XDG_RUNTIME_DIR="$scratch/runtime" HOME="$scratch/home" XDG_DATA_HOME="$s
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_QPA_PLATFORM=xcb
 unset QT_SCALE_FACTOR QT_FONT_DPI
 
-# The session ends with the check; the bus launcher (and the accessibility bus and
-# registry it starts) go with it.
-dbus-run-session -- bash -c '
-    /usr/libexec/at-spi-bus-launcher --launch-immediately &
-    launcher=$!
-    trap "kill $launcher 2>/dev/null; wait $launcher 2>/dev/null" EXIT
-    /usr/bin/python3 "$0" "$1" "$2"
-' "$here/window_check.py" "$program" "$language"
+# The session bus starts the accessibility bus's launcher when the check first asks
+# for it, and with it the bus and its registry; all of them end with the session.
+dbus-run-session -- /usr/bin/python3 "$here/window_check.py" "$program" "$language"
