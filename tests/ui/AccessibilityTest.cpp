@@ -44,6 +44,25 @@ double contrast(const QColor& a, const QColor& b) {
     return std::max(la, lb) / std::min(la, lb);
 }
 
+QPalette darkPalette() {
+    QPalette dark;
+    const QColor window(53, 53, 53);
+    const QColor base(35, 35, 35);
+    for (const auto& [role, colour] : {std::pair{QPalette::Window, window},
+                                       {QPalette::WindowText, QColor(Qt::white)},
+                                       {QPalette::Base, base},
+                                       {QPalette::AlternateBase, window},
+                                       {QPalette::Text, QColor(Qt::white)},
+                                       {QPalette::Button, window},
+                                       {QPalette::ButtonText, QColor(Qt::white)},
+                                       {QPalette::Highlight, QColor(42, 130, 218)},
+                                       {QPalette::HighlightedText, QColor(Qt::black)},
+                                       {QPalette::Link, QColor(42, 130, 218)}}) {
+        dark.setColor(role, colour);
+    }
+    return dark;
+}
+
 // The colours a label's text is drawn in: those written into rich text, else its
 // palette's.
 QList<QColor> textColours(const QLabel* label) {

@@ -37,7 +37,6 @@ class ScreensTest : public QObject {
     void compareWindow();
     void connectionCheckWindow();
     void restoreWindowAndRepairDialog();
-    void darkPalette();
 
   private:
     void save(QWidget* window, const QString& name) {
@@ -236,35 +235,6 @@ void ScreensTest::connectionCheckWindow() {
     check.show();
     QVERIFY(QTest::qWaitForWindowExposed(&check));
     save(&check, QStringLiteral("connection-check"));
-}
-
-// The main window with a red banner and the Connection Check in a dark desktop.
-void ScreensTest::darkPalette() {
-    const QPalette light = QApplication::palette();
-    QApplication::setPalette(::darkPalette());
-    UpdateController controller(ResourceBundle(QString()), noDevice);
-    const QSignalBlocker quiet(controller.deviceMonitor());
-    UpdaterView view(controller);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    view.showConnection(true, QStringLiteral("/dev/ttyACM0"));
-    view.showConnectionHint(true);
-    view.showLog(infoEntries({"Updating firmware v2.10.6…", "Firmware update complete."}));
-    FlasherBridge::StartupReport report;
-    report.verdict = ESP_STARTUP_BOOT_LOOP;
-    report.evidence = {QStringLiteral("rst:0xc (RTC_SW_CPU_RST),boot:0x8 (SPI_FAST_FLASH_BOOT)")};
-    view.showResult(startupOutcome(report, StartupCause::Written::firmware, "2.10.6"), true);
-    save(&view, QStringLiteral("dark-banner-boot-loop"));
-
-    FakeSysfs tree;
-    tree.ids("usb1/1-1", "303a", "1001", true);
-    ConnectionCheckWindow check(
-        {QString::fromStdString(tree.sys), QString::fromStdString(tree.dev)},
-        PermissionRule::installed());
-    check.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&check));
-    save(&check, QStringLiteral("dark-connection-check"));
-    QApplication::setPalette(light);
 }
 
 QTEST_MAIN(ScreensTest)

@@ -6,7 +6,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QPalette>
 #include <QPushButton>
 #include <QTimer>
 #include <cstdint>
@@ -20,28 +19,6 @@ inline LogEntries infoEntries(const QStringList& lines) {
         entries.append(LogEntry::info(line));
     }
     return entries;
-}
-
-/// A dark palette as a dark desktop theme gives it.
-inline QPalette darkPalette() {
-    QPalette dark;
-    const QColor window(53, 53, 53);
-    const QColor base(35, 35, 35);
-    for (const auto& [role, colour] : {std::pair{QPalette::Window, window},
-                                       {QPalette::WindowText, QColor(Qt::white)},
-                                       {QPalette::Base, base},
-                                       {QPalette::AlternateBase, window},
-                                       {QPalette::Text, QColor(Qt::white)},
-                                       {QPalette::Button, window},
-                                       {QPalette::ButtonText, QColor(Qt::white)},
-                                       {QPalette::Highlight, QColor(42, 130, 218)},
-                                       {QPalette::HighlightedText, QColor(Qt::black)},
-                                       {QPalette::Link, QColor(42, 130, 218)},
-                                       {QPalette::ToolTipBase, base},
-                                       {QPalette::ToolTipText, QColor(Qt::white)}}) {
-        dark.setColor(role, colour);
-    }
-    return dark;
 }
 
 /// A device detection that never finds the plotter.
