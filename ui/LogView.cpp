@@ -104,6 +104,7 @@ void LogView::refresh() {
 void LogView::append(const LogEntry& entry) {
     const int top = entries_.isEmpty() ? 0 : contentHeight_ + spacing_;
     entries_.append(entry);
+    textLength_ += (lines_.isEmpty() ? 0 : 1) + entry.line().size();
     lines_.append(entry.line());
     tops_.push_back(top);
     contentHeight_ = top + measure(entry);
@@ -144,6 +145,7 @@ void LogView::rebuild(const LogEntries& entries) {
     lines_.clear();
     tops_.clear();
     contentHeight_ = 0;
+    textLength_ = 0;
     for (const LogEntry& entry : entries) {
         append(entry);
     }

@@ -1,7 +1,6 @@
 #include "ui/LogViewAccessible.h"
 
 #include <QAccessible>
-#include <numeric>
 
 #include "app/texts/AccessibilityTexts.h"
 #include "ui/LogView.h"
@@ -9,11 +8,6 @@
 namespace {
 
 const QLatin1Char kNewline('\n');
-
-int length(const QStringList& lines) {
-    return std::accumulate(lines.begin(), lines.end(), lines.isEmpty() ? 0 : int(lines.size()) - 1,
-                           [](int sum, const QString& line) { return sum + int(line.size()); });
-}
 
 QAccessibleInterface* logFactory(const QString& className, QObject* object) {
     if (className == QLatin1String(LogView::staticMetaObject.className())) {
@@ -34,9 +28,9 @@ void LogViewAccessible::reportAppended(LogView* view, qsizetype from) {
     if (!QAccessible::isActive() || from >= view->lines().size()) {
         return;
     }
-    const QStringList added = view->lines().mid(from);
-    const QString text = (from > 0 ? QString(kNewline) : QString()) + added.join(kNewline);
-    QAccessibleTextInsertEvent event(view, length(view->lines().first(from)), text);
+    const QString text =
+        (from > 0 ? QString(kNewline) : QString()) + view->lines().mid(from).join(kNewline);
+    QAccessibleTextInsertEvent event(view, int(view->textLength() - text.size()), text);
     QAccessible::updateAccessibility(&event);
 }
 
@@ -48,8 +42,8 @@ void LogViewAccessible::reportReplaced(LogView* view, const QStringList& before)
     QAccessible::updateAccessibility(&event);
 }
 
-const QStringList& LogViewAccessible::lines() const {
-    return static_cast<const LogView*>(widget())->lines();
+const LogView* LogViewAccessible::view() const {
+    return static_cast<const LogView*>(widget());
 }
 
 QAccessible::Role LogViewAccessible::role() const {
@@ -92,15 +86,16 @@ void* LogViewAccessible::interface_cast(QAccessible::InterfaceType type) {
 }
 
 QString LogViewAccessible::text(int startOffset, int endOffset) const {
-    return lines().join(kNewline).mid(startOffset, endOffset - startOffset);
+    return view()->lines().join(kNewline).mid(startOffset, endOffset - startOffset);
 }
 
 int LogViewAccessible::characterCount() const {
-    return length(lines());
+    return int(view()->textLength());
 }
 
 int LogViewAccessible::cursorPosition() const {
-    return lines().isEmpty() ? 0 : characterCount() - int(lines().last().size());
+    const QStringList& lines = view()->lines();
+    return lines.isEmpty() ? 0 : characterCount() - int(lines.last().size());
 }
 
 void LogViewAccessible::setCursorPosition(int) {}

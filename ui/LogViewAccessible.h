@@ -46,5 +46,5 @@ class LogViewAccessible : public QAccessibleWidget, public QAccessibleTextInterf
     QString attributes(int offset, int* startOffset, int* endOffset) const override;
 
   private:
-    const QStringList& lines() const;
+    const LogView* view() const;
 };
