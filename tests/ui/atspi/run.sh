@@ -52,7 +52,8 @@ export XDG_RUNTIME_DIR="$scratch/runtime" HOME="$scratch/home" XDG_DATA_HOME="$s
 # Qt talks to the accessibility bus only when a screen reader is said to be on, and
 # only through a real window system.
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_QPA_PLATFORM=xcb
-unset QT_SCALE_FACTOR QT_FONT_DPI
+# Nothing of the desktop this runs in: its accessibility bus or its scaling.
+unset AT_SPI_BUS_ADDRESS QT_SCALE_FACTOR QT_FONT_DPI
 
 # The session bus starts the accessibility bus's launcher when the check first asks
 # for it, and with it the bus and its registry; all of them end with the session.
