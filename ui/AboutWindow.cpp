@@ -1,12 +1,15 @@
 #include "ui/AboutWindow.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextCursor>
 
 #include "ui/Colors.h"
+#include "ui/Contrast.h"
 
 namespace {
 
@@ -18,14 +21,20 @@ QRect fromBottomLeft(int x, int y, int width, int height) {
     return QRect(x, kHeight - y - height, width, height);
 }
 
-QColor labelTint(qreal alpha) {
-    QColor color = QGuiApplication::palette().color(QPalette::WindowText);
-    color.setAlphaF(alpha);
-    return color;
+// The secondary and tertiary label colours are the text colour let through at
+// `alpha` over the window, which reads too faintly for small text; the nearest
+// shade that reads well enough is used instead.
+QColor labelTint(const QPalette& palette, qreal alpha) {
+    const QColor text = palette.color(QPalette::WindowText);
+    const QColor window = palette.color(QPalette::Window);
+    const auto over = [alpha](qreal top, qreal below) { return top * alpha + below * (1 - alpha); };
+    const QColor tint =
+        QColor::fromRgbF(over(text.redF(), window.redF()), over(text.greenF(), window.greenF()),
+                         over(text.blueF(), window.blueF()));
+    return Contrast::readableOn(tint, window);
 }
 
-QLabel* makeLabel(const QString& text, int pixelSize, bool bold, const QColor& color,
-                  QWidget* parent) {
+QLabel* makeLabel(const QString& text, int pixelSize, bool bold, QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignCenter);
@@ -33,9 +42,6 @@ QLabel* makeLabel(const QString& text, int pixelSize, bool bold, const QColor& c
     font.setPixelSize(pixelSize);
     font.setBold(bold);
     label->setFont(font);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, color);
-    label->setPalette(palette);
     return label;
 }
 
@@ -45,18 +51,17 @@ AboutWindow::AboutWindow(const QList<ProductConfig>& products, const QString& bu
                          const QPixmap& icon, QWidget* parent)
     : QWidget(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                           Qt::WindowCloseButtonHint),
-      title_(makeLabel(QStringLiteral("Corvane\nTeskal Firmware Updater"), 18, true, labelTint(1.0),
-                       this)),
+      title_(makeLabel(QStringLiteral("Corvane\nTeskal Firmware Updater"), 18, true, this)),
       version_(makeLabel(QStringLiteral("Firmware v") + BuildConfig::firmwareVersion() +
                              QStringLiteral(" (build ") + buildDate + QLatin1Char(')'),
-                         12, false, labelTint(0.5), this)),
+                         12, false, this)),
       information_(new QTextBrowser(this)),
-      footer_(makeLabel(QStringLiteral("© 2026 Corvane. All rights reserved."), 10, false,
-                        labelTint(0.26), this)) {
+      footer_(makeLabel(QStringLiteral("© 2026 Corvane. All rights reserved."), 10, false, this)) {
     setWindowTitle(QStringLiteral("About Teskal Firmware Updater"));
     setFixedSize(kWidth, kHeight);
     placeContent(icon);
     fillInformation(products);
+    recolour();
 }
 
 QString AboutWindow::firmwareSourceUrl() {
@@ -100,9 +105,7 @@ void AboutWindow::fillInformation(const QList<ProductConfig>& products) {
     font.setPixelSize(11);
     QTextCharFormat body;
     body.setFont(font);
-    body.setForeground(labelTint(1.0));
     QTextCharFormat link = body;
-    link.setForeground(CV::NS::deepBlue());
     link.setAnchor(true);
 
     QStringList names;
@@ -126,6 +129,40 @@ void AboutWindow::fillInformation(const QList<ProductConfig>& products) {
     addLink(stubSourceUrl());
     cursor.insertText(QStringLiteral("\n"), body);
     information_->moveCursor(QTextCursor::Start);
+}
+
+// The links' colour is their own, so it is set again for every palette. The text
+// stands on the window, not on a text field.
+void AboutWindow::recolour() {
+    const QPalette& colours = palette();
+    Palettes::setColour(version_, QPalette::WindowText, labelTint(colours, 0.5));
+    Palettes::setColour(footer_, QPalette::WindowText, labelTint(colours, 0.26));
+    Palettes::setColour(information_, QPalette::Text, colours.color(QPalette::WindowText));
+    QList<std::pair<int, int>> links;
+    for (QTextBlock block = information_->document()->begin(); block.isValid();
+         block = block.next()) {
+        for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+            const QTextFragment fragment = piece.fragment();
+            if (fragment.charFormat().isAnchor()) {
+                links.append({fragment.position(), fragment.position() + fragment.length()});
+            }
+        }
+    }
+    QTextCharFormat link;
+    link.setForeground(Contrast::readableOn(CV::NS::deepBlue(), colours.color(QPalette::Window)));
+    QTextCursor cursor(information_->document());
+    for (const auto& [start, end] : links) {
+        cursor.setPosition(start);
+        cursor.setPosition(end, QTextCursor::KeepAnchor);
+        cursor.mergeCharFormat(link);
+    }
+}
+
+void AboutWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        recolour();
+    }
 }
 
 EscapeCloser::EscapeCloser(QWidget* window, QObject* parent) : QObject(parent), window_(window) {}

@@ -12,8 +12,8 @@ class QLabel;
 class QTextBrowser;
 
 /// The About window, 420 x 520, not resizable, with a title and a close button only.
-/// Its content is built once by the constructor; closing it only hides it. GUI
-/// thread only.
+/// Its content is built once by the constructor; its colours follow the palette,
+/// light or dark. Closing it only hides it. GUI thread only.
 class AboutWindow : public QWidget {
     Q_OBJECT
 
@@ -34,9 +34,13 @@ class AboutWindow : public QWidget {
     QTextBrowser* information() const { return information_; }
     QLabel* footerLabel() const { return footer_; }
 
+  protected:
+    void changeEvent(QEvent* event) override;
+
   private:
     void placeContent(const QPixmap& icon);
     void fillInformation(const QList<ProductConfig>& products);
+    void recolour();
 
     QLabel* icon_ = nullptr;
     QLabel* title_;

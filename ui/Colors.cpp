@@ -2,6 +2,25 @@
 
 #include <QGuiApplication>
 #include <QPalette>
+#include <QWidget>
+
+#include "ui/Contrast.h"
+
+namespace {
+
+// A light field would glare in a dark window: there the field is the window's own
+// colour, tinged with the tone's.
+QColor fieldIn(const QColor& window, const QColor& lightField, const QColor& edge) {
+    if (Contrast::isLight(window)) {
+        return lightField;
+    }
+    constexpr double kTinge = 0.3;
+    const auto mix = [](double a, double b) { return a + (b - a) * kTinge; };
+    return QColor::fromRgbF(mix(window.redF(), edge.redF()), mix(window.greenF(), edge.greenF()),
+                            mix(window.blueF(), edge.blueF()));
+}
+
+}  // namespace
 
 namespace CV {
 
@@ -47,22 +66,27 @@ QColor logText() {
     return QGuiApplication::palette().color(QPalette::Text);
 }
 
-const QColor& secondaryText() {
-    return CV::darkGray();
+// The brand's grey and blue read on a light window but not on a dark one, and the
+// blue not even on white: where they fall short, a shade of them is used for text
+// alone.
+QColor secondaryText(const QColor& background) {
+    return Contrast::readableOn(CV::darkGray(), background);
 }
 
-const QColor& problem() {
-    static const QColor colour(198, 40, 40);
-    return colour;
+QColor accentText(const QColor& background) {
+    return Contrast::readableOn(CV::blue(), background);
+}
+
+QColor problemText(const QColor& background) {
+    return Contrast::readableOn(BannerColors::badEdge(), background);
 }
 
 }  // namespace AppColors
 
 namespace BannerColors {
 
-const QColor& goodField() {
-    static const QColor colour(226, 243, 228);
-    return colour;
+QColor goodField(const QColor& window) {
+    return fieldIn(window, QColor(226, 243, 228), goodEdge());
 }
 
 const QColor& goodEdge() {
@@ -70,9 +94,8 @@ const QColor& goodEdge() {
     return colour;
 }
 
-const QColor& cautionField() {
-    static const QColor colour(255, 243, 214);
-    return colour;
+QColor cautionField(const QColor& window) {
+    return fieldIn(window, QColor(255, 243, 214), cautionEdge());
 }
 
 const QColor& cautionEdge() {
@@ -80,9 +103,8 @@ const QColor& cautionEdge() {
     return colour;
 }
 
-const QColor& badField() {
-    static const QColor colour(253, 228, 226);
-    return colour;
+QColor badField(const QColor& window) {
+    return fieldIn(window, QColor(253, 228, 226), badEdge());
 }
 
 const QColor& badEdge() {
@@ -90,4 +112,18 @@ const QColor& badEdge() {
     return colour;
 }
 
+QColor text(const QColor& field) {
+    return Contrast::readableOn(CV::darkGray(), field);
+}
+
 }  // namespace BannerColors
+
+namespace Palettes {
+
+void setColour(QWidget* widget, QPalette::ColorRole role, const QColor& colour) {
+    QPalette palette = widget->palette();
+    palette.setColor(role, colour);
+    widget->setPalette(palette);
+}
+
+}  // namespace Palettes

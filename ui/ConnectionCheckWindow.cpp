@@ -1,5 +1,6 @@
 #include "ui/ConnectionCheckWindow.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProcess>
@@ -28,31 +29,31 @@ QLabel* makeLabel(const QString& text, int pixelSize, const QColor& color, QWidg
     return label;
 }
 
-QLabel* makeMark(CheckRow::Mark mark, QWidget* parent) {
+QLabel* makeMark(CheckRow::Mark mark, const QColor& window, QWidget* parent) {
     switch (mark) {
         case CheckRow::Mark::ok:
-            return makeLabel(QStringLiteral("\u2713"), 14, AppColors::connected(), parent);
+            return makeLabel(QStringLiteral("\u2713"), 14, AppColors::accentText(window), parent);
         case CheckRow::Mark::problem:
-            return makeLabel(QStringLiteral("\u2717"), 14, AppColors::problem(), parent);
+            return makeLabel(QStringLiteral("\u2717"), 14, AppColors::problemText(window), parent);
         case CheckRow::Mark::info:
             break;
     }
-    return makeLabel(QStringLiteral("\u2022"), 14, AppColors::secondaryText(), parent);
+    return makeLabel(QStringLiteral("\u2022"), 14, AppColors::secondaryText(window), parent);
 }
 
-QWidget* makeRow(const CheckRow& row, QWidget* parent) {
+QWidget* makeRow(const CheckRow& row, const QColor& window, QWidget* parent) {
     auto* widget = new QWidget(parent);
     auto* line = new QHBoxLayout(widget);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(8);
-    QLabel* mark = makeMark(row.mark, widget);
+    QLabel* mark = makeMark(row.mark, window, widget);
     mark->setFixedWidth(16);
     line->addWidget(mark, 0, Qt::AlignTop);
     auto* text = new QVBoxLayout;
     text->setSpacing(2);
     text->addWidget(makeLabel(row.line, 13, QColor(), widget));
     if (!row.fix.isEmpty()) {
-        text->addWidget(makeLabel(row.fix, 12, AppColors::secondaryText(), widget));
+        text->addWidget(makeLabel(row.fix, 12, AppColors::secondaryText(window), widget));
     }
     line->addLayout(text, 1);
     return widget;
@@ -71,13 +72,15 @@ ConnectionCheckWindow::ConnectionCheckWindow(CheckConnection::Places places, Per
       checks_(Texts::ruleBelow(), std::move(places)),
       rule_(std::move(rule)),
       launch_(std::move(launch)),
+      intro_(makeLabel(Texts::connectionCheckIntro(), 12, QColor(), this)),
       rows_(new QWidget(this)),
-      notice_(makeLabel(QString(), 12, AppColors::problem(), this)),
+      notice_(makeLabel(QString(), 12, QColor(), this)),
       installRule_(new QPushButton(Texts::installRule(), this)),
       close_(new QPushButton(QStringLiteral("Close"), this)) {
     setWindowTitle(Texts::connectionCheck());
     setFixedWidth(kWidth);
     buildLayout();
+    recolour();
     timer_.setInterval(kCheckIntervalMs);
     connect(&timer_, &QTimer::timeout, this, &ConnectionCheckWindow::refresh);
     connect(installRule_, &QPushButton::clicked, this, &ConnectionCheckWindow::installRule);
@@ -92,8 +95,7 @@ ConnectionCheckWindow::ConnectionCheckWindow(CheckConnection::Places places, Per
 void ConnectionCheckWindow::buildLayout() {
     QVBoxLayout* column = Layouts::windowColumn(this, 16);
 
-    column->addWidget(
-        makeLabel(Texts::connectionCheckIntro(), 12, AppColors::secondaryText(), this));
+    column->addWidget(intro_);
 
     auto* rows = new QVBoxLayout(rows_);
     rows->setContentsMargins(0, 0, 0, 0);
@@ -140,7 +142,7 @@ void ConnectionCheckWindow::showRows() {
         delete item;
     }
     for (const CheckRow& row : checklist_.rows) {
-        QWidget* shown = makeRow(row, rows_);
+        QWidget* shown = makeRow(row, palette().color(QPalette::Window), rows_);
         rows->addWidget(shown);
         // At once, not when the layout would show it later, so that it counts for
         // the height.
@@ -156,6 +158,20 @@ void ConnectionCheckWindow::fitHeight() {
     column->activate();
     setFixedHeight(column->hasHeightForWidth() ? column->totalHeightForWidth(kWidth)
                                                : column->totalSizeHint().height());
+}
+
+void ConnectionCheckWindow::recolour() {
+    const QColor window = palette().color(QPalette::Window);
+    Palettes::setColour(intro_, QPalette::WindowText, AppColors::secondaryText(window));
+    Palettes::setColour(notice_, QPalette::WindowText, AppColors::problemText(window));
+}
+
+void ConnectionCheckWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        recolour();
+        showRows();
+    }
 }
 
 void ConnectionCheckWindow::installRule() {

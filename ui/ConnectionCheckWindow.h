@@ -18,7 +18,8 @@ class QVBoxLayout;
 /// problem offers "Install Permission Rule…", which runs the rule's one fixed
 /// command (without pkexec the button is disabled and its tooltip says what to run
 /// by hand). Once the plotter can be used it shows the "Ready" line, emits
-/// `plotterReady` and closes itself a moment later. GUI thread only.
+/// `plotterReady` and closes itself a moment later. Its colours follow the
+/// palette, light or dark. GUI thread only.
 class ConnectionCheckWindow : public QWidget {
     Q_OBJECT
 
@@ -54,9 +55,11 @@ class ConnectionCheckWindow : public QWidget {
   protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void buildLayout();
+    void recolour();
     void showRows();
     void fitHeight();
     void installRule();
@@ -67,6 +70,7 @@ class ConnectionCheckWindow : public QWidget {
     Launcher launch_;
     Checklist checklist_;
     QTimer timer_;
+    QLabel* intro_;
     QWidget* rows_;
     QLabel* notice_;
     QPushButton* installRule_;

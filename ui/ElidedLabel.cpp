@@ -9,8 +9,13 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
+// A screen reader hears the whole text, and hears it again only when it changed:
+// the name is what it reads, and a new name is announced.
 void ElidedLabel::setFullText(const QString& text) {
     fullText_ = text;
+    if (accessibleName() != text) {
+        setAccessibleName(text);
+    }
     updateGeometry();
     elide();
 }

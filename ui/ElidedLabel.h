@@ -6,7 +6,8 @@
 /// A one-line label that keeps to the width its layout gives it: a text too long
 /// for it is cut at the right with "…", and then the whole text is its tooltip.
 /// It asks for the whole text's width and accepts any width down to the ellipsis
-/// alone. GUI thread only.
+/// alone. Its accessible name is the whole text, so that a screen reader reads it
+/// all and is told of each change. GUI thread only.
 class ElidedLabel : public QLabel {
     Q_OBJECT
 

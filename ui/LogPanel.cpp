@@ -7,6 +7,7 @@
 #include <QPainterPath>
 #include <QToolButton>
 
+#include "app/texts/AccessibilityTexts.h"
 #include "ui/Colors.h"
 #include "ui/Fonts.h"
 #include "ui/LogView.h"
@@ -17,21 +18,23 @@ constexpr int kPadding = 8;
 constexpr int kCopyRoom = 24;
 constexpr int kCornerRadius = 6;
 constexpr int kButtonPadding = 6;
+constexpr int kFocusWidth = 2;
 
 // Two overlapping pages, drawn here because no icon theme can be relied on.
-QIcon copyIcon(int size) {
+QIcon copyIcon(int size, const QPalette& palette) {
     const qreal scale = 2.0;
     QPixmap pixmap(QSize(size, size) * scale);
     pixmap.setDevicePixelRatio(scale);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    QPen pen(AppColors::secondaryText(), size / 12.0);
+    const QColor field = palette.color(QPalette::Base);
+    QPen pen(AppColors::secondaryText(field), size / 12.0);
     painter.setPen(pen);
     const qreal page = size * 0.62;
     const qreal corner = size / 10.0;
     painter.drawRoundedRect(QRectF(size - page - 1, 1, page, page), corner, corner);
-    painter.setBrush(QGuiApplication::palette().color(QPalette::Base));
+    painter.setBrush(field);
     painter.drawRoundedRect(QRectF(1, size - page - 1, page, page), corner, corner);
     return QIcon(pixmap);
 }
@@ -46,14 +49,16 @@ LogPanel::LogPanel(QWidget* parent)
 
     const int iconSize = QFontMetrics(Fonts::system(12)).height();
     copyButton_->setAutoRaise(true);
-    copyButton_->setIcon(copyIcon(iconSize));
     copyButton_->setIconSize(QSize(iconSize, iconSize));
+    drawCopyIcon();
     copyButton_->setFixedSize(iconSize + 2 * kButtonPadding, iconSize + 2 * kButtonPadding);
     copyButton_->setToolTip(QStringLiteral("Copy log to clipboard"));
+    copyButton_->setAccessibleName(Texts::copyLog());
     copyButton_->setCursor(Qt::PointingHandCursor);
     copyButton_->hide();
     connect(copyButton_, &QToolButton::clicked, this, &LogPanel::copyToClipboard);
 
+    view_->installEventFilter(this);
     setContextMenuPolicy(Qt::ActionsContextMenu);
     addAction(QStringLiteral("Copy"), this, &LogPanel::copyToClipboard);
 }
@@ -78,6 +83,34 @@ void LogPanel::paintEvent(QPaintEvent*) {
     QPainterPath field;
     field.addRoundedRect(QRectF(rect()), kCornerRadius, kCornerRadius);
     painter.fillPath(field, palette().color(QPalette::Base));
+    // The lines have no caret or selection to show that the keyboard is here, so
+    // the field does; as the style's own focus frames, only after the keyboard
+    // moved the focus.
+    if (view_->hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        const qreal inset = kFocusWidth / 2.0;
+        painter.setPen(QPen(palette().color(QPalette::Highlight), kFocusWidth));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
+                                kCornerRadius - inset, kCornerRadius - inset);
+    }
+}
+
+bool LogPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == view_ &&
+        (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)) {
+        update();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void LogPanel::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        drawCopyIcon();
+    }
+}
+
+void LogPanel::drawCopyIcon() {
+    copyButton_->setIcon(copyIcon(copyButton_->iconSize().width(), palette()));
 }
 
 void LogPanel::resizeEvent(QResizeEvent* event) {

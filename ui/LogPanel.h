@@ -10,7 +10,9 @@ class QToolButton;
 /// The log area of the main window: the scrolling lines on a rounded field of the
 /// text background colour, and, while there are lines, a copy button in the
 /// top-right corner. Its context menu holds its actions: "Copy" (the whole log),
-/// then any the window adds. GUI thread only.
+/// then any the window adds. While the lines have the focus, and the keyboard
+/// moved it there, the field is outlined in the palette's highlight colour. GUI
+/// thread only.
 class LogPanel : public QWidget {
     Q_OBJECT
 
@@ -32,9 +34,12 @@ class LogPanel : public QWidget {
   protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void placeCopyButton();
+    void drawCopyIcon();
 
     LogView* view_;
     QToolButton* copyButton_;

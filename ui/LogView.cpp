@@ -11,6 +11,7 @@
 
 #include "ui/Colors.h"
 #include "ui/Fonts.h"
+#include "ui/LogViewAccessible.h"
 
 namespace {
 
@@ -52,6 +53,7 @@ LogView::LogView(QWidget* parent)
       boldHeight_(QFontMetrics(bold_).height()),
       cellWidth_(cellWidth(regular_, bold_)),
       spacing_(2) {
+    LogViewAccessible::install();
     // Lines may arrive far faster than a screen refreshes; the scroll bar and the
     // lines are redrawn at most once per frame.
     refresh_.setSingleShot(true);
@@ -76,8 +78,11 @@ void LogView::setEntries(const LogEntries& entries) {
         for (qsizetype i = shown; i < entries.size(); ++i) {
             append(entries[i]);
         }
+        LogViewAccessible::reportAppended(this, shown);
     } else {
+        const QStringList before = lines_;
         rebuild(entries);
+        LogViewAccessible::reportReplaced(this, before);
     }
     if (entries.size() != shown) {
         scrollPending_ = !entries.isEmpty();
@@ -99,6 +104,7 @@ void LogView::refresh() {
 void LogView::append(const LogEntry& entry) {
     const int top = entries_.isEmpty() ? 0 : contentHeight_ + spacing_;
     entries_.append(entry);
+    textLength_ += (lines_.isEmpty() ? 0 : 1) + entry.line().size();
     lines_.append(entry.line());
     tops_.push_back(top);
     contentHeight_ = top + measure(entry);
@@ -139,6 +145,7 @@ void LogView::rebuild(const LogEntries& entries) {
     lines_.clear();
     tops_.clear();
     contentHeight_ = 0;
+    textLength_ = 0;
     for (const LogEntry& entry : entries) {
         append(entry);
     }

@@ -11,7 +11,8 @@
 /// system font at 11 px (errors in bold, after "ERROR:").
 ///
 /// Lines are measured once when they arrive and painted only while visible, so a
-/// line appended to a log of any length costs the same. GUI thread only.
+/// line appended to a log of any length costs the same. A screen reader finds it as
+/// the read-only text "Log" (see `LogViewAccessible`). GUI thread only.
 class LogView : public QAbstractScrollArea {
     Q_OBJECT
 
@@ -30,6 +31,8 @@ class LogView : public QAbstractScrollArea {
     const LogEntries& entries() const { return entries_; }
     /// The lines shown, as `LogEntry::line` renders them.
     const QStringList& lines() const { return lines_; }
+    /// The length of the lines joined by "\n", kept as they arrive.
+    qsizetype textLength() const { return textLength_; }
 
     /// The font `entry` is drawn with: bold for an error.
     QFont fontFor(const LogEntry& entry) const;
@@ -62,6 +65,7 @@ class LogView : public QAbstractScrollArea {
     // the last line.
     std::vector<int> tops_;
     int contentHeight_ = 0;
+    qsizetype textLength_ = 0;
     bool scrollPending_ = false;
     QTimer refresh_;
 };

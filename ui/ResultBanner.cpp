@@ -1,6 +1,9 @@
 #include "ui/ResultBanner.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QAction>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -9,6 +12,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "app/texts/AccessibilityTexts.h"
 #include "ui/Colors.h"
 #include "ui/Fonts.h"
 
@@ -26,16 +30,25 @@ QLabel* wrappedLabel(const QFont& font, QWidget* parent) {
     return label;
 }
 
-std::pair<QColor, QColor> colours(ResultSummary::Tone tone) {
+std::pair<QColor, QColor> colours(ResultSummary::Tone tone, const QColor& window) {
     switch (tone) {
         case ResultSummary::Tone::good:
-            return {BannerColors::goodField(), BannerColors::goodEdge()};
+            return {BannerColors::goodField(window), BannerColors::goodEdge()};
         case ResultSummary::Tone::caution:
-            return {BannerColors::cautionField(), BannerColors::cautionEdge()};
+            return {BannerColors::cautionField(window), BannerColors::cautionEdge()};
         case ResultSummary::Tone::bad:
             break;
     }
-    return {BannerColors::badField(), BannerColors::badEdge()};
+    return {BannerColors::badField(window), BannerColors::badEdge()};
+}
+
+// A screen reader announces an alert when it appears, with its name (the
+// headline) and description (the rest).
+QAccessibleInterface* alertFactory(const QString& className, QObject* object) {
+    if (className == QLatin1String(ResultBanner::staticMetaObject.className())) {
+        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::AlertMessage);
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -47,6 +60,7 @@ ResultBanner::ResultBanner(QWidget* parent)
       nextStep_(wrappedLabel(Fonts::system(11), this)),
       offers_(new QHBoxLayout),
       close_(new QToolButton(this)) {
+    QAccessible::installFactory(alertFactory);
     auto* text = new QVBoxLayout;
     text->setSpacing(4);
     text->addWidget(headline_);
@@ -58,14 +72,10 @@ ResultBanner::ResultBanner(QWidget* parent)
     row->setContentsMargins(kEdgeWidth + 8, 6, 4, 6);
     row->addLayout(text, 1);
     row->addWidget(close_, 0, Qt::AlignTop);
-    // The field is light in every theme, so its text is dark in every theme.
-    QPalette dark = palette();
-    dark.setColor(QPalette::WindowText, CV::darkGray());
-    dark.setColor(QPalette::ButtonText, CV::darkGray());
-    setPalette(dark);
     close_->setText(QStringLiteral("×"));
     close_->setAutoRaise(true);
     close_->setToolTip(QStringLiteral("Close"));
+    close_->setAccessibleName(Texts::dismiss());
     connect(close_, &QToolButton::clicked, this, &QWidget::hide);
     hide();
 }
@@ -83,13 +93,50 @@ void ResultBanner::showSummary(const std::optional<ResultSummary>& summary,
     details_->setVisible(!summary->details.isEmpty());
     nextStep_->setText(summary->nextStep);
     nextStep_->setVisible(!summary->nextStep.isEmpty());
+    setAccessibleName(summary->headline);
+    setAccessibleDescription(
+        (summary->details + QStringList(summary->nextStep)).join(QLatin1Char('\n')).trimmed());
+    addOffers(offers);
+    recolour();
+    show();
+    update();
+}
+
+// Offers come after the headline and before the close button for Tab as for the
+// eye, though their buttons are made after it.
+void ResultBanner::addOffers(const QList<QAction*>& offers) {
+    QWidget* previous = close_->previousInFocusChain();
     for (QAction* offer : offers) {
         auto* button = new QPushButton(offer->text(), this);
         connect(button, &QPushButton::clicked, offer, &QAction::trigger);
         offers_->insertWidget(offers_->count() - 1, button);
+        QWidget::setTabOrder(previous, button);
+        previous = button;
     }
-    show();
-    update();
+}
+
+QColor ResultBanner::field() const {
+    return colours(summary_ ? summary_->tone : ResultSummary::Tone::bad,
+                   palette().color(QPalette::Window))
+        .first;
+}
+
+// The close button draws no panel of its own, so its text stands on the field like
+// the labels'; the offers' buttons keep the theme's.
+void ResultBanner::recolour() {
+    const QColor text = BannerColors::text(field());
+    // A palette set here is a palette change of its own.
+    if (palette().color(QPalette::WindowText) != text) {
+        Palettes::setColour(this, QPalette::WindowText, text);
+    }
+    Palettes::setColour(close_, QPalette::ButtonText, text);
+}
+
+void ResultBanner::changeEvent(QEvent* event) {
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        recolour();
+    }
 }
 
 void ResultBanner::clearOffers() {
@@ -104,7 +151,7 @@ void ResultBanner::paintEvent(QPaintEvent*) {
     if (!summary_) {
         return;
     }
-    const auto [field, edge] = colours(summary_->tone);
+    const auto [field, edge] = colours(summary_->tone, palette().color(QPalette::Window));
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     QPainterPath shape;

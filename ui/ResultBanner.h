@@ -15,7 +15,11 @@ class QToolButton;
 /// green when the machine runs what was written, amber when that is not
 /// confirmed, red for a failure or a machine that does not start; the headline,
 /// the machine's own lines and what to do next. It stays until the next job
-/// starts or the owner closes it. GUI thread only.
+/// starts or the owner closes it. It follows the window's light or dark palette.
+///
+/// For a screen reader it is an alert named by its headline, announced as it
+/// appears; its close button is "Dismiss". Tab reaches its offers, then the close
+/// button. GUI thread only.
 class ResultBanner : public QFrame {
     Q_OBJECT
 
@@ -36,9 +40,14 @@ class ResultBanner : public QFrame {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void clearOffers();
+    void addOffers(const QList<QAction*>& offers);
+    /// The field's colour for the tone shown, in the current palette.
+    QColor field() const;
+    void recolour();
 
     std::optional<ResultSummary> summary_;
     QLabel* headline_;

@@ -1,6 +1,7 @@
 #include "ui/UpdaterView.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -10,6 +11,7 @@
 #include "app/Texts.h"
 #include "app/UpdateController.h"
 #include "app/operations/Repair.h"
+#include "app/texts/AccessibilityTexts.h"
 #include "ui/Colors.h"
 #include "ui/ElidedLabel.h"
 #include "ui/Fonts.h"
@@ -22,14 +24,33 @@ namespace {
 
 constexpr int kProgressSteps = 1000;
 
-QLabel* makeLabel(int pixelSize, const QColor& color, QWidget* parent) {
+QLabel* makeLabel(int pixelSize, QWidget* parent) {
     auto* label = new QLabel(parent);
     label->setTextFormat(Qt::PlainText);
     label->setFont(Fonts::system(pixelSize));
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, color);
-    label->setPalette(palette);
     return label;
+}
+
+// The bar's name says what it measures; the status line beside it says more.
+QString stageOf(UpdateState::Kind kind) {
+    using Kind = UpdateState::Kind;
+    switch (kind) {
+        case Kind::flashing:
+            return Texts::writingFirmwareStage();
+        case Kind::uploadingConfig:
+            return Texts::uploadingConfigStage();
+        case Kind::downloadingConfig:
+            return Texts::readingConfigStage();
+        case Kind::checkingStartup:
+            return Texts::checkingStartupStage();
+        case Kind::idle:
+        case Kind::ready:
+        case Kind::flashComplete:
+        case Kind::configComplete:
+        case Kind::error:
+            break;
+    }
+    return QString();
 }
 
 }  // namespace
@@ -38,9 +59,9 @@ UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
     : QWidget(parent),
       dot_(new StatusDot(this)),
       status_(new ElidedLabel(this)),
-      port_(makeLabel(12, AppColors::secondaryText(), this)),
-      notFound_(makeLabel(12, AppColors::accent(), this)),
-      firmware_(makeLabel(13, AppColors::secondaryText(), this)),
+      port_(makeLabel(12, this)),
+      notFound_(makeLabel(12, this)),
+      firmware_(makeLabel(13, this)),
       progress_(new QProgressBar(this)),
       button_(new QPushButton(QStringLiteral("Update Firmware"), this)),
       banner_(new ResultBanner(this)),
@@ -49,6 +70,7 @@ UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
       log_(new LogPanel(this)) {
     setFixedSize(480, 420);
     buildLayout();
+    recolour();
     connectTo(controller);
 }
 
@@ -66,9 +88,6 @@ void UpdaterView::buildLayout() {
     column->addLayout(statusRow);
 
     notFound_->setTextFormat(Qt::RichText);
-    notFound_->setText(
-        QStringLiteral("<a href=\"check\" style=\"color: %1;\">%2</a>")
-            .arg(AppColors::accent().name(), Texts::plotterNotFound().toHtmlEscaped()));
     notFound_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     notFound_->hide();
     column->addWidget(notFound_);
@@ -129,8 +148,30 @@ void UpdaterView::connectTo(UpdateController& controller) {
     followMonitor();
 }
 
+void UpdaterView::recolour() {
+    const QColor window = palette().color(QPalette::Window);
+    for (QLabel* label : {port_, firmware_}) {
+        Palettes::setColour(label, QPalette::WindowText, AppColors::secondaryText(window));
+    }
+    // A link's colour is fixed when its text is parsed, so it is written into it.
+    notFound_->setText(
+        QStringLiteral("<a href=\"check\" style=\"color: %1;\">%2</a>")
+            .arg(AppColors::accentText(window).name(), Texts::plotterNotFound().toHtmlEscaped()));
+}
+
+void UpdaterView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        recolour();
+    }
+}
+
 void UpdaterView::showState(const UpdateState& state) {
     state_ = state;
+    const QString stage = stageOf(state.kind());
+    if (!stage.isEmpty() && progress_->accessibleName() != stage) {
+        progress_->setAccessibleName(stage);
+    }
     using Kind = UpdateState::Kind;
     switch (state.kind()) {
         case Kind::flashing:

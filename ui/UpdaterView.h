@@ -25,9 +25,10 @@ class UpdateController;
 ///
 /// It keeps nothing of its own: the `show...` functions redraw one part from a
 /// value, and the constructor connects them to the controller's and its device
-/// monitor's published properties. A click on "Update Firmware" while the
-/// controller runs a job does nothing. The controller must outlive the view.
-/// GUI thread only.
+/// monitor's published properties. Its colours follow the palette, light or dark.
+/// For a screen reader the status line is a label that announces each change,
+/// and the progress bar is named after the stage it measures. A click on "Update Firmware" while
+/// the controller runs a job does nothing. The controller must outlive the view. GUI thread only.
 class UpdaterView : public QWidget {
     Q_OBJECT
 
@@ -71,8 +72,12 @@ class UpdaterView : public QWidget {
     /// The banner's "Repair…" was pressed.
     void repairRequested();
 
+  protected:
+    void changeEvent(QEvent* event) override;
+
   private:
     void buildLayout();
+    void recolour();
     void connectTo(UpdateController& controller);
     void updateButtonEnabled();
 
