@@ -6,6 +6,7 @@
 
 #include "app/BackupIndex.h"
 #include "app/VersionText.h"
+#include "image/FirmwareCheck.h"
 
 namespace Texts {
 
@@ -411,11 +412,7 @@ QString nextStep(const Outcome& outcome, Audience audience) {
 namespace {
 
 QString thousands(qint64 value) {
-    QString digits = QString::number(value);
-    for (qsizetype at = digits.size() - 3; at > (value < 0 ? 1 : 0); at -= 3) {
-        digits.insert(at, QLatin1Char(','));
-    }
-    return digits;
+    return QString::fromStdString(image::withThousands(static_cast<uint64_t>(value)));
 }
 
 }  // namespace

@@ -28,8 +28,7 @@ Devices survey(const CheckConnection::Places& places) {
 }
 
 bool isPlotter(const esp_usb_serial_device& device) {
-    return device.vendorId == DeviceMonitor::kVendorId &&
-           device.productId == DeviceMonitor::kProductId;
+    return device.vendorId == ESP_PLOTTER_VENDOR_ID && device.productId == ESP_PLOTTER_PRODUCT_ID;
 }
 
 // The plotter to check: the first one that has a port, else the first one.
