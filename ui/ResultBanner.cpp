@@ -9,6 +9,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "app/texts/WindowTexts.h"
 #include "ui/Colors.h"
 #include "ui/Fonts.h"
 
@@ -65,7 +66,7 @@ ResultBanner::ResultBanner(QWidget* parent)
     setPalette(dark);
     close_->setText(QStringLiteral("×"));
     close_->setAutoRaise(true);
-    close_->setToolTip(QStringLiteral("Close"));
+    close_->setToolTip(Texts::closeButton());
     connect(close_, &QToolButton::clicked, this, &QWidget::hide);
     hide();
 }

@@ -21,6 +21,7 @@
 namespace {
 
 constexpr int kProgressSteps = 1000;
+constexpr QSize kDesignedSize(480, 420);
 
 QLabel* makeLabel(int pixelSize, const QColor& color, QWidget* parent) {
     auto* label = new QLabel(parent);
@@ -42,12 +43,11 @@ UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
       notFound_(makeLabel(12, AppColors::accent(), this)),
       firmware_(makeLabel(13, AppColors::secondaryText(), this)),
       progress_(new QProgressBar(this)),
-      button_(new QPushButton(QStringLiteral("Update Firmware"), this)),
+      button_(new QPushButton(Texts::updateFirmwareButton(), this)),
       banner_(new ResultBanner(this)),
       restorePrevious_(new QAction(Texts::restorePreviousButton(), this)),
       repair_(new QAction(Texts::repairButton(), this)),
       log_(new LogPanel(this)) {
-    setFixedSize(480, 420);
     buildLayout();
     connectTo(controller);
 }
@@ -103,10 +103,7 @@ void UpdaterView::connectTo(UpdateController& controller) {
     connect(&controller, &UpdateController::statusMessageChanged, this,
             &UpdaterView::showStatusMessage);
     connect(&controller, &UpdateController::logChanged, this, &UpdaterView::showLog);
-    connect(&controller, &UpdateController::resultChanged, this,
-            [this, &controller](const std::optional<Outcome>& result) {
-                showResult(result, controller.previousConfiguration().has_value());
-            });
+    connect(&controller, &UpdateController::resultChanged, this, &UpdaterView::showResult);
     connect(restorePrevious_, &QAction::triggered, &controller,
             &UpdateController::restorePreviousConfiguration);
     connect(repair_, &QAction::triggered, this, &UpdaterView::repairRequested);
@@ -127,6 +124,14 @@ void UpdaterView::connectTo(UpdateController& controller) {
     showLog(controller.log());
     showConnectionHint(controller.connectionHint()->offered());
     followMonitor();
+}
+
+QSize UpdaterView::sizeHint() const {
+    return minimumSizeHint();
+}
+
+QSize UpdaterView::minimumSizeHint() const {
+    return QWidget::minimumSizeHint().expandedTo(kDesignedSize);
 }
 
 void UpdaterView::showState(const UpdateState& state) {
@@ -180,9 +185,10 @@ void UpdaterView::showFirmwareLabel(const QString& label) {
     firmware_->setText(label);
 }
 
-void UpdaterView::showResult(const std::optional<Outcome>& result, bool previousOffered) {
+void UpdaterView::showResult(const std::optional<Outcome>& result) {
     QList<QAction*> offers;
-    if (previousOffered) {
+    const StartupCause* startup = result ? result->startup() : nullptr;
+    if (startup != nullptr && startup->previous) {
         offers << restorePrevious_;
     }
     if (result && Repair::helps(*result)) {

@@ -21,8 +21,8 @@ std::variant<Read, Outcome> downloadAndKeep(const Request& request,
         const DownloadCause cause{download.status.failure, download.status.block};
         Outcome failure = Outcome::library(download.result);
         failure.cause = cause;
-        failure.message = Texts::configNotRead(cause);
-        return PortDiagnosis::afterJob(request.port, failure);
+        failure.message = Texts::configNotRead(Texts::downloadFailure(cause.failure, cause.block));
+        return PortDiagnosis::afterJob(request.port, failure, sink.audience);
     }
     BackupIndex::Source source;
     source.reason = request.reason;
