@@ -124,6 +124,10 @@ void RepairDialog::follow() {
                                            : Texts::repairPlanWithoutConfig(firmware_));
     }
     repair_->setEnabled(chosen && firmwareAnswers_.has_value());
+    // The sentence may take another line now; the dialog grows to show it whole.
+    if (isVisible()) {
+        adjustSize();
+    }
 }
 
 std::optional<Repair::PutBack> RepairDialog::chosen() const {

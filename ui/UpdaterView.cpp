@@ -6,6 +6,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/Texts.h"
 #include "app/UpdateController.h"
@@ -130,8 +131,13 @@ QSize UpdaterView::sizeHint() const {
     return minimumSizeHint();
 }
 
+// The banner's and the firmware line's wrapped text need a height for the width
+// they have, which the window's own layout does not ask for.
 QSize UpdaterView::minimumSizeHint() const {
-    return QWidget::minimumSizeHint().expandedTo(kDesignedSize);
+    const int width = std::max(this->width(), kDesignedSize.width());
+    const int needed = layout()->hasHeightForWidth() ? layout()->minimumHeightForWidth(width)
+                                                     : layout()->minimumSize().height();
+    return {kDesignedSize.width(), std::max(kDesignedSize.height(), needed)};
 }
 
 void UpdaterView::showState(const UpdateState& state) {
