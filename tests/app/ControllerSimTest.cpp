@@ -546,6 +546,11 @@ void ControllerSimTest::aRejectedConfigurationIsOneStepFromThePreviousOne() {
     controller.setBackupBeforeUploadEnabled(false);
     uploadRejected();
     QCOMPARE(previous(), before);
+    // Rejected too, the newest offers nothing: it is the file just put back.
+    QVERIFY(rig.run([&] { controller.restorePreviousConfiguration(); }));
+    QCOMPARE(controller.result()->kind, Outcome::Kind::configRejected);
+    QCOMPARE(previous(), std::nullopt);
+    QVERIFY(rig.run([&] { controller.uploadConfig("Halcot.yaml", "Corvane Halcot"); }));
     rig.plotter->modify([](sim::Plotter& p) { p.config().startup = sim::Startup::Healthy; });
     QVERIFY(rig.run([&] { controller.restorePreviousConfiguration(); }));
     QCOMPARE(controller.result()->kind, Outcome::Kind::succeeded);
