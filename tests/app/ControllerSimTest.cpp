@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <QRegularExpression>
 #include <QSignalSpy>
 
@@ -187,6 +189,10 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     QCOMPARE(controller.logMessages(),
              QStringList({"ERROR: Another operation is already running", savedTo(saved)}));
     QCOMPARE(readFile(saved), tuned);
+    // It can hold network credentials: the owner's alone, as the backups are.
+    struct stat status {};
+    QVERIFY(::stat(qPrintable(saved), &status) == 0);
+    QCOMPARE(status.st_mode & 07777, 0600u);
     QCOMPARE(QDir(rig.dir.path()).entryList(QDir::Files), QStringList{"saved.yaml"});
     // The download holds its state through every poll; only its end brings "ready".
     const QStringList published = rig.harness.publishedByJob();
