@@ -118,9 +118,7 @@ void stopOnInterrupts(const Interrupts& interrupts, Reporter& reporter,
     QObject::connect(&interrupts, &Interrupts::pressed, &interrupts, [=, &reporter] {
         if (writing() && !*warned) {
             *warned = true;
-            reporter.notice(
-                QStringLiteral("Writing firmware: stopping now can leave the machine unable to "
-                               "start. Press Ctrl+C again to stop."));
+            reporter.notice(Texts::stopWarning());
             return;
         }
         stopChildren();

@@ -116,6 +116,24 @@ QString versionSuffix(const std::optional<QString>& metaVersion) {
     return metaVersion ? QStringLiteral(" v%1").arg(*metaVersion) : QString();
 }
 
+QString progressPreparing() {
+    return QStringLiteral("Preparing");
+}
+
+QString progressComplete() {
+    return QStringLiteral("Complete");
+}
+
+QString progressFailed() {
+    return QStringLiteral("Failed");
+}
+
+QString stopWarning() {
+    return QStringLiteral(
+        "Writing firmware: stopping now can leave the machine unable to start. Press Ctrl+C "
+        "again to stop.");
+}
+
 QString partitionTablePresent() {
     return QStringLiteral("Partition table: present");
 }

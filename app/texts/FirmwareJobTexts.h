@@ -47,6 +47,12 @@ QString uploadComplete();  ///< "Upload successful; restarting machine."
 /// " vVERSION" for a configuration's meta version, or nothing without one.
 QString versionSuffix(const std::optional<QString>& metaVersion);
 
+// teskal-flash's progress line and its warning at the first Ctrl+C of a write.
+QString progressPreparing();  ///< "Preparing", before the library reports a stage
+QString progressComplete();   ///< "Complete"
+QString progressFailed();     ///< "Failed"
+QString stopWarning();
+
 // Questions to the machine.
 QString partitionTablePresent();
 QString partitionTableAbsent();
