@@ -314,7 +314,7 @@ void ControllerSimTest::everyStartUpComesBackAsItsVerdict() {
                : controller.updateFirmware();
     }));
     const Outcome& outcome = *controller.result();
-    QCOMPARE(outcome.kind, Outcome::Kind(kind));
+    QVERIFY2(outcome.kind == Outcome::Kind(kind), qPrintable(controller.logMessages().join('\n')));
     QCOMPARE(std::get<StartupCause>(outcome.cause).verdict, verdict);
     QVERIFY(outcome.evidence.isEmpty() || outcome.evidence.first().startsWith(evidence));
     const QStringList log = controller.logMessages();
