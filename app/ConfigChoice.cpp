@@ -1,7 +1,7 @@
 #include "app/ConfigChoice.h"
 
+#include "app/MachineConfigCheck.h"
 #include "app/Texts.h"
-#include "app/operations/CheckConfigFile.h"
 
 std::variant<ConfigText, Outcome> readChosenConfig(const ResourceBundle& resources,
                                                    const ConfigChoice& choice) {
@@ -13,10 +13,10 @@ std::variant<ConfigText, Outcome> readChosenConfig(const ResourceBundle& resourc
         }
         return ConfigText{choice.label(), *bytes};
     }
-    CheckConfigFile check(choice.path);
-    const Outcome checked = check.run({});
-    if (checked.isFailure()) {
-        return checked;
+    auto checked =
+        choice.bytes ? checkConfigBytes(choice.path, *choice.bytes) : checkConfigFile(choice.path);
+    if (auto* refused = std::get_if<Outcome>(&checked)) {
+        return *refused;
     }
-    return ConfigText{choice.label(), *check.bytes()};
+    return ConfigText{choice.label(), std::get<QByteArray>(std::move(checked))};
 }

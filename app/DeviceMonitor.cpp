@@ -23,7 +23,8 @@ void DeviceMonitor::startPolling() {
 void DeviceMonitor::poll() {
     // The text is owned by the posted step, so it is released whether the step
     // runs or is discarded along with a monitor that is already gone.
-    std::shared_ptr<char> found(detector_(kVendorId, kProductId), std::free);
+    std::shared_ptr<char> found(detector_(ESP_PLOTTER_VENDOR_ID, ESP_PLOTTER_PRODUCT_ID),
+                                std::free);
     QPointer<DeviceMonitor> self(this);
     QMetaObject::invokeMethod(
         QCoreApplication::instance(),

@@ -8,9 +8,9 @@
 #include <optional>
 
 /// Follows whether the plotter's USB serial port is present. Four times a second
-/// it asks the detector for the first port with the ESP32-S3's built-in USB
-/// serial ids and publishes `portPath`, then `isConnected`, on every poll, whether
-/// or not they changed.
+/// it asks the detector for the first port with the plotter's USB ids
+/// (`ESP_PLOTTER_VENDOR_ID`, `ESP_PLOTTER_PRODUCT_ID`) and publishes `portPath`, then
+/// `isConnected`, on every poll, whether or not they changed.
 ///
 /// Threading: create, start and read on the GUI thread; detection runs there too
 /// (it only enumerates devices, it opens nothing).
@@ -25,8 +25,6 @@ class DeviceMonitor : public QObject {
     /// that the monitor releases with free(), or null when none is present.
     using Detector = std::function<char*(uint16_t vendorId, uint16_t productId)>;
 
-    static constexpr uint16_t kVendorId = 0x303A;
-    static constexpr uint16_t kProductId = 0x1001;
     static constexpr int kPollIntervalMs = 250;
 
     /// Detects through the flasher library. Does not poll until `startPolling`.

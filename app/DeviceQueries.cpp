@@ -6,7 +6,6 @@
 #include <memory>
 #include <vector>
 
-#include "app/DeviceMonitor.h"
 #include "app/VersionText.h"
 #include "esp_flasher.h"
 
@@ -21,21 +20,28 @@ std::optional<QString> firmwareVersion(const QString& port) {
     return VersionText::cleanFirmwareVersion(QString::fromUtf8(reply.get()));
 }
 
+QList<ListedPort> plotters() {
+    std::vector<esp_port_info> ports(
+        esp_list_devices(ESP_PLOTTER_VENDOR_ID, ESP_PLOTTER_PRODUCT_ID, nullptr, 0));
+    // Plotters may come or go between the count and the copy: only the entries the
+    // second call filled are kept.
+    ports.resize(
+        std::min(ports.size(), esp_list_devices(ESP_PLOTTER_VENDOR_ID, ESP_PLOTTER_PRODUCT_ID,
+                                                ports.data(), ports.size())));
+    QList<ListedPort> listed;
+    for (const esp_port_info& port : ports) {
+        listed.append({QString::fromUtf8(port.path), QString::fromUtf8(port.serial)});
+    }
+    return listed;
+}
+
 QString machineIdentity(const QString& port) {
-    constexpr uint16_t kVendorId = DeviceMonitor::kVendorId;
-    constexpr uint16_t kProductId = DeviceMonitor::kProductId;
-    std::vector<esp_port_info> ports(esp_list_devices(kVendorId, kProductId, nullptr, 0));
-    // A plotter may come or go between the count and the copy.
-    ports.resize(std::min(ports.size(),
-                          esp_list_devices(kVendorId, kProductId, ports.data(), ports.size())));
     const QString resolved = QFileInfo(port).canonicalFilePath();
-    for (const esp_port_info& listed : ports) {
-        const QString path = QString::fromUtf8(listed.path);
-        const QString serial = QString::fromUtf8(listed.serial);
-        if (!serial.isEmpty() &&
-            (path == port ||
-             (!resolved.isEmpty() && QFileInfo(path).canonicalFilePath() == resolved))) {
-            return serial;
+    for (const ListedPort& listed : plotters()) {
+        if (!listed.serial.isEmpty() &&
+            (listed.path == port ||
+             (!resolved.isEmpty() && QFileInfo(listed.path).canonicalFilePath() == resolved))) {
+            return listed.serial;
         }
     }
     return port;

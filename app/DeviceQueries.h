@@ -1,12 +1,23 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 #include <optional>
 
 /// Short questions to the machine on `port`, each one whole library call. They
 /// block the calling thread: call them only while no other library job runs.
 namespace DeviceQueries {
+
+/// A plotter's serial port as the system lists it.
+struct ListedPort {
+    QString path;    ///< the node to open
+    QString serial;  ///< the USB serial number; empty when it has none
+};
+
+/// Every connected plotter's port (USB `ESP_PLOTTER_VENDOR_ID`:`ESP_PLOTTER_PRODUCT_ID`),
+/// in the order the system lists them. Opens nothing; safe while a job runs.
+QList<ListedPort> plotters();
 
 /// The version the running firmware reports, cleaned as the window shows it
 /// ("v3.7.8"); none when it does not answer.

@@ -1,5 +1,7 @@
 #include "app/FirmwareCheck.h"
 
+#include <QFileInfo>
+
 #include "app/Texts.h"
 #include "image/FirmwareCheck.h"
 #include "image/Partitions.h"
@@ -78,4 +80,23 @@ QString describeFirmware(const image::AppDescription& app) {
     return Texts::imageDescription(QString::fromStdString(app.version),
                                    QString::fromStdString(app.projectName),
                                    QString::fromStdString(app.date + ' ' + app.time));
+}
+
+FirmwareFileCheck checkFirmwareFile(const QString& path, const ResourceBundle& resources,
+                                    DevelopmentImages developmentImages) {
+    const QString fileName = QFileInfo(path).fileName();
+    QString failure;
+    const auto firmware = readWholeFile(path, &failure);
+    if (!firmware) {
+        return {Outcome::make(Outcome::Kind::refused,
+                              Texts::cannotBeUsed(fileName, Texts::couldNotBeRead(failure))),
+                std::nullopt};
+    }
+    image::ImageReport report = inspectFirmware(*firmware);
+    if (const auto refusal = firmwareRefusal(report, resources, developmentImages)) {
+        return {Outcome::make(Outcome::Kind::refused, Texts::cannotBeUsed(fileName, *refusal)),
+                std::move(report)};
+    }
+    Outcome accepted = Outcome::success(describeFirmware(*report.app));
+    return {std::move(accepted), std::move(report)};
 }

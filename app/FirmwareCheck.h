@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "app/Outcome.h"
 #include "app/ResourceBundle.h"
 #include "image/EspImage.h"
 
@@ -44,3 +45,19 @@ std::optional<QString> imagesRefusal(const QByteArray& firmware, const ResourceB
 
 /// "Firmware image: version V, project P, built D T" for an accepted image.
 QString describeFirmware(const image::AppDescription& app);
+
+/// What checking a firmware file on disk found, as the firmware job will check it.
+struct FirmwareFileCheck {
+    /// Refused with "NAME cannot be used: REASON"; else a success whose message
+    /// describes the image ("Firmware image: version V, project P, built D T").
+    Outcome outcome;
+    /// What the inspector found, once the file could be read.
+    std::optional<image::ImageReport> report;
+};
+
+/// Checks the firmware image at `path`: an ESP32-S3 application whose checksum and
+/// SHA-256 match, that fits the application partition of `resources`' partition
+/// table, and that carries no development marker where development images are
+/// refused. Needs no machine; quick enough for the GUI thread.
+FirmwareFileCheck checkFirmwareFile(const QString& path, const ResourceBundle& resources,
+                                    DevelopmentImages developmentImages);

@@ -1,10 +1,15 @@
 #include "app/MachineConfigCheck.h"
 
+#include <QFileInfo>
+
 #include <yaml-cpp/eventhandler.h>
 #include <yaml-cpp/yaml.h>
 
 #include <sstream>
 #include <string>
+
+#include "app/ResourceBundle.h"
+#include "app/texts/FileTexts.h"
 
 namespace {
 
@@ -159,4 +164,22 @@ std::optional<QString> machineConfigProblem(const QByteArray& bytes) {
         return problem;
     }
     return yamlProblem(bytes);
+}
+
+std::variant<QByteArray, Outcome> checkConfigFile(const QString& path) {
+    const QString fileName = QFileInfo(path).fileName();
+    QString failure;
+    auto bytes = readWholeFile(path, &failure);
+    if (!bytes) {
+        return Outcome::make(Outcome::Kind::refused, Texts::fileUnreadable(fileName));
+    }
+    return checkConfigBytes(path, *bytes);
+}
+
+std::variant<QByteArray, Outcome> checkConfigBytes(const QString& path, const QByteArray& bytes) {
+    if (const auto problem = machineConfigProblem(bytes)) {
+        return Outcome::make(Outcome::Kind::refused,
+                             Texts::notAConfiguration(QFileInfo(path).fileName(), *problem));
+    }
+    return bytes;
 }

@@ -3,6 +3,9 @@
 #include <QByteArray>
 #include <QString>
 #include <optional>
+#include <variant>
+
+#include "app/Outcome.h"
 
 /// Largest machine configuration accepted for upload, in bytes (1 MiB).
 inline constexpr qsizetype kMaxMachineConfigSize = 1024 * 1024;
@@ -15,3 +18,12 @@ inline constexpr qsizetype kMaxMachineConfigSize = 1024 * 1024;
 /// starts with default settings, so such a file must never reach the machine.
 /// Pure; any thread.
 std::optional<QString> machineConfigProblem(const QByteArray& bytes);
+
+/// Checks the configuration file at `path` as an upload checks it: read whole,
+/// then `machineConfigProblem`. Its bytes, or the refusal: "Could not read file:
+/// NAME", "NAME is not a valid machine configuration: PROBLEM". Needs no machine;
+/// quick enough for the GUI thread.
+std::variant<QByteArray, Outcome> checkConfigFile(const QString& path);
+
+/// The same for the bytes of the file at `path`, read already.
+std::variant<QByteArray, Outcome> checkConfigBytes(const QString& path, const QByteArray& bytes);

@@ -8,6 +8,7 @@
 
 #include "app/Backup.h"
 #include "app/Checklist.h"
+#include "app/ConfigDiff.h"
 #include "esp_flasher.h"
 
 /// Why reading a file from the machine failed, as the library tells it.
@@ -44,18 +45,30 @@ struct StartupCause {
     std::optional<QString> expected;      ///< the version that was written, when known
     /// What was written: firmware, or a configuration (the machine restarted with it).
     enum class Written { firmware, configuration } written = Written::firmware;
+    /// After a configuration the machine rejects: the backup of the one it had
+    /// before, which the owner may put back; none when no such backup is known.
+    std::optional<Backup> previous;
 
     friend bool operator==(const StartupCause&, const StartupCause&) = default;
 };
 
-/// How a repair ended once it had written: the machine's start (none when the job
-/// failed before it), the file put back and the copy saved before the erase.
-struct RepairCause {
-    std::optional<StartupCause> startup;
-    std::optional<QString> restored;  ///< path of the configuration put back
-    std::optional<QString> saved;     ///< path of the copy read before the erase
+/// How a job ended that erases the machine and keeps its settings (Erase All Flash
+/// with Save and Restore, the repair): where it stopped before erasing, the
+/// machine's start once written (none when the job ended before it), the copy
+/// saved before the erase and the file put back afterwards.
+struct SettingsCause {
+    enum class Stop {
+        none,            ///< it erased, or ended for another reason
+        firmwareSilent,  ///< the firmware did not answer, so nothing could be saved
+        notSaved,        ///< the copy could not be read, kept or checked
+    };
 
-    friend bool operator==(const RepairCause&, const RepairCause&) = default;
+    Stop stop = Stop::none;
+    std::optional<StartupCause> startup;
+    std::optional<QString> saved;     ///< path of the copy read before the erase
+    std::optional<QString> restored;  ///< path of the configuration put back
+
+    friend bool operator==(const SettingsCause&, const SettingsCause&) = default;
 };
 
 /// The verdict's name in machine-readable output: "running", "wrong-version",
@@ -65,14 +78,17 @@ QString verdictName(int verdict);
 std::optional<int> verdictNamed(const QString& name);
 
 /// What is known, as data, about why an operation ended as it did (or what it
-/// found); empty where the kind alone tells. A connection check carries its whole
-/// checklist; a listing of backups, the backups found.
+/// found), and whatever the window or the command line needs from it afterwards;
+/// empty where the kind alone tells. A connection check carries its whole
+/// checklist; a listing of backups, the backups found; a comparison, how the two
+/// configurations differ.
 using Cause = std::variant<std::monostate, DownloadCause, PortCause, Checklist, StartupCause,
-                           BackupListing, RepairCause>;
+                           BackupListing, SettingsCause, ConfigComparison>;
 
-/// How an operation ended. Created where the result is known and carried
-/// unchanged to the window and to the command line, which present it; neither
-/// works anything out again from its texts. A plain value.
+/// How an operation ended: the only way a result leaves an operation. Created where
+/// the result is known and carried unchanged to the window and to the command line,
+/// which present it; neither works anything out again from its texts, nor reads
+/// anything off the operation after it ran. A plain value.
 struct Outcome {
     enum class Kind {
         succeeded,         ///< it did what it was asked
@@ -109,7 +125,7 @@ struct Outcome {
         outcome.message = std::move(message);
         return outcome;
     }
-    /// The library's `code` (not 0) with its message from the catalogue.
+    /// The library's `code` (not 0) with its message from the outcome table.
     static Outcome library(esp_error_t code);
 
     /// True for every kind that the owner is shown as an error.
@@ -121,11 +137,17 @@ struct Outcome {
     /// started afterwards (a `StartupCause`), whatever that was.
     bool isVerdict() const { return startup() != nullptr; }
 
-    /// How the machine started, also within a repair's cause; null when not told.
+    /// How the machine started, also within a `SettingsCause`; null when not told.
     const StartupCause* startup() const {
-        if (const auto* repair = std::get_if<RepairCause>(&cause)) {
-            return repair->startup ? &*repair->startup : nullptr;
+        if (const auto* settings = std::get_if<SettingsCause>(&cause)) {
+            return settings->startup ? &*settings->startup : nullptr;
         }
         return std::get_if<StartupCause>(&cause);
     }
 };
+
+/// The kind's name in machine-readable output: "succeeded", "not-starting",
+/// "port-unusable", …
+QString kindName(Outcome::Kind kind);
+/// The kind of such a name; none for any other text.
+std::optional<Outcome::Kind> kindNamed(const QString& name);

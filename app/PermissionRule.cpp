@@ -4,7 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "app/Texts.h"
+#include "app/texts/PortTexts.h"
 
 PermissionRule PermissionRule::forExecutableDir(const QString& executableDir) {
     const QDir prefix(QDir::cleanPath(executableDir + QStringLiteral("/..")));
@@ -23,7 +23,7 @@ bool PermissionRule::canInstall() const {
 
 QString PermissionRule::howTo() const {
     if (canInstall()) {
-        return Texts::ruleHelperCommand(pkexec, helper);
+        return pkexec + QLatin1Char(' ') + helper;
     }
     if (QFileInfo(rule).isFile()) {
         return Texts::ruleByHand(rule);

@@ -3,25 +3,12 @@
 #include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QThread>
-#include <algorithm>
-#include <vector>
 
-#include "app/DeviceMonitor.h"
-#include "esp_flasher.h"
+#include "app/DeviceQueries.h"
 
 namespace {
 
 constexpr int kLookEveryMs = 100;
-
-std::vector<esp_port_info> plotters() {
-    std::vector<esp_port_info> ports(
-        esp_list_devices(DeviceMonitor::kVendorId, DeviceMonitor::kProductId, nullptr, 0));
-    // More may have come since the count; only the entries filled are kept.
-    const size_t found = esp_list_devices(DeviceMonitor::kVendorId, DeviceMonitor::kProductId,
-                                          ports.data(), ports.size());
-    ports.resize(std::min(found, ports.size()));
-    return ports;
-}
 
 }  // namespace
 
@@ -29,9 +16,9 @@ PlotterPort::PlotterPort(QString path, QString serialNumber)
     : path_(std::move(path)), serialNumber_(std::move(serialNumber)) {}
 
 PlotterPort PlotterPort::at(const QString& path) {
-    for (const esp_port_info& port : plotters()) {
-        if (QString::fromUtf8(port.path) == path) {
-            return PlotterPort(path, QString::fromUtf8(port.serial));
+    for (const DeviceQueries::ListedPort& port : DeviceQueries::plotters()) {
+        if (port.path == path) {
+            return PlotterPort(path, port.serial);
         }
     }
     return PlotterPort(path, QString());
@@ -43,9 +30,9 @@ std::optional<QString> PlotterPort::findAgain(int timeoutMs) const {
         if (serialNumber_.isEmpty() && QFileInfo::exists(path_)) {
             return path_;
         }
-        for (const esp_port_info& port : plotters()) {
-            if (!serialNumber_.isEmpty() && QString::fromUtf8(port.serial) == serialNumber_) {
-                return QString::fromUtf8(port.path);
+        for (const DeviceQueries::ListedPort& port : DeviceQueries::plotters()) {
+            if (!serialNumber_.isEmpty() && port.serial == serialNumber_) {
+                return port.path;
             }
         }
         if (deadline.hasExpired()) {

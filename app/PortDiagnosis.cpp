@@ -1,9 +1,34 @@
 #include "app/PortDiagnosis.h"
 
-#include "app/Texts.h"
+#include "app/PermissionRule.h"
+#include "app/texts/PortTexts.h"
 #include "esp_flasher.h"
 
 namespace PortDiagnosis {
+namespace {
+
+QString permissionProblem(const PortCause& cause) {
+    if (groupWouldHelp(cause)) {
+        return Texts::permissionDeniedForGroup(cause.path, cause.group);
+    }
+    if (!cause.owner.isEmpty()) {
+        return Texts::permissionDeniedForOwner(cause.path, cause.owner, cause.mode);
+    }
+    return Texts::permissionDenied(cause.path);
+}
+
+// A user who joined the group sees it only in a session that began afterwards.
+QString permissionFix(const PortCause& cause, const QString& rule) {
+    if (!groupWouldHelp(cause)) {
+        return Texts::installTheRule(rule);
+    }
+    if (cause.userInGroup && !cause.groupInEffect) {
+        return Texts::logOutAndIn(cause.group);
+    }
+    return Texts::installRuleOrJoinGroup(rule, cause.group);
+}
+
+}  // namespace
 
 PortCause check(const QString& port, Probe probe) {
     esp_port_check found{};
@@ -24,25 +49,71 @@ PortCause check(const QString& port, Probe probe) {
     return cause;
 }
 
-std::optional<Outcome> unusable(const PortCause& cause) {
+bool groupWouldHelp(const PortCause& cause) {
+    return !cause.group.isEmpty() && cause.group != QLatin1String("root") &&
+           (cause.mode & 0060) == 0060;
+}
+
+QString problem(const PortCause& cause) {
+    switch (cause.problem) {
+        case ESP_PORT_MISSING:
+            return Texts::portMissing(cause.path);
+        case ESP_PORT_NOT_SERIAL:
+            return Texts::portNotSerial(cause.path);
+        case ESP_PORT_PERMISSION:
+            return permissionProblem(cause);
+        case ESP_PORT_HELD:
+            return cause.holderPid > 0
+                       ? Texts::portHeldBy(cause.path, cause.holderName, cause.holderPid)
+                       : Texts::portHeld(cause.path);
+        case ESP_PORT_UNPLUGGED:
+            return Texts::portGone(cause.path);
+        default:
+            return Texts::portUsable(cause.path);
+    }
+}
+
+QString fix(const PortCause& cause, const QString& rule) {
+    switch (cause.problem) {
+        case ESP_PORT_MISSING:
+            return Texts::plugInOrNameAnother();
+        case ESP_PORT_NOT_SERIAL:
+            return Texts::nameThePlotterPort();
+        case ESP_PORT_PERMISSION:
+            return permissionFix(cause, rule);
+        case ESP_PORT_HELD:
+            return cause.holderPid > 0 ? Texts::closeThatProgram() : Texts::closeIt();
+        case ESP_PORT_UNPLUGGED:
+            return Texts::replugPlotter();
+        default:
+            return QString();
+    }
+}
+
+QString ruleFor(Texts::Audience audience) {
+    return audience == Texts::Audience::window ? Texts::ruleInWindow()
+                                               : PermissionRule::installed().howTo();
+}
+
+std::optional<Outcome> unusable(const PortCause& cause, Texts::Audience audience) {
     if (cause.problem == ESP_PORT_OK) {
         return std::nullopt;
     }
-    Outcome outcome = Outcome::make(Outcome::Kind::portUnusable,
-                                    Texts::portUnusable(cause, Texts::ruleInWindow()));
+    Outcome outcome = Outcome::make(Outcome::Kind::portUnusable, problem(cause) + QLatin1Char(' ') +
+                                                                     fix(cause, ruleFor(audience)));
     outcome.cause = cause;
     return outcome;
 }
 
-std::optional<Outcome> beforeJob(const QString& port) {
-    return unusable(check(port, Probe::look));
+std::optional<Outcome> beforeJob(const QString& port, Texts::Audience audience) {
+    return unusable(check(port, Probe::look), audience);
 }
 
-Outcome afterJob(const QString& port, Outcome failure) {
-    if (failure.kind != Outcome::Kind::failed || failure.code != 2) {
+Outcome afterJob(const QString& port, Outcome failure, Texts::Audience audience) {
+    if (failure.kind != Outcome::Kind::failed || failure.code != ESP_RESULT_PORT_NOT_OPENED) {
         return failure;
     }
-    auto found = unusable(check(port, Probe::open));
+    auto found = unusable(check(port, Probe::open), audience);
     if (!found) {
         return failure;
     }

@@ -18,11 +18,22 @@ void PublishedState::log(const QString& line) {
     post(LogEntry::info(line));
 }
 
+void PublishedState::logError(const QString& message) {
+    appendLog(LogEntry::error(message));
+    setState(UpdateState::error(message));
+    assignStatus(message);
+}
+
+void PublishedState::setState(const UpdateState& state) {
+    state_ = state;
+    emit stateChanged(state_);
+}
+
 void PublishedState::followConnection(bool connected) {
     if (state_.isBusy()) {
         return;
     }
-    assignState(connected ? UpdateState::ready() : UpdateState::idle());
+    setState(connected ? UpdateState::ready() : UpdateState::idle());
     assignStatus(connected ? Texts::deviceConnected() : Texts::waitingForDevice());
 }
 
@@ -30,19 +41,19 @@ void PublishedState::enterPhase(Phase phase) {
     phase_ = phase;
     switch (phase) {
         case Phase::writingFirmware:
-            return assignState(UpdateState::flashing(0.0f));
+            return setState(UpdateState::flashing(0.0f));
         case Phase::firmwareWritten:
             written_ = UpdateState::flashComplete();
-            return assignState(written_);
+            return setState(written_);
         case Phase::uploadingConfig:
-            return assignState(UpdateState::uploadingConfig(0.0f));
+            return setState(UpdateState::uploadingConfig(0.0f));
         case Phase::configUploaded:
             written_ = UpdateState::configComplete();
-            return assignState(written_);
+            return setState(written_);
         case Phase::readingConfig:
-            return assignState(UpdateState::downloadingConfig());
+            return setState(UpdateState::downloadingConfig());
         case Phase::checkingStartup:
-            assignState(UpdateState::checkingStartup());
+            setState(UpdateState::checkingStartup());
             return assignStatus(Texts::checkingStartup());
     }
 }
@@ -51,9 +62,9 @@ void PublishedState::enterPhase(Phase phase) {
 void PublishedState::showProgress(float fraction, const QString& stage) {
     assignProgress(fraction);
     if (phase_ == Phase::writingFirmware) {
-        assignState(UpdateState::flashing(fraction));
+        setState(UpdateState::flashing(fraction));
     } else if (phase_ == Phase::uploadingConfig) {
-        assignState(UpdateState::uploadingConfig(fraction));
+        setState(UpdateState::uploadingConfig(fraction));
         if (!stage.isEmpty() && stage != statusMessage_) {
             appendLog(LogEntry::info(stage));
         }
@@ -63,26 +74,28 @@ void PublishedState::showProgress(float fraction, const QString& stage) {
     }
 }
 
-void PublishedState::showFailure(const Outcome& outcome) {
-    appendLog(LogEntry::error(outcome.message));
-    assignState(UpdateState::error(outcome.message));
-    assignStatus(outcome.message);
-}
-
-void PublishedState::showVerdict(const Outcome& outcome) {
+void PublishedState::tell(const Outcome& outcome) {
+    if (!outcome.isVerdict()) {
+        if (outcome.isFailure()) {
+            logError(outcome.message);
+        }
+        return;
+    }
     if (outcome.isFailure()) {
-        appendLog(LogEntry::error(outcome.message));
         for (const QString& line : outcome.evidence) {
             appendLog(LogEntry::info(QStringLiteral("  ") + line));
         }
     }
+    appendLog(outcome.isFailure() ? LogEntry::error(outcome.message)
+                                  : LogEntry::info(outcome.message));
     if (state_.kind() == UpdateState::Kind::checkingStartup) {
-        assignState(written_);
+        setState(written_);
     }
+    assignStatus(outcome.message);
 }
 
 void PublishedState::settle(const QString& status) {
-    assignState(UpdateState::ready());
+    setState(UpdateState::ready());
     assignStatus(status);
 }
 
@@ -104,11 +117,6 @@ void PublishedState::appendLog(const LogEntry& entry) {
 void PublishedState::clearLog() {
     log_.clear();
     emit logChanged(log_);
-}
-
-void PublishedState::assignState(const UpdateState& state) {
-    state_ = state;
-    emit stateChanged(state_);
 }
 
 void PublishedState::assignProgress(float progress) {

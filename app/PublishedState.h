@@ -40,6 +40,11 @@ class PublishedState : public QObject {
     /// Appends a line to the log, asynchronously on the GUI thread, in call order;
     /// callable from any thread.
     void log(const QString& line);
+    /// A failure: "ERROR: " and `message` in the log, the `error` state and the
+    /// message as the status. GUI thread.
+    void logError(const QString& message);
+    /// GUI thread.
+    void setState(const UpdateState& state);
 
   signals:
     void stateChanged(const UpdateState& state);
@@ -58,12 +63,12 @@ class PublishedState : public QObject {
     /// A progress report: the fraction; the state of a transfer; the stage text in
     /// the status line, and an upload's new stage text in the log too.
     void showProgress(float fraction, const QString& stage);
-    /// A failure: the error line, the `error` state and the message as the status.
-    void showFailure(const Outcome& outcome);
-    /// How the machine started after a write: the write's state stays (or comes back
-    /// after the check); a machine that does not run what was written adds the
-    /// message as an error and the machine's own lines to the log.
-    void showVerdict(const Outcome& outcome);
+    /// The end of a job's story in the log, so that its last line is the result
+    /// banner's sentence: after a write the machine's own lines, then the message
+    /// (an error when it did not run what was written), the write's state staying
+    /// (or coming back after the check); after any other failure `logError`. A
+    /// success that tells nothing of the machine adds nothing.
+    void tell(const Outcome& outcome);
     /// `ready` with `status`, after an operation that leaves no state of its own.
     void settle(const QString& status);
 
@@ -73,7 +78,6 @@ class PublishedState : public QObject {
     void clearLog();
 
   private:
-    void assignState(const UpdateState& state);
     void assignProgress(float progress);
     void assignStatus(const QString& message);
 

@@ -1,5 +1,7 @@
 #include "app/ResultSummary.h"
 
+#include "app/OutcomeTable.h"
+
 std::optional<ResultSummary> summarize(const Outcome& outcome, Texts::Audience audience) {
     if (!outcome.isFailure() && !outcome.isVerdict()) {
         return std::nullopt;
@@ -15,6 +17,6 @@ std::optional<ResultSummary> summarize(const Outcome& outcome, Texts::Audience a
     if (summary.tone != ResultSummary::Tone::good) {
         summary.details = outcome.evidence;
     }
-    summary.nextStep = Texts::nextStep(outcome, audience);
+    summary.nextStep = OutcomeTable::nextStep(outcome, audience);
     return summary;
 }

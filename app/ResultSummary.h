@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "app/Outcome.h"
-#include "app/Texts.h"
+#include "app/texts/Audience.h"
 
 /// How the end of a job reads for the owner: the window's result banner, its
 /// desktop notification and the last lines of teskal-flash all show this.

@@ -1,5 +1,7 @@
 #include "app/SimulatedPlotter.h"
 
+#include <algorithm>
+#include <cstring>
 #include <vector>
 
 #include "app/BuildConfig.h"
@@ -32,6 +34,17 @@ void setPace(sim::Config& config, SimulatedPace pace) {
 }
 
 }  // namespace
+
+UsbSurvey simulatedSurvey(const std::string& path) {
+    return [path] {
+        esp_usb_serial_device plotter{};
+        plotter.vendorId = ESP_PLOTTER_VENDOR_ID;
+        plotter.productId = ESP_PLOTTER_PRODUCT_ID;
+        std::strncpy(plotter.driver, "pty", sizeof plotter.driver - 1);
+        std::strncpy(plotter.path, path.c_str(), sizeof plotter.path - 1);
+        return std::vector<esp_usb_serial_device>{plotter};
+    };
+}
 
 std::unique_ptr<sim::PtyPlotter> startSimulatedPlotter(const ResourceBundle& resources,
                                                        SimulatedPace pace, sim::Config config) {

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "app/ResourceBundle.h"
+#include "app/operations/CheckConnection.h"
 #include "sim/Config.h"
 #include "sim/PtyPlotter.h"
 
@@ -23,3 +24,8 @@ enum class SimulatedPace {
 /// another.
 std::unique_ptr<sim::PtyPlotter> startSimulatedPlotter(const ResourceBundle& resources,
                                                        SimulatedPace pace, sim::Config config = {});
+
+/// What the Connection Check sees where only a simulated plotter is offered: that
+/// plotter, with the plotter's USB ids, on its pseudo-terminal `path`, the port the
+/// kernel's pty driver made.
+UsbSurvey simulatedSurvey(const std::string& path);

@@ -5,10 +5,12 @@
 #include <QMutexLocker>
 
 #include "app/BuildConfig.h"
+#include "app/MachineConfigCheck.h"
+#include "app/OutcomeTable.h"
 #include "app/Texts.h"
 #include "app/VersionText.h"
-#include "app/operations/CheckFirmwareFile.h"
 #include "app/operations/CompareWithMachine.h"
+#include "app/operations/EraseKeepingSettings.h"
 #include "app/operations/RestoreConfig.h"
 #include "app/operations/SaveLog.h"
 #include "app/operations/SaveMachineConfig.h"
@@ -78,8 +80,7 @@ void UpdateController::chooseCustomFirmware(const std::optional<QString>& path) 
         log(Texts::customChosenWithoutName());
         return;
     }
-    CheckFirmwareFile check(*path, resources_, developmentImages_);
-    const Outcome checked = check.run({});
+    const Outcome checked = checkFirmwareFile(*path, resources_, developmentImages_).outcome;
     if (checked.isFailure()) {
         post(LogEntry::error(checked.message));
         return;
@@ -90,7 +91,7 @@ void UpdateController::chooseCustomFirmware(const std::optional<QString>& path) 
 }
 
 QString UpdateController::errorMessage(esp_error_t code) {
-    return Texts::errorMessage(code);
+    return OutcomeTable::libraryMessage(code);
 }
 
 std::optional<QString> UpdateController::extractMetaVersion(const QByteArray& bytes) {
@@ -103,49 +104,65 @@ void UpdateController::updateFirmware() {
         return;
     }
     if (!eraseAllFlash_) {
-        return startFlash(*port, Log::fresh);
+        return performFlash(*port);
     }
     using Answer = SettingsQuestions::BeforeErase;
     switch (questions_.beforeErase ? questions_.beforeErase() : Answer::saveAndRestore) {
         case Answer::saveAndRestore:
-            return startKeepingSettings(*port, Log::fresh);
+            return performKeepingSettings(*port, Log::fresh);
         case Answer::eraseWithoutSaving:
-            return startFlash(*port, Log::fresh);
+            return performFlash(*port);
         case Answer::cancel:
             return;
     }
 }
 
-void UpdateController::startFlash(const QString& port, Log log) {
+void UpdateController::performFlash(const QString& port, Log log) {
     start(std::make_shared<FlashFirmware>(port, resources_, flashOptions()), {}, {}, log);
 }
 
-void UpdateController::startKeepingSettings(const QString& port, Log log) {
-    EraseKeepingSettings::Options options;
-    options.flash = flashOptions();
-    auto keeping = std::make_shared<EraseKeepingSettings>(port, resources_, options);
-    start(
-        keeping, {},
-        [this, keeping](const Outcome& outcome) { askAfterStop(keeping->stop(), outcome.message); },
-        log);
+void UpdateController::performConfigUpload(const QString& port, const QString& configFile,
+                                           const QString& productName) {
+    UploadConfig::Options options;
+    options.backUpFirst = backupBeforeUpload_;
+    start(std::make_shared<UploadConfig>(
+        port, resources_, ConfigChoice::ofProduct({productName, configFile}), options));
 }
 
-void UpdateController::askAfterStop(EraseKeepingSettings::Stop stop, const QString& reason) {
-    using Stop = EraseKeepingSettings::Stop;
+void UpdateController::performConfigUploadData(const QString& port, const QString& path,
+                                               const QByteArray& configData) {
+    UploadConfig::Options options;
+    options.backUpFirst = backupBeforeUpload_;
+    start(std::make_shared<UploadConfig>(port, resources_, ConfigChoice::ofData(path, configData),
+                                         options));
+}
+
+void UpdateController::performKeepingSettings(const QString& port, Log log) {
+    EraseKeepingSettings::Options options;
+    options.flash = flashOptions();
+    start(
+        std::make_shared<EraseKeepingSettings>(port, resources_, options), {},
+        [this](const Outcome& outcome) { askAfterStop(outcome); }, log);
+}
+
+void UpdateController::askAfterStop(const Outcome& outcome) {
+    using Stop = SettingsCause::Stop;
     using Answer = SettingsQuestions::AfterFailedRead;
+    const auto* settings = std::get_if<SettingsCause>(&outcome.cause);
+    const Stop stop = settings ? settings->stop : Stop::none;
     Answer answer = Answer::cancel;
     if (stop == Stop::firmwareSilent) {
         const bool anyway = questions_.eraseAnyway && questions_.eraseAnyway();
         answer = anyway ? Answer::eraseWithoutSaving : Answer::cancel;
     } else if (stop == Stop::notSaved && questions_.afterFailedRead) {
-        answer = questions_.afterFailedRead(reason);
+        answer = questions_.afterFailedRead(outcome.message);
     }
     if (answer == Answer::cancel) {
         return;
     }
     if (const auto port = portForNewJob()) {
-        answer == Answer::retry ? startKeepingSettings(*port, Log::continued)
-                                : startFlash(*port, Log::continued);
+        answer == Answer::retry ? performKeepingSettings(*port, Log::continued)
+                                : performFlash(*port, Log::continued);
     }
 }
 
@@ -162,23 +179,26 @@ FlashFirmware::Options UpdateController::flashOptions() const {
 }
 
 void UpdateController::uploadConfig(const QString& configFile, const QString& productName) {
-    uploadChoice(ConfigChoice::ofProduct({productName, configFile}));
+    if (const auto port = portForNewJob()) {
+        performConfigUpload(*port, configFile, productName);
+    }
 }
 
 void UpdateController::uploadConfigFromFile(const QString& path) {
-    uploadChoice(ConfigChoice::ofFile(path));
+    const auto port = portForNewJob();
+    if (!port) {
+        return;
+    }
+    auto checked = checkConfigFile(path);
+    if (const auto* refused = std::get_if<Outcome>(&checked)) {
+        return post(LogEntry::error(refused->message));
+    }
+    performConfigUploadData(*port, path, std::get<QByteArray>(checked));
 }
 
 void UpdateController::uploadChoice(const ConfigChoice& choice) {
-    if (const auto port = portForNewJob()) {
-        UploadConfig::Options options;
-        options.backUpFirst = backupBeforeUpload_;
-        auto upload = std::make_shared<UploadConfig>(*port, resources_, choice, options);
-        start(upload);
-        if (jobRunning()) {
-            upload_ = upload;
-        }
-    }
+    choice.product ? uploadConfig(choice.product->configFile, choice.product->name)
+                   : uploadConfigFromFile(choice.path);
 }
 
 void UpdateController::saveMachineConfig(const QString& destination) {
@@ -190,11 +210,11 @@ void UpdateController::saveMachineConfig(const QString& destination) {
 
 void UpdateController::compareWithMachine(const ConfigChoice& choice) {
     if (const auto port = portForNewJob()) {
-        auto compare = std::make_shared<CompareWithMachine>(*port, resources_, choice);
-        start(compare, [this, compare](const Outcome&) {
-            settle(Texts::configCompared());
-            emit machineConfigCompared(compare->comparison(), compare->choice());
-        });
+        start(std::make_shared<CompareWithMachine>(*port, resources_, choice),
+              [this, choice](const Outcome& outcome) {
+                  settle(Texts::configCompared());
+                  emit machineConfigCompared(std::get<ConfigComparison>(outcome.cause), choice);
+              });
     }
 }
 
@@ -207,8 +227,9 @@ void UpdateController::saveLog(const QString& path) {
 }
 
 void UpdateController::restorePreviousConfiguration() {
-    if (previous_) {
-        restoreBackup(*previous_);
+    const StartupCause* startup = result() ? result()->startup() : nullptr;
+    if (startup != nullptr && startup->previous) {
+        restoreBackup(*startup->previous);
     }
 }
 
@@ -245,7 +266,6 @@ std::optional<QString> UpdateController::portForNewJob() {
 
 void UpdateController::start(std::shared_ptr<Operation> operation, Then then, Then otherwise,
                              Log log) {
-    upload_.reset();
     if (const auto refused = operation->refusal()) {
         post(LogEntry::error(refused->message));
         return;
@@ -268,20 +288,13 @@ void UpdateController::showLibraryLine(const QString& line) {
 }
 
 void UpdateController::finish(const Outcome& outcome) {
-    Then next;
-    if (outcome.isVerdict()) {
-        showVerdict(outcome);
-    } else if (outcome.isFailure()) {
-        showFailure(outcome);
-        next = std::move(otherwise_);
-    } else if (then_) {
+    const Then next = outcome.isFailure() ? std::move(otherwise_) : Then();
+    if (!outcome.isFailure() && then_) {
         then_(outcome);
     }
     then_ = {};
     otherwise_ = {};
-    // Known before the result is published, so that its banner can offer it.
-    previous_ = upload_ ? upload_->previousConfiguration() : std::nullopt;
-    upload_.reset();
+    tell(outcome);
     assignResult(outcome);
     connectionHint_->jobEnded(outcome);
     emit jobRunningChanged(false);

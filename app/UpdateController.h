@@ -18,15 +18,14 @@
 #include "app/PublishedState.h"
 #include "app/ResourceBundle.h"
 #include "app/SettingsQuestions.h"
-#include "app/operations/EraseKeepingSettings.h"
 #include "app/operations/FlashFirmware.h"
 #include "app/operations/OperationRunner.h"
 #include "app/operations/Repair.h"
-#include "app/operations/UploadConfig.h"
 
 /// The application's one controller: owns the device monitor, publishes what the
 /// main window shows (see `PublishedState`), holds the menus' options, and starts
-/// the owner's operations (see app/operations) on its runner, one at a time.
+/// the owner's operations (see app/operations) on its runner, one at a time. What
+/// it learns of a job comes in the job's `Outcome` alone.
 ///
 /// Threading: create it and call every public function on the GUI thread, except
 /// `log`, which may be called from any thread. Destroying the controller waits for
@@ -84,17 +83,12 @@ class UpdateController : public PublishedState {
     /// installs its dialogs.
     void setSettingsQuestions(SettingsQuestions questions) { questions_ = std::move(questions); }
 
-    /// The configuration the machine had before the last job, an upload, whose
-    /// configuration it rejects (see `UploadConfig::previousConfiguration`); none
-    /// after every other ending. Set before the job's result is published.
-    const std::optional<Backup>& previousConfiguration() const { return previous_; }
-
     /// True from the moment an operation is accepted (before its state leaves
     /// `ready`) until its outcome has arrived on the GUI thread.
     bool jobRunning() const { return runner_.isRunning(); }
 
     /// Takes the firmware file chosen in the file dialog after checking it as the
-    /// job will (`CheckFirmwareFile`): a refused file leaves the choice as it was
+    /// job will (`checkFirmwareFile`): a refused file leaves the choice as it was
     /// and logs the refusal as an error; an accepted one is recorded and logged with
     /// "Custom firmware: " and its name, then its description. None (the dialog
     /// confirmed without a location) clears the choice and logs "Custom firmware:
@@ -119,7 +113,7 @@ class UpdateController : public PublishedState {
     void updateFirmware();
     /// A product's configuration from the resources.
     void uploadConfig(const QString& configFile, const QString& productName);
-    /// A configuration file from disk, checked first.
+    /// A configuration file from disk, read and checked first.
     void uploadConfigFromFile(const QString& path);
     /// Either of the two above.
     void uploadChoice(const ConfigChoice& choice);
@@ -134,7 +128,8 @@ class UpdateController : public PublishedState {
     void saveLog(const QString& path);
     /// Puts `backup` back on the machine with the normal upload (see `RestoreConfig`).
     void restoreBackup(const Backup& backup);
-    /// `restoreBackup` of `previousConfiguration`, when there is one.
+    /// `restoreBackup` of the configuration the machine had before the last job, an
+    /// upload whose configuration it rejects (`StartupCause::previous`), if any.
     void restorePreviousConfiguration();
     /// Repairs the machine (see `Repair`): Erase All Flash with the firmware "Update
     /// Firmware" would write, then `putBack`; ends with the result banner as every
@@ -149,18 +144,24 @@ class UpdateController : public PublishedState {
     void machineConfigCompared(const ConfigComparison& comparison, const ConfigChoice& chosen);
 
   private:
-    /// What follows an outcome that is no failure.
+    /// What follows an outcome that is no failure, or one that is.
     using Then = std::function<void(const Outcome& outcome)>;
 
     /// Whether a job empties the log when it starts.
     enum class Log { fresh, continued };
 
+    // The controller's own steps: each builds its operation and runs it.
+    void performFlash(const QString& port, Log log = Log::fresh);
+    void performConfigUpload(const QString& port, const QString& configFile,
+                             const QString& productName);
+    void performConfigUploadData(const QString& port, const QString& path,
+                                 const QByteArray& configData);
+    void performKeepingSettings(const QString& port, Log log);
+
     std::optional<QString> portForNewJob();
     void start(std::shared_ptr<Operation> operation, Then then = {}, Then otherwise = {},
                Log log = Log::fresh);
-    void startFlash(const QString& port, Log log);
-    void startKeepingSettings(const QString& port, Log log);
-    void askAfterStop(EraseKeepingSettings::Stop stop, const QString& reason);
+    void askAfterStop(const Outcome& outcome);
     FlashFirmware::Options flashOptions() const;
     void showLibraryLine(const QString& line);
     void finish(const Outcome& outcome);
@@ -179,9 +180,6 @@ class UpdateController : public PublishedState {
     Then then_;
     /// What follows an outcome that is a failure, once it is shown.
     Then otherwise_;
-    /// The running upload, whose previous configuration the result may offer.
-    std::shared_ptr<UploadConfig> upload_;
-    std::optional<Backup> previous_;
     // Last member: destroyed first, so a running operation ends while the rest of
     // the controller still exists.
     OperationRunner runner_;

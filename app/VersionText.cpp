@@ -87,4 +87,11 @@ QString cleanFirmwareVersion(const QString& reply) {
     return suffix < 0 ? version : version.left(suffix);
 }
 
+QString shown(const QString& version) {
+    const bool prefixed = version.size() > 1 &&
+                          (version[0] == QLatin1Char('v') || version[0] == QLatin1Char('V')) &&
+                          version[1].isDigit();
+    return prefixed ? version.mid(1) : version;
+}
+
 }  // namespace VersionText

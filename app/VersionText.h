@@ -15,4 +15,8 @@ std::optional<QString> metaVersion(const QByteArray& bytes);
 /// gives "v3.7.8".
 QString cleanFirmwareVersion(const QString& reply);
 
+/// `version` in the style the window's firmware line shows ("2.10.6"): without the
+/// "v" that firmware puts before a number ("v3.7.8" gives "3.7.8").
+QString shown(const QString& version);
+
 }  // namespace VersionText

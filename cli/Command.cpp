@@ -1,8 +1,8 @@
 #include "cli/Command.h"
 
 QStringList Command::exitStatusHelp() const {
-    QList<int> statuses{ExitStatus::success};
+    QList<int> statuses{OutcomeTable::success};
     statuses << failureStatuses();
-    statuses << ExitStatus::usage << ExitStatus::stopped;
-    return ExitStatus::help(statuses, successMeaning(), convention());
+    statuses << OutcomeTable::usage << OutcomeTable::stopped;
+    return OutcomeTable::help(statuses, successMeaning(), convention());
 }

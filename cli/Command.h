@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "app/FirmwareCheck.h"
+#include "app/OutcomeTable.h"
 #include "app/ResourceBundle.h"
 #include "app/operations/Operation.h"
-#include "cli/ExitStatus.h"
 
 /// The options every subcommand shares, as the command line gave them.
 struct CommonOptions {
@@ -64,7 +64,7 @@ class Command {
     /// The other statuses it can end with, for --help, in the order listed.
     virtual QList<int> failureStatuses() const = 0;
     virtual Ports ports() const { return Ports::one; }
-    virtual ExitStatus::Convention convention() const { return ExitStatus::Convention::table; }
+    virtual OutcomeTable::Convention convention() const { return OutcomeTable::Convention::table; }
     /// Whether it writes firmware, so that Ctrl+C asks to be pressed twice.
     virtual bool writesFirmware() const { return false; }
 

@@ -173,12 +173,12 @@ std::variant<const Command*, int> CommandLine::parse(int argc, char** argv) {
         app_.parse(static_cast<int>(pointers.size()), pointers.data());
     } catch (const CLI::ParseError& error) {
         const int status = app_.exit(error);
-        return status == 0 ? 0 : ExitStatus::usage;
+        return status == 0 ? 0 : OutcomeTable::usage;
     }
     for (const auto& [subcommand, command] : subcommands_) {
         if (subcommand->parsed()) {
             return command;
         }
     }
-    return ExitStatus::usage;
+    return OutcomeTable::usage;
 }

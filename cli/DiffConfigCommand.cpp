@@ -19,7 +19,7 @@ class DiffConfigCommand : public Command {
 
     QString successMeaning() const override { return QStringLiteral("equal by key"); }
     QList<int> failureStatuses() const override { return {1, 2, 8, 11, 12}; }
-    ExitStatus::Convention convention() const override { return ExitStatus::Convention::diff; }
+    OutcomeTable::Convention convention() const override { return OutcomeTable::Convention::diff; }
 
     std::shared_ptr<Operation> operation(const CommandContext& context) const override {
         return std::make_shared<CompareWithMachine>(context.portPath, context.resources,

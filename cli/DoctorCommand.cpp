@@ -21,12 +21,13 @@ class DoctorCommand : public Command {
     QString successMeaning() const override { return QStringLiteral("a plotter is ready to use"); }
     QList<int> failureStatuses() const override { return {1}; }
     Ports ports() const override { return Ports::none; }
-    ExitStatus::Convention convention() const override { return ExitStatus::Convention::checklist; }
+    OutcomeTable::Convention convention() const override {
+        return OutcomeTable::Convention::checklist;
+    }
 
     std::shared_ptr<Operation> operation(const CommandContext&) const override {
-        return std::make_shared<CheckConnection>(
-            PermissionRule::installed().howTo(), CheckConnection::Places{},
-            CheckConnection::Watch::realTime(Texts::Audience::commandLine));
+        return std::make_shared<CheckConnection>(PermissionRule::installed().howTo(), surveyOf(),
+                                                 CheckConnection::Watch::realTime());
     }
 };
 

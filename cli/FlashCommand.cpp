@@ -1,4 +1,3 @@
-#include "app/Texts.h"
 #include "app/operations/EraseKeepingSettings.h"
 #include "app/operations/FlashFirmware.h"
 #include "cli/Commands.h"
@@ -50,7 +49,6 @@ class FlashCommand : public Command {
         options.writeBootPartitions = full_;
         options.eraseAll = eraseAll_;
         options.developmentImages = context.developmentImages();
-        options.erasedNote = Texts::flashErasedNote(Texts::Audience::commandLine);
         if (!eraseAll_ || discardConfig_) {
             return std::make_shared<FlashFirmware>(context.portPath, context.resources, options);
         }
@@ -58,7 +56,6 @@ class FlashCommand : public Command {
         keeping.flash = options;
         keeping.goOnWhenSilent = true;
         keeping.machine = context.machine;
-        keeping.commandLinePort = context.portName;
         return std::make_shared<EraseKeepingSettings>(context.portPath, context.resources, keeping);
     }
 

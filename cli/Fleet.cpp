@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/OutcomeTable.h"
 #include "app/Texts.h"
-#include "cli/ExitStatus.h"
 #include "cli/Json.h"
 
 QStringList childArguments(const QStringList& arguments, const QString& port) {
@@ -60,7 +60,7 @@ void Fleet::start() {
                 [this, raw](QProcess::ProcessError error) {
                     if (error == QProcess::FailedToStart) {
                         raw->errors = raw->process->errorString().toUtf8();
-                        childEnded(*raw, ExitStatus::crashed, QProcess::CrashExit);
+                        childEnded(*raw, OutcomeTable::crashed, QProcess::CrashExit);
                     }
                 });
         connect(&process, &QProcess::finished, this,
@@ -108,23 +108,25 @@ void Fleet::readOutput(Child& child) {
 void Fleet::childEnded(Child& child, int exitCode, QProcess::ExitStatus status) {
     readOutput(child);
     child.writing = false;
-    child.exitCode = status == QProcess::NormalExit ? exitCode : ExitStatus::crashed;
+    child.exitCode = status == QProcess::NormalExit ? exitCode : OutcomeTable::crashed;
     const QString why = QString::fromUtf8(child.errors).trimmed();
     if (!child.reported) {
         const QString message = why.isEmpty() ? Texts::endedWithoutResult() : why;
         reporter_.report(child.port, event::Result{*child.exitCode,
                                                    Outcome::make(Outcome::Kind::failed, message)});
     } else if (status != QProcess::NormalExit) {
-        reporter_.report(child.port, LogEntry::error(Texts::endedAbnormally(why)));
+        reporter_.report(child.port,
+                         LogEntry::error(why.isEmpty() ? Texts::endedAbnormally()
+                                                       : Texts::endedAbnormallyBecause(why)));
     }
     const bool allEnded = std::all_of(children_.begin(), children_.end(),
                                       [](const auto& c) { return c->exitCode.has_value(); });
     if (!allEnded) {
         return;
     }
-    int firstFailure = ExitStatus::success;
+    int firstFailure = OutcomeTable::success;
     for (const auto& c : children_) {
-        if (*c->exitCode != ExitStatus::success) {
+        if (*c->exitCode != OutcomeTable::success) {
             firstFailure = *c->exitCode;
             break;
         }

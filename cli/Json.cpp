@@ -28,17 +28,23 @@ QJsonObject progressObject(const event::Progress& progress) {
 }
 
 QJsonObject resultObject(const event::Result& result) {
-    QJsonObject object{
-        {"type", "result"}, {"code", result.status}, {"message", result.outcome.message}};
-    if (const auto* startup = result.outcome.startup()) {
+    const Outcome& outcome = result.outcome;
+    QJsonObject object{{"type", "result"},
+                       {"code", result.status},
+                       {"message", outcome.message},
+                       {"kind", kindName(outcome.kind)}};
+    if (outcome.kind == Outcome::Kind::failed) {
+        object.insert(QStringLiteral("library"), static_cast<qint64>(outcome.code));
+    }
+    if (const auto* startup = outcome.startup()) {
         object.insert(QStringLiteral("machine"), verdictName(startup->verdict));
     }
-    if (const auto* repair = std::get_if<RepairCause>(&result.outcome.cause)) {
+    if (const auto* settings = std::get_if<SettingsCause>(&outcome.cause)) {
         const auto orNull = [](const std::optional<QString>& path) {
             return path ? QJsonValue(*path) : QJsonValue(QJsonValue::Null);
         };
-        object.insert(QStringLiteral("restored"), orNull(repair->restored));
-        object.insert(QStringLiteral("backup"), orNull(repair->saved));
+        object.insert(QStringLiteral("restored"), orNull(settings->restored));
+        object.insert(QStringLiteral("backup"), orNull(settings->saved));
     }
     if (!result.outcome.evidence.isEmpty() || result.outcome.isVerdict()) {
         object.insert(QStringLiteral("evidence"),
@@ -71,17 +77,22 @@ LogEntry entryFrom(const QJsonObject& object) {
                               object.value(QStringLiteral("line")).toString());
 }
 
+// The kind, the library's code and the machine's verdict decide how the result
+// reads and what to do next, as they do for the child that sent it.
 event::Result resultFrom(const QJsonObject& object) {
     const int status = object.value(QStringLiteral("code")).toInt();
-    Outcome outcome = Outcome::make(status == 0 ? Outcome::Kind::succeeded : Outcome::Kind::failed,
-                                    object.value(QStringLiteral("message")).toString());
+    const auto kind = kindNamed(object.value(QStringLiteral("kind")).toString());
+    Outcome outcome =
+        Outcome::make(kind.value_or(status == 0 ? Outcome::Kind::succeeded : Outcome::Kind::failed),
+                      object.value(QStringLiteral("message")).toString());
+    outcome.code = static_cast<esp_error_t>(object.value(QStringLiteral("library")).toInteger());
     for (const auto& line : object.value(QStringLiteral("evidence")).toArray()) {
         outcome.evidence << line.toString();
     }
-    // The machine's verdict decides the words of what to do next.
     if (const auto verdict = verdictNamed(object.value(QStringLiteral("machine")).toString())) {
-        outcome.cause =
-            StartupCause{*verdict, std::nullopt, std::nullopt, StartupCause::Written::firmware};
+        StartupCause startup;
+        startup.verdict = *verdict;
+        outcome.cause = startup;
     }
     return {status, outcome};
 }

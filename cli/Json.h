@@ -10,10 +10,12 @@
 /// One compact JSON object for `event`, without a line break: {"type":"log",
 /// "line":…} (with "severity":"error" for an error, whose line is the one the
 /// window shows, "ERROR: " and the message), {"type":"progress","fraction":…,
-/// "stage":…,"bytes":…} or {"type":"result","code":…,"message":…} (with
-/// "evidence":[…] when the outcome has any, and "backups":[…] when it lists
-/// backups, each as `BackupIndex::toJson` gives it), and "port" when `port` is not
-/// empty.
+/// "stage":…,"bytes":…} or {"type":"result","code":…,"message":…,"kind":…} (the
+/// code is the exit status, the kind `kindName`'s; with "library" for a library
+/// failure's result code, "machine" for the machine's start after a write,
+/// "restored" and "backup" for a job that keeps the settings, "evidence":[…] when
+/// the outcome has any, and "backups":[…] when it lists backups, each as
+/// `BackupIndex::toJson` gives it), and "port" when `port` is not empty.
 QByteArray toJsonLine(const QString& port, const Event& event);
 
 /// One compact JSON object for a row of a connection checklist: {"type":"check",

@@ -2,11 +2,15 @@
 
 #include <cmath>
 
+#include "app/OutcomeTable.h"
 #include "app/operations/FlashFirmware.h"
-#include "cli/Wording.h"
 
 LocalRun::LocalRun(const Command& command, CommandContext context, Reporter& reporter, bool verbose)
-    : command_(command), context_(std::move(context)), reporter_(reporter), verbose_(verbose) {
+    : command_(command),
+      context_(std::move(context)),
+      reporter_(reporter),
+      verbose_(verbose),
+      runner_(Texts::Audience::commandLine, context_.portName) {
     connect(&runner_, &OperationRunner::phaseEntered, this, &LocalRun::enter);
     connect(&runner_, &OperationRunner::progressed, this, &LocalRun::progress);
     connect(&runner_, &OperationRunner::logged, this,
@@ -59,7 +63,7 @@ void LocalRun::deliver(const Event& event) {
 
 void LocalRun::conclude(const Outcome& outcome) {
     writing_ = false;
-    const int status = ExitStatus::of(outcome, command_.convention());
-    reporter_.report(context_.portName, event::Result{status, inCommandLineWords(outcome)});
+    const int status = OutcomeTable::exitStatus(outcome, command_.convention());
+    reporter_.report(context_.portName, event::Result{status, outcome});
     emit finished(status);
 }

@@ -1,15 +1,9 @@
 #include "cli/Plotters.h"
 
-#include <algorithm>
-#include <vector>
-
-#include "esp_flasher.h"
+#include "app/DeviceQueries.h"
 
 namespace Plotters {
 namespace {
-
-constexpr unsigned short kVendorId = 0x303A;
-constexpr unsigned short kProductId = 0x1001;
 
 const QString kSimPrefix = QStringLiteral("sim");
 
@@ -23,13 +17,8 @@ QStringList connected(int simulated) {
         }
         return names;
     }
-    // Plotters may come or go between the count and the copy: keep only the
-    // entries the second call filled.
-    std::vector<esp_port_info> ports(esp_list_devices(kVendorId, kProductId, nullptr, 0));
-    ports.resize(std::min(ports.size(),
-                          esp_list_devices(kVendorId, kProductId, ports.data(), ports.size())));
-    for (const esp_port_info& port : ports) {
-        names << QString::fromUtf8(port.path);
+    for (const DeviceQueries::ListedPort& port : DeviceQueries::plotters()) {
+        names << port.path;
     }
     return names;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/texts/FirmwareJobTexts.h"
 #include "image/FirmwareCheck.h"
 
 void ProgressMeter::update(const event::Progress& progress, qint64 elapsedMs) {
@@ -43,9 +44,9 @@ int ProgressMeter::percent() const {
 
 QString ProgressMeter::stage() const {
     if (succeeded_) {
-        return *succeeded_ ? QStringLiteral("Complete") : QStringLiteral("Failed");
+        return *succeeded_ ? Texts::progressComplete() : Texts::progressFailed();
     }
-    return stage_.isEmpty() ? QStringLiteral("Preparing") : stage_;
+    return stage_.isEmpty() ? Texts::progressPreparing() : stage_;
 }
 
 QString ProgressMeter::figures() const {

@@ -48,8 +48,6 @@ class RepairCommand : public Command {
         options.flash.developmentImages = context.developmentImages();
         options.putBack = putBack();
         options.machine = context.machine;
-        options.audience = Texts::Audience::commandLine;
-        options.commandLinePort = context.portName;
         options.developmentConfigsRefused = context.developmentSet && !context.simulated;
         return std::make_shared<Repair>(context.portPath, context.resources, options);
     }

@@ -12,6 +12,7 @@
 #include <system_error>
 
 #include "app/DeviceQueries.h"
+#include "app/OutcomeTable.h"
 #include "app/SimulatedPlotter.h"
 #include "app/Texts.h"
 #include "cli/Fleet.h"
@@ -20,7 +21,6 @@
 #include "cli/LocalRun.h"
 #include "cli/Plotters.h"
 #include "cli/TextReporter.h"
-#include "cli/Wording.h"
 
 namespace {
 
@@ -103,9 +103,9 @@ std::unique_ptr<Single> startSingle(const Command& command, const CommonOptions&
     try {
         return std::make_unique<Single>(command, options, port, connected, reporter);
     } catch (const std::system_error& error) {
-        Outcome outcome = Outcome::library(2);
+        Outcome outcome = Outcome::library(ESP_RESULT_PORT_NOT_OPENED);
         outcome.message = Texts::simulatorNotStarted(QString::fromLocal8Bit(error.what()));
-        reporter.report(port, event::Result{ExitStatus::of(outcome), outcome});
+        reporter.report(port, event::Result{OutcomeTable::exitStatus(outcome), outcome});
         return nullptr;
     }
 }
@@ -118,16 +118,14 @@ void stopOnInterrupts(const Interrupts& interrupts, Reporter& reporter,
     QObject::connect(&interrupts, &Interrupts::pressed, &interrupts, [=, &reporter] {
         if (writing() && !*warned) {
             *warned = true;
-            reporter.notice(
-                QStringLiteral("Writing firmware: stopping now can leave the machine unable to "
-                               "start. Press Ctrl+C again to stop."));
+            reporter.notice(Texts::stopWarning());
             return;
         }
         stopChildren();
         reporter.close();
         std::fflush(nullptr);
         // The job may be blocked inside the library; nothing would join its thread.
-        std::_Exit(ExitStatus::stopped);
+        std::_Exit(OutcomeTable::stopped);
     });
 }
 
@@ -142,9 +140,9 @@ int runSession(const Command& command, const CommonOptions& options, const QStri
     const QStringList ports = chosenPorts(command, options, connected);
     const std::unique_ptr<Reporter> reporter = makeReporter(options, ports.size() > 1);
     if (ports.isEmpty()) {
-        const Outcome none = Outcome::make(Outcome::Kind::noDevice, Texts::errorMessage(1));
-        const int status = ExitStatus::of(none, command.convention());
-        reporter->report(QString(), event::Result{status, inCommandLineWords(none)});
+        const Outcome none = Outcome::make(Outcome::Kind::noDevice, Texts::noDeviceFoundDoctor());
+        const int status = OutcomeTable::exitStatus(none, command.convention());
+        reporter->report(QString(), event::Result{status, none});
         return status;
     }
 
@@ -163,7 +161,7 @@ int runSession(const Command& command, const CommonOptions& options, const QStri
     }
     const auto single = startSingle(command, options, ports.first(), connected, *reporter);
     if (!single) {
-        return ExitStatus::of(Outcome::library(2));
+        return OutcomeTable::exitStatus(Outcome::library(ESP_RESULT_PORT_NOT_OPENED));
     }
     LocalRun& run = single->run();
     QObject::connect(&run, &LocalRun::finished, &loop, &QEventLoop::exit);

@@ -28,7 +28,6 @@ class UploadConfigCommand : public Command {
         // The development set's configurations describe no real machine.
         options.developmentConfigsRefused = context.developmentSet && !context.simulated;
         options.machine = context.machine;
-        options.commandLinePort = context.portName;
         return std::make_shared<UploadConfig>(context.portPath, context.resources, source_.choice(),
                                               options);
     }

@@ -239,10 +239,12 @@ Loader::Result Loader::sync(const Request& r) {
     if (syncRequests_ < d_.config.syncFromAttempt || !isSyncPayload(r.payload, r.size)) {
         return std::nullopt;
     }
-    // The ROM answers one SYNC several times; each reply is its own frame.
+    // The ROM answers one SYNC several times, each reply its own frame right behind
+    // the first, all there before the host turns to its next command. Spaced out,
+    // a late one would answer that command whenever this thread ran late.
     const std::vector<uint8_t> extra = slipFrame(responsePacket(op::kSync, 0, {}, 0, 0, 4));
     for (int i = 1; i < d_.config.syncReplies; ++i) {
-        d_.outbox.send(extra, i * gapMs());
+        d_.outbox.send(extra);
     }
     if (d_.config.syncReplies < 1) {
         return std::nullopt;

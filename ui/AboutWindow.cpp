@@ -4,10 +4,12 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextCursor>
 
+#include "app/texts/WindowTexts.h"
 #include "ui/Colors.h"
 #include "ui/Contrast.h"
 
@@ -51,17 +53,21 @@ AboutWindow::AboutWindow(const QList<ProductConfig>& products, const QString& bu
                          const QPixmap& icon, QWidget* parent)
     : QWidget(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                           Qt::WindowCloseButtonHint),
-      title_(makeLabel(QStringLiteral("Corvane\nTeskal Firmware Updater"), 18, true, this)),
-      version_(makeLabel(QStringLiteral("Firmware v") + BuildConfig::firmwareVersion() +
-                             QStringLiteral(" (build ") + buildDate + QLatin1Char(')'),
-                         12, false, this)),
+      title_(makeLabel(Texts::aboutHeading(), 18, true, this)),
+      version_(makeLabel(Texts::firmwareVersionLabel(BuildConfig::firmwareVersion(), buildDate), 12,
+                         false, this)),
+      programVersion_(
+          makeLabel(Texts::programVersionLabel(BuildConfig::programVersion()), 12, false, this)),
       information_(new QTextBrowser(this)),
-      footer_(makeLabel(QStringLiteral("© 2026 Corvane. All rights reserved."), 10, false, this)) {
-    setWindowTitle(QStringLiteral("About Teskal Firmware Updater"));
+      close_(new QPushButton(Texts::closeButton(), this)),
+      footer_(makeLabel(Texts::copyright(), 10, false, this)) {
+    setWindowTitle(Texts::aboutItem());
     setFixedSize(kWidth, kHeight);
     placeContent(icon);
     fillInformation(products);
     recolour();
+    close_->setDefault(true);
+    connect(close_, &QPushButton::clicked, this, &QWidget::close);
 }
 
 QString AboutWindow::firmwareSourceUrl() {
@@ -83,8 +89,12 @@ void AboutWindow::placeContent(const QPixmap& icon) {
     }
     title_->setGeometry(fromBottomLeft(20, top - 44, 380, 48));
     version_->setGeometry(fromBottomLeft(20, top - 72, 380, 18));
-    information_->setGeometry(fromBottomLeft(30, 50, 360, top - 146));
-    footer_->setGeometry(fromBottomLeft(20, 16, 380, 18));
+    // The program's version under the firmware's, taking its line from the
+    // information text; the Close button beside the footer.
+    programVersion_->setGeometry(fromBottomLeft(20, top - 92, 380, 18));
+    information_->setGeometry(fromBottomLeft(30, 50, 360, top - 166));
+    close_->setGeometry(fromBottomLeft(kWidth - 100, 12, 80, 28));
+    footer_->setGeometry(fromBottomLeft(20, 16, kWidth - 130, 18));
 }
 
 void AboutWindow::fillInformation(const QList<ProductConfig>& products) {
@@ -117,15 +127,16 @@ void AboutWindow::fillInformation(const QList<ProductConfig>& products) {
         link.setAnchorHref(address);
         cursor.insertText(address, link);
     };
-    cursor.insertText(QStringLiteral("Supported products:\n") + names.join(QLatin1Char('\n')) +
-                          QStringLiteral("\n\n"),
+    const QString source = QStringLiteral("  ") + Texts::source() + QLatin1Char(' ');
+    cursor.insertText(Texts::supportedProducts() + QLatin1Char('\n') +
+                          names.join(QLatin1Char('\n')) + QStringLiteral("\n\n"),
                       body);
-    cursor.insertText(QStringLiteral("Licenses:\n"), body);
-    cursor.insertText(QStringLiteral("  Firmware: GPL v3 (based on FluidNC)\n"), body);
-    cursor.insertText(QStringLiteral("  Source: "), body);
+    cursor.insertText(Texts::licenses() + QLatin1Char('\n'), body);
+    cursor.insertText(QStringLiteral("  ") + Texts::firmwareLicense() + QLatin1Char('\n'), body);
+    cursor.insertText(source, body);
     addLink(firmwareSourceUrl());
-    cursor.insertText(QStringLiteral("\n\n  Flash stub: Apache License 2.0\n"), body);
-    cursor.insertText(QStringLiteral("  Source: "), body);
+    cursor.insertText(QStringLiteral("\n\n  ") + Texts::stubLicense() + QLatin1Char('\n'), body);
+    cursor.insertText(source, body);
     addLink(stubSourceUrl());
     cursor.insertText(QStringLiteral("\n"), body);
     information_->moveCursor(QTextCursor::Start);
@@ -135,7 +146,9 @@ void AboutWindow::fillInformation(const QList<ProductConfig>& products) {
 // stands on the window, not on a text field.
 void AboutWindow::recolour() {
     const QPalette& colours = palette();
-    Palettes::setColour(version_, QPalette::WindowText, labelTint(colours, 0.5));
+    for (QLabel* label : {version_, programVersion_}) {
+        Palettes::setColour(label, QPalette::WindowText, labelTint(colours, 0.5));
+    }
     Palettes::setColour(footer_, QPalette::WindowText, labelTint(colours, 0.26));
     Palettes::setColour(information_, QPalette::Text, colours.color(QPalette::WindowText));
     QList<std::pair<int, int>> links;

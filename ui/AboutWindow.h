@@ -9,11 +9,14 @@
 #include "app/BuildConfig.h"
 
 class QLabel;
+class QPushButton;
 class QTextBrowser;
 
-/// The About window, 420 x 520, not resizable, with a title and a close button only.
-/// Its content is built once by the constructor; its colours follow the palette,
-/// light or dark. Closing it only hides it. GUI thread only.
+/// The About window, 420 x 520, not resizable, with a title and a close button only:
+/// the program's name, the bundled firmware's version, the program's own version,
+/// the products and licences, and a Close button (Escape closes it too). Its content
+/// is built once by the constructor; its colours follow the palette, light or dark.
+/// Closing it only hides it. GUI thread only.
 class AboutWindow : public QWidget {
     Q_OBJECT
 
@@ -31,7 +34,9 @@ class AboutWindow : public QWidget {
     QLabel* iconLabel() const { return icon_; }
     QLabel* titleLabel() const { return title_; }
     QLabel* versionLabel() const { return version_; }
+    QLabel* programVersionLabel() const { return programVersion_; }
     QTextBrowser* information() const { return information_; }
+    QPushButton* closeButton() const { return close_; }
     QLabel* footerLabel() const { return footer_; }
 
   protected:
@@ -45,7 +50,9 @@ class AboutWindow : public QWidget {
     QLabel* icon_ = nullptr;
     QLabel* title_;
     QLabel* version_;
+    QLabel* programVersion_;
     QTextBrowser* information_;
+    QPushButton* close_;
     QLabel* footer_;
 };
 

@@ -15,6 +15,7 @@
 #include "app/SleepInhibitor.h"
 #include "app/Texts.h"
 #include "app/UpdateController.h"
+#include "app/operations/QueryVersion.h"
 #include "app/operations/SaveMachineConfig.h"
 #include "ui/AboutWindow.h"
 #include "ui/CompareWindow.h"
@@ -50,6 +51,11 @@ AppDelegate::AppDelegate(std::unique_ptr<UpdateController> controller, Options o
     : options_(std::move(options)),
       updateController_(std::move(controller)),
       sleepInhibitor_(new SleepInhibitor(QDBusConnection::systemBus(), this)) {
+    connect(&firmwareProbe_, &OperationRunner::finished, this, [this](const Outcome& outcome) {
+        if (repairDialog_) {
+            repairDialog_->showFirmwareAnswers(outcome.kind == Outcome::Kind::succeeded);
+        }
+    });
     connect(updateController_.get(), &UpdateController::jobRunningChanged, sleepInhibitor_,
             &SleepInhibitor::setHeld);
     connect(updateController_.get(), &UpdateController::machineConfigCompared, this,
@@ -73,13 +79,13 @@ void AppDelegate::applicationDidFinishLaunching() {
     QApplication::setQuitOnLastWindowClosed(true);
     window_ = std::make_unique<QMainWindow>(
         nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                     Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint);
-    window_->setWindowTitle(QStringLiteral("Teskal Firmware Updater"));
+                     Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint |
+                     Qt::WindowMaximizeButtonHint);
+    window_->setWindowTitle(Texts::programName());
     auto* view = new UpdaterView(*updateController_);
     connect(view, &UpdaterView::connectionCheckRequested, this, &AppDelegate::showConnectionCheck);
     connect(view, &UpdaterView::repairRequested, this, &AppDelegate::showRepair);
     window_->setCentralWidget(view);
-    window_->layout()->setSizeConstraint(QLayout::SetFixedSize);
     updateController_->setSettingsQuestions(settingsQuestionsAsked(window_.get()));
     quitGuard_ = new QuitGuard(
         window_.get(), [controller = updateController_.get()] { return controller->jobRunning(); },
@@ -117,9 +123,8 @@ void AppDelegate::showAbout() {
 }
 
 void AppDelegate::openFirmwareFile() {
-    const auto path = options_.chooseFile(
-        window_.get(),
-        {QStringLiteral("Select a firmware binary (.bin)"), {QStringLiteral("bin")}});
+    const auto path =
+        options_.chooseFile(window_.get(), {Texts::selectFirmware(), {QStringLiteral("bin")}});
     if (path) {
         updateController_->chooseCustomFirmware(path);
     }
@@ -133,8 +138,8 @@ void AppDelegate::useBundledFirmware() {
 void AppDelegate::saveLog() {
     const QDateTime now = QDateTime::currentDateTime();
     const auto path = options_.chooseSaveFile(
-        window_.get(), {QStringLiteral("Save Log"), LogExport::defaultFileName(now),
-                        QStringLiteral("Text files (*.txt)")});
+        window_.get(),
+        {Texts::saveLogTitle(), LogExport::defaultFileName(now), Texts::textFiles()});
     if (path) {
         updateController_->saveLog(*path);
     }
@@ -178,9 +183,9 @@ void AppDelegate::uploadConfigFromDisk() {
 
 void AppDelegate::saveMachineConfig() {
     const auto path = options_.chooseSaveFile(
-        window_.get(), {QStringLiteral("Save Machine Config"),
-                        SaveMachineConfig::defaultFileName(QDateTime::currentDateTime()),
-                        QStringLiteral("YAML files (*.yaml *.yml)")});
+        window_.get(),
+        {Texts::saveMachineConfigTitle(),
+         SaveMachineConfig::defaultFileName(QDateTime::currentDateTime()), Texts::yamlFiles()});
     if (path) {
         updateController_->saveMachineConfig(*path);
     }
@@ -226,8 +231,8 @@ void AppDelegate::showComparison(const ConfigComparison& comparison, const Confi
 
 void AppDelegate::showConnectionCheck() {
     if (!connectionCheckWindow_ || !connectionCheckWindow_->isVisible()) {
-        connectionCheckWindow_ = std::make_unique<ConnectionCheckWindow>(
-            options_.devicePlaces, PermissionRule::installed());
+        connectionCheckWindow_ =
+            std::make_unique<ConnectionCheckWindow>(options_.survey, PermissionRule::installed());
         ConnectionHint* hint = updateController_->connectionHint();
         connect(hint, &ConnectionHint::keepsRestartingChanged, connectionCheckWindow_.get(),
                 &ConnectionCheckWindow::showRestarting);
@@ -252,6 +257,13 @@ void AppDelegate::showRepair() {
     connect(repairDialog_.get(), &RepairDialog::repairRequested, updateController_.get(),
             &UpdateController::repairMachine);
     repairDialog_->open();
+    // While a job runs it holds the port, and the repair cannot start anyway. A probe
+    // still running from an earlier dialog answers this one.
+    if (!port || updateController_->jobRunning()) {
+        repairDialog_->showFirmwareAnswers(false);
+    } else {
+        firmwareProbe_.start(std::make_shared<QueryVersion>(*port));
+    }
 }
 
 std::optional<ProductConfig> AppDelegate::productOf(const QAction* item) const {
@@ -264,7 +276,6 @@ std::optional<ProductConfig> AppDelegate::productOf(const QAction* item) const {
 }
 
 std::optional<QString> AppDelegate::chooseConfigFile() {
-    return options_.chooseFile(window_.get(),
-                               {QStringLiteral("Select a configuration file (.yaml)"),
-                                {QStringLiteral("yaml"), QStringLiteral("yml")}});
+    return options_.chooseFile(window_.get(), {Texts::selectConfiguration(),
+                                               {QStringLiteral("yaml"), QStringLiteral("yml")}});
 }

@@ -10,6 +10,7 @@
 #include "app/DesktopNotifier.h"
 #include "app/Outcome.h"
 #include "app/operations/CheckConnection.h"
+#include "app/operations/OperationRunner.h"
 #include "ui/FileChooser.h"
 #include "ui/QuitGuard.h"
 #include "ui/SaveChooser.h"
@@ -52,8 +53,9 @@ class AppDelegate : public QObject {
             [](const QString& title, const QString& body) {
                 DesktopNotifier().notify(title, body);
             };
-        /// Where the Connection Check looks for the plotter.
-        CheckConnection::Places devicePlaces = {};
+        /// What the Connection Check sees attached over USB; the simulated-plotter
+        /// program shows its plotter there.
+        UsbSurvey survey = surveyOf();
     };
 
     /// Owns a controller on the resources beside the executable and the real
@@ -110,7 +112,9 @@ class AppDelegate : public QObject {
     /// Shows the Connection Check, a new one unless it is open already.
     void showConnectionCheck();
     /// Opens the Repair Machine dialog on the backups folder as it is now, in place
-    /// of an earlier one; its "Repair" starts the controller's repair.
+    /// of an earlier one, and asks the machine's firmware whether it answers, which
+    /// decides what goes back (see `RepairDialog::showFirmwareAnswers`); its
+    /// "Repair" starts the controller's repair.
     void showRepair();
 
   private:
@@ -120,6 +124,7 @@ class AppDelegate : public QObject {
     QMenu* addFileMenu();
     QMenu* addOptionsMenu();
     QMenu* addConfigMenu();
+    QMenu* addHelpMenu();
     void addProductItems(QMenu* menu, void (AppDelegate::*action)(QAction*));
     std::optional<ProductConfig> productOf(const QAction* item) const;
     std::optional<QString> chooseConfigFile();
@@ -137,4 +142,6 @@ class AppDelegate : public QObject {
     EscapeCloser* escapeCloser_ = nullptr;
     QuitGuard* quitGuard_ = nullptr;
     SleepInhibitor* sleepInhibitor_;
+    /// Asks the firmware whether it answers while the Repair dialog is open.
+    OperationRunner firmwareProbe_;
 };

@@ -28,48 +28,47 @@ void AppDelegate::setupMenus() {
     addFileMenu();
     addOptionsMenu();
     addConfigMenu();
+    addHelpMenu();
 }
 
 QMenu* AppDelegate::addApplicationMenu() {
     // macOS moves the two items into its application menu by their roles; elsewhere
     // this menu stands in for it.
-    QMenu* menu = window_->menuBar()->addMenu(QStringLiteral("Teskal Firmware Updater"));
-    QAction* about = menu->addAction(QStringLiteral("About Teskal Firmware Updater"), this,
-                                     &AppDelegate::showAbout);
+    QMenu* menu = window_->menuBar()->addMenu(Texts::programName());
+    QAction* about = menu->addAction(Texts::aboutItem(), this, &AppDelegate::showAbout);
     about->setMenuRole(QAction::AboutRole);
     menu->addSeparator();
-    QAction* quit = menu->addAction(QStringLiteral("Quit"), quitGuard_, &QuitGuard::requestQuit);
+    QAction* quit = menu->addAction(Texts::quitItem(), quitGuard_, &QuitGuard::requestQuit);
     quit->setMenuRole(QAction::QuitRole);
     setKey(quit, QKeySequence(Qt::CTRL | Qt::Key_Q));
     return menu;
 }
 
 QMenu* AppDelegate::addFileMenu() {
-    QMenu* menu = window_->menuBar()->addMenu(QStringLiteral("File"));
-    QAction* open = menu->addAction(QStringLiteral("Open Firmware File\u2026"), this,
-                                    &AppDelegate::openFirmwareFile);
+    QMenu* menu = window_->menuBar()->addMenu(Texts::fileMenu());
+    QAction* open =
+        menu->addAction(Texts::openFirmwareItem(), this, &AppDelegate::openFirmwareFile);
     setKey(open, QKeySequence(Qt::CTRL | Qt::Key_O));
-    menu->addAction(QStringLiteral("Use Bundled Firmware"), this, &AppDelegate::useBundledFirmware);
+    menu->addAction(Texts::useBundledItem(), this, &AppDelegate::useBundledFirmware);
     menu->addSeparator();
-    QAction* save = menu->addAction(QStringLiteral("Save Log\u2026"), this, &AppDelegate::saveLog);
+    QAction* save = menu->addAction(Texts::saveLogItem(), this, &AppDelegate::saveLog);
     setKey(save, QKeySequence(Qt::CTRL | Qt::Key_S));
     qobject_cast<UpdaterView*>(window_->centralWidget())->logPanel()->addAction(save);
     return menu;
 }
 
 QMenu* AppDelegate::addOptionsMenu() {
-    QMenu* menu = window_->menuBar()->addMenu(QStringLiteral("Options"));
-    addToggle(menu, QStringLiteral("Detailed Logging"), updateController_->detailedLogging(),
+    QMenu* menu = window_->menuBar()->addMenu(Texts::optionsMenu());
+    addToggle(menu, Texts::detailedLoggingItem(), updateController_->detailedLogging(),
               &AppDelegate::toggleDetailedLogging);
     menu->addSeparator();
-    addToggle(menu, QStringLiteral("Write Boot Partitions"),
+    addToggle(menu, Texts::writeBootPartitionsItem(),
               updateController_->writeBootPartitionsEnabled(),
               &AppDelegate::toggleWriteBootPartitions);
-    addToggle(menu, QStringLiteral("Erase All Flash"), updateController_->eraseAllFlashEnabled(),
+    addToggle(menu, Texts::eraseAllFlashItem(), updateController_->eraseAllFlashEnabled(),
               &AppDelegate::toggleEraseAllFlash);
     menu->addSeparator();
-    addToggle(menu, QStringLiteral("Back Up Machine Config Before Upload"),
-              updateController_->backupBeforeUploadEnabled(),
+    addToggle(menu, Texts::backUpBeforeUploadItem(), updateController_->backupBeforeUploadEnabled(),
               &AppDelegate::toggleBackupBeforeUpload);
     return menu;
 }
@@ -84,29 +83,36 @@ QAction* AppDelegate::addToggle(QMenu* menu, const QString& title, bool checked,
 }
 
 QMenu* AppDelegate::addConfigMenu() {
-    QMenu* menu = window_->menuBar()->addMenu(QStringLiteral("Config"));
+    QMenu* menu = window_->menuBar()->addMenu(Texts::configMenu());
     if (options_.products.isEmpty()) {
-        menu->addAction(QStringLiteral("No products configured"))->setEnabled(false);
+        menu->addAction(Texts::noProductsItem())->setEnabled(false);
     } else {
-        addProductItems(menu->addMenu(QStringLiteral("Update Config")),
-                        &AppDelegate::uploadConfigAction);
+        addProductItems(menu->addMenu(Texts::updateConfigItem()), &AppDelegate::uploadConfigAction);
     }
     menu->addSeparator();
-    menu->addAction(QStringLiteral("Select from Disk..."), this,
-                    &AppDelegate::uploadConfigFromDisk);
+    menu->addAction(Texts::selectFromDiskItem(), this, &AppDelegate::uploadConfigFromDisk);
     menu->addSeparator();
-    menu->addAction(QStringLiteral("Save Machine Config\u2026"), this,
-                    &AppDelegate::saveMachineConfig);
-    QMenu* compare = menu->addMenu(QStringLiteral("Compare With Machine\u2026"));
+    menu->addAction(Texts::saveMachineConfigItem(), this, &AppDelegate::saveMachineConfig);
+    QMenu* compare = menu->addMenu(Texts::compareWithMachineItem());
     addProductItems(compare, &AppDelegate::compareWithProduct);
     if (!options_.products.isEmpty()) {
         compare->addSeparator();
     }
-    compare->addAction(QStringLiteral("Choose File\u2026"), this, &AppDelegate::compareWithFile);
-    menu->addAction(QStringLiteral("Restore Machine Config\u2026"), this,
-                    &AppDelegate::restoreMachineConfig);
+    compare->addAction(Texts::chooseFileItem(), this, &AppDelegate::compareWithFile);
+    menu->addAction(Texts::restoreMachineConfigItem(), this, &AppDelegate::restoreMachineConfig);
     menu->addSeparator();
     menu->addAction(Texts::repairMenuItem(), this, &AppDelegate::showRepair);
+    return menu;
+}
+
+// Where a desktop owner looks when the plotter is not found, beside About. The
+// application menu keeps the About item that carries its role for a macOS build.
+QMenu* AppDelegate::addHelpMenu() {
+    QMenu* menu = window_->menuBar()->addMenu(Texts::helpMenu());
+    menu->addAction(Texts::connectionCheckItem(), this, &AppDelegate::showConnectionCheck);
+    menu->addSeparator();
+    menu->addAction(Texts::aboutItem(), this, &AppDelegate::showAbout)
+        ->setMenuRole(QAction::NoRole);
     return menu;
 }
 

@@ -7,6 +7,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "app/texts/WindowTexts.h"
 #include "ui/Fonts.h"
 #include "ui/Layouts.h"
 
@@ -26,14 +27,13 @@ QString keyText(const ConfigComparison& comparison) {
         return comparison.errors.join(QLatin1Char('\n'));
     }
     if (comparison.keyDifferences.isEmpty()) {
-        return QStringLiteral("No key differs.");
+        return Texts::noKeyDiffers();
     }
     return comparison.keyDifferences.join(QLatin1Char('\n'));
 }
 
 QString lineText(const ConfigComparison& comparison) {
-    return comparison.lineDiff.isEmpty() ? QStringLiteral("The files are the same line by line.")
-                                         : comparison.lineDiff;
+    return comparison.lineDiff.isEmpty() ? Texts::sameLineByLine() : comparison.lineDiff;
 }
 
 }  // namespace
@@ -46,9 +46,9 @@ CompareWindow::CompareWindow(const ConfigComparison& comparison, const QString& 
       tabs_(new QTabWidget(this)),
       keys_(makeTextView(keyText(comparison), this)),
       lines_(makeTextView(lineText(comparison), this)),
-      upload_(new QPushButton(QStringLiteral("Upload This Configuration"), this)),
-      close_(new QPushButton(QStringLiteral("Close"), this)) {
-    setWindowTitle(QStringLiteral("Compare With Machine \u2014 ") + chosenLabel);
+      upload_(new QPushButton(Texts::uploadThisConfiguration(), this)),
+      close_(new QPushButton(Texts::closeButton(), this)) {
+    setWindowTitle(Texts::compareTitle(chosenLabel));
     resize(560, 440);
     setMinimumSize(480, 320);
     buildLayout();
@@ -63,24 +63,11 @@ CompareWindow::CompareWindow(const ConfigComparison& comparison, const QString& 
 
 QString CompareWindow::summary(const ConfigComparison& comparison, const QString& chosenLabel) {
     if (!comparison.errors.isEmpty()) {
-        return QStringLiteral(
-            "The two configurations could not be compared by key; "
-            "\"By Line\" shows how their texts differ.");
+        return Texts::notComparableByKey();
     }
     const qsizetype count = comparison.keyDifferences.size();
-    if (count == 0) {
-        return QStringLiteral(
-                   "The machine's config matches %1 by key: an upload would change "
-                   "no setting.")
-            .arg(chosenLabel);
-    }
-    return QStringLiteral(
-               "%1 %2 between the machine's config and %3. Each line shows the "
-               "machine's value \u2192 the new one; + marks a key only in %3, - a "
-               "key only on the machine.")
-        .arg(count)
-        .arg(count == 1 ? QStringLiteral("setting differs") : QStringLiteral("settings differ"))
-        .arg(chosenLabel);
+    return count == 0 ? Texts::matchesByKey(chosenLabel)
+                      : Texts::settingsDiffer(count, chosenLabel);
 }
 
 void CompareWindow::buildLayout() {
@@ -88,8 +75,8 @@ void CompareWindow::buildLayout() {
     Layouts::addSummary(column, summary_);
 
     tabs_->setFont(Fonts::system(12));
-    tabs_->addTab(keys_, QStringLiteral("By Key"));
-    tabs_->addTab(lines_, QStringLiteral("By Line"));
+    tabs_->addTab(keys_, Texts::byKeyTab());
+    tabs_->addTab(lines_, Texts::byLineTab());
     column->addWidget(tabs_, 1);
 
     auto* buttons = new QHBoxLayout;

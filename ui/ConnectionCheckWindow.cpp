@@ -65,18 +65,18 @@ bool ConnectionCheckWindow::launchDetached(const QString& program, const QString
     return QProcess::startDetached(program, arguments);
 }
 
-ConnectionCheckWindow::ConnectionCheckWindow(CheckConnection::Places places, PermissionRule rule,
-                                             Launcher launch, QWidget* parent)
+ConnectionCheckWindow::ConnectionCheckWindow(UsbSurvey survey, PermissionRule rule, Launcher launch,
+                                             QWidget* parent)
     : QWidget(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                           Qt::WindowCloseButtonHint),
-      checks_(Texts::ruleBelow(), std::move(places)),
+      checks_(Texts::ruleBelow(), std::move(survey)),
       rule_(std::move(rule)),
       launch_(std::move(launch)),
       intro_(makeLabel(Texts::connectionCheckIntro(), 12, QColor(), this)),
       rows_(new QWidget(this)),
       notice_(makeLabel(QString(), 12, QColor(), this)),
       installRule_(new QPushButton(Texts::installRule(), this)),
-      close_(new QPushButton(QStringLiteral("Close"), this)) {
+      close_(new QPushButton(Texts::closeButton(), this)) {
     setWindowTitle(Texts::connectionCheck());
     setFixedWidth(kWidth);
     buildLayout();

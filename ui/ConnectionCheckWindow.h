@@ -32,10 +32,9 @@ class ConnectionCheckWindow : public QWidget {
     static constexpr int kCheckIntervalMs = 1000;
     static constexpr int kCloseDelayMs = 1500;
 
-    /// Checks the devices described under `places`; `launch` starts the rule's
-    /// installer.
-    ConnectionCheckWindow(CheckConnection::Places places, PermissionRule rule,
-                          Launcher launch = launchDetached, QWidget* parent = nullptr);
+    /// Checks the devices `survey` lists; `launch` starts the rule's installer.
+    ConnectionCheckWindow(UsbSurvey survey, PermissionRule rule, Launcher launch = launchDetached,
+                          QWidget* parent = nullptr);
 
     /// Runs the checks once and shows what they found.
     void refresh();

@@ -8,23 +8,22 @@
 
 namespace {
 
-const QString kTitle = QStringLiteral("Teskal Firmware Updater");
-
 std::unique_ptr<QMessageBox> question(QWidget* parent, QMessageBox::Icon icon, const QString& text,
                                       const QString& informative) {
-    auto box = std::make_unique<QMessageBox>(icon, kTitle, text, QMessageBox::NoButton, parent);
+    auto box = std::make_unique<QMessageBox>(icon, Texts::programName(), text,
+                                             QMessageBox::NoButton, parent);
     box->setInformativeText(informative);
     return box;
 }
 
 QPushButton* addCancel(QMessageBox& box) {
-    QPushButton* cancel = box.addButton(QStringLiteral("Cancel"), QMessageBox::RejectRole);
+    QPushButton* cancel = box.addButton(Texts::cancelButton(), QMessageBox::RejectRole);
     box.setEscapeButton(cancel);
     return cancel;
 }
 
 QPushButton* addEraseWithoutSaving(QMessageBox& box) {
-    return box.addButton(QStringLiteral("Erase Without Saving"), QMessageBox::DestructiveRole);
+    return box.addButton(Texts::eraseWithoutSavingButton(), QMessageBox::DestructiveRole);
 }
 
 QMessageBox::ButtonRole answerOf(QMessageBox& box) {
@@ -36,8 +35,7 @@ QMessageBox::ButtonRole answerOf(QMessageBox& box) {
 
 std::unique_ptr<QMessageBox> eraseQuestion(QWidget* parent) {
     auto box = question(parent, QMessageBox::Question, Texts::eraseQuestion(), QString());
-    box->setDefaultButton(
-        box->addButton(QStringLiteral("Save and Restore"), QMessageBox::AcceptRole));
+    box->setDefaultButton(box->addButton(Texts::saveAndRestoreButton(), QMessageBox::AcceptRole));
     addEraseWithoutSaving(*box);
     addCancel(*box);
     return box;
@@ -53,7 +51,7 @@ std::unique_ptr<QMessageBox> eraseAnywayQuestion(QWidget* parent) {
 
 std::unique_ptr<QMessageBox> retryQuestion(QWidget* parent, const QString& reason) {
     auto box = question(parent, QMessageBox::Warning, reason, Texts::retryQuestion());
-    box->setDefaultButton(box->addButton(QStringLiteral("Retry"), QMessageBox::AcceptRole));
+    box->setDefaultButton(box->addButton(Texts::retryButton(), QMessageBox::AcceptRole));
     addEraseWithoutSaving(*box);
     addCancel(*box);
     return box;

@@ -4,6 +4,8 @@
 #include <QMessageBox>
 #include <algorithm>
 
+#include "app/texts/WindowTexts.h"
+
 ExtensionFileDialog::ExtensionFileDialog(QWidget* parent, const FileRequest& request)
     : QFileDialog(parent, request.message), extensions_(request.extensions) {
     setOption(QFileDialog::DontUseNativeDialog);
@@ -22,9 +24,8 @@ QString ExtensionFileDialog::refusal() const {
         names.append(QLatin1Char('.') + extension);
     }
     const QString last = names.takeLast();
-    const QString listed =
-        names.isEmpty() ? last : names.join(QStringLiteral(", ")) + QStringLiteral(" or ") + last;
-    return QStringLiteral("Choose a ") + listed + QStringLiteral(" file.");
+    return names.isEmpty() ? Texts::chooseFileOf(last)
+                           : Texts::chooseFileOfEither(names.join(QStringLiteral(", ")), last);
 }
 
 void ExtensionFileDialog::accept() {

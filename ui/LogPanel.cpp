@@ -8,6 +8,7 @@
 #include <QToolButton>
 
 #include "app/texts/AccessibilityTexts.h"
+#include "app/texts/WindowTexts.h"
 #include "ui/Colors.h"
 #include "ui/Fonts.h"
 #include "ui/LogView.h"
@@ -15,6 +16,8 @@
 namespace {
 
 constexpr int kPadding = 8;
+// However tall a result banner grows, the log keeps this many lines in view.
+constexpr int kMinimumLines = 8;
 constexpr int kCopyRoom = 24;
 constexpr int kCornerRadius = 6;
 constexpr int kButtonPadding = 6;
@@ -46,13 +49,14 @@ LogPanel::LogPanel(QWidget* parent)
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(kPadding, kPadding, kPadding + kCopyRoom, kPadding);
     layout->addWidget(view_);
+    setMinimumHeight(kMinimumLines * view_->lineHeight() + 2 * view_->frameWidth() + 2 * kPadding);
 
     const int iconSize = QFontMetrics(Fonts::system(12)).height();
     copyButton_->setAutoRaise(true);
     copyButton_->setIconSize(QSize(iconSize, iconSize));
     drawCopyIcon();
     copyButton_->setFixedSize(iconSize + 2 * kButtonPadding, iconSize + 2 * kButtonPadding);
-    copyButton_->setToolTip(QStringLiteral("Copy log to clipboard"));
+    copyButton_->setToolTip(Texts::copyLogTooltip());
     copyButton_->setAccessibleName(Texts::copyLog());
     copyButton_->setCursor(Qt::PointingHandCursor);
     copyButton_->hide();
@@ -60,7 +64,7 @@ LogPanel::LogPanel(QWidget* parent)
 
     view_->installEventFilter(this);
     setContextMenuPolicy(Qt::ActionsContextMenu);
-    addAction(QStringLiteral("Copy"), this, &LogPanel::copyToClipboard);
+    addAction(Texts::copyItem(), this, &LogPanel::copyToClipboard);
 }
 
 void LogPanel::setEntries(const LogEntries& entries) {

@@ -70,6 +70,10 @@ QFont LogView::fontFor(const LogEntry& entry) const {
     return entry.isError() ? bold_ : regular_;
 }
 
+int LogView::lineHeight() const {
+    return std::max(regularHeight_, boldHeight_) + spacing_;
+}
+
 void LogView::setEntries(const LogEntries& entries) {
     const qsizetype shown = entries_.size();
     const bool extends =

@@ -37,6 +37,9 @@ class LogView : public QAbstractScrollArea {
     /// The font `entry` is drawn with: bold for an error.
     QFont fontFor(const LogEntry& entry) const;
 
+    /// Pixels one unwrapped line takes, with the space below it.
+    int lineHeight() const;
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

@@ -6,15 +6,14 @@
 #include <QPushButton>
 #include <cstdlib>
 
+#include "app/texts/WindowTexts.h"
+
 std::unique_ptr<QMessageBox> quitDuringJobQuestion(QWidget* parent) {
-    auto question = std::make_unique<QMessageBox>(
-        QMessageBox::Warning, QStringLiteral("Teskal Firmware Updater"),
-        QStringLiteral("An update is running. Quitting now can leave the machine unable to "
-                       "start. Quit anyway?"),
-        QMessageBox::NoButton, parent);
-    QPushButton* keep =
-        question->addButton(QStringLiteral("Keep Running"), QMessageBox::RejectRole);
-    question->addButton(QStringLiteral("Quit Anyway"), QMessageBox::DestructiveRole);
+    auto question = std::make_unique<QMessageBox>(QMessageBox::Warning, Texts::programName(),
+                                                  Texts::quitDuringJobQuestion(),
+                                                  QMessageBox::NoButton, parent);
+    QPushButton* keep = question->addButton(Texts::keepRunningButton(), QMessageBox::RejectRole);
+    question->addButton(Texts::quitAnywayButton(), QMessageBox::DestructiveRole);
     question->setDefaultButton(keep);
     question->setEscapeButton(keep);
     return question;

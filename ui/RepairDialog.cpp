@@ -14,6 +14,7 @@
 namespace {
 
 using Kind = Repair::PutBack::Kind;
+constexpr auto kWindow = Texts::Audience::window;
 
 }  // namespace
 
@@ -22,16 +23,17 @@ RepairDialog::RepairDialog(const QList<Backup>& backups, const QString& machine,
                            QWidget* parent)
     : QDialog(parent),
       firmware_(firmware),
+      machine_(machine),
       sentence_(new QLabel(this)),
       choices_(new QComboBox(this)),
-      repair_(new QPushButton(QStringLiteral("Repair"), this)),
-      cancel_(new QPushButton(QStringLiteral("Cancel"), this)) {
-    setWindowTitle(QStringLiteral("Repair Machine"));
+      repair_(new QPushButton(Texts::repairConfirmButton(), this)),
+      cancel_(new QPushButton(Texts::cancelButton(), this)) {
+    setWindowTitle(Texts::repairTitle());
     setWindowModality(Qt::WindowModal);
     setMinimumWidth(440);
     QVBoxLayout* column = Layouts::windowColumn(this, 12);
     Layouts::addSummary(column, sentence_);
-    auto* label = new QLabel(QStringLiteral("Put back:"), this);
+    auto* label = new QLabel(Texts::putBackLabel(), this);
     label->setFont(Fonts::system(12));
     auto* row = new QHBoxLayout;
     row->addWidget(label);
@@ -47,7 +49,7 @@ RepairDialog::RepairDialog(const QList<Backup>& backups, const QString& machine,
     column->addLayout(buttons);
     repair_->setDefault(true);
 
-    fill(backups, machine, products);
+    fill(backups, products);
     connect(choices_, &QComboBox::currentIndexChanged, this, &RepairDialog::follow);
     connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
     connect(repair_, &QPushButton::clicked, this, [this] {
@@ -59,41 +61,73 @@ RepairDialog::RepairDialog(const QList<Backup>& backups, const QString& machine,
     follow();
 }
 
-void RepairDialog::fill(const QList<Backup>& backups, const QString& machine,
-                        const QList<ProductConfig>& products) {
-    const auto add = [this](const QString& text, std::optional<Repair::PutBack> putBack,
-                            std::optional<QString> phrase) {
-        choices_->addItem(text);
-        putBacks_ << std::move(putBack);
-        phrases_ << std::move(phrase);
-    };
-    const QList<Backup> ordered = RestoreWindow::ordered(backups, machine);
-    const bool ownNewest = !ordered.isEmpty() && ordered.front().machine == machine;
+void RepairDialog::add(const QString& text, std::optional<Repair::PutBack> putBack,
+                       std::optional<QString> phrase) {
+    choices_->addItem(text);
+    putBacks_ << std::move(putBack);
+    phrases_ << std::move(phrase);
+}
+
+// The first choice stands for this machine's own settings; `showFirmwareAnswers`
+// names it once it is known which copy the repair will put back.
+void RepairDialog::fill(const QList<Backup>& backups, const QList<ProductConfig>& products) {
+    const QList<Backup> ordered = RestoreWindow::ordered(backups, machine_);
+    const bool ownNewest = !ordered.isEmpty() && ordered.front().machine == machine_;
     if (ownNewest) {
-        add(QStringLiteral("Newest backup of this machine (%1)")
-                .arg(Texts::backupTime(ordered.front().time)),
-            Repair::PutBack{Kind::newestBackup, {}, {}}, Texts::settingsOf(ordered.front().time));
-    } else {
-        add(QStringLiteral("Choose what goes back\u2026"), std::nullopt, std::nullopt);
+        ownNewest_ = ordered.front();
     }
+    add(QString(), std::nullopt, std::nullopt);
     for (qsizetype index = ownNewest ? 1 : 0; index < ordered.size(); ++index) {
         const Backup& backup = ordered[index];
-        add(QStringLiteral("Backup of %1 (%2)").arg(Texts::backupTime(backup.time), backup.machine),
-            Repair::PutBack{Kind::backup, backup.path, {}}, Texts::settingsOf(backup.time));
+        add(Texts::backupItem(Texts::backupTime(backup.time, kWindow), backup.machine),
+            Repair::PutBack{Kind::backup, backup.path, {}},
+            Texts::settingsOf(backup.time, kWindow));
     }
     for (const ProductConfig& product : products) {
-        add(QStringLiteral("Stock configuration: ") + product.name,
-            Repair::PutBack{Kind::product, {}, product}, Texts::stockConfigOf(product.name));
+        add(Texts::stockConfigItem(product.name), Repair::PutBack{Kind::product, {}, product},
+            Texts::stockConfigOf(product.name));
     }
-    add(QStringLiteral("No configuration"), Repair::PutBack{Kind::nothing, {}, {}}, std::nullopt);
+    add(Texts::noConfigurationItem(), Repair::PutBack{Kind::nothing, {}, {}}, std::nullopt);
+    showFirmwareAnswers(false);
+    firmwareAnswers_.reset();
+}
+
+void RepairDialog::showFirmwareAnswers(bool answers) {
+    firmwareAnswers_ = answers;
+    const Repair::PutBack newest{Kind::newestBackup, {}, {}};
+    if (answers) {
+        choices_->setItemText(0, Texts::currentSettingsItem());
+        putBacks_[0] = newest;
+        phrases_[0] = Texts::currentSettingsSavedFirst();
+    } else if (ownNewest_) {
+        choices_->setItemText(
+            0, Texts::newestBackupItem(Texts::backupTime(ownNewest_->time, kWindow)));
+        putBacks_[0] = newest;
+        phrases_[0] = Texts::settingsOf(ownNewest_->time, kWindow);
+    } else {
+        choices_->setItemText(0, Texts::chooseWhatGoesBack());
+        putBacks_[0].reset();
+        phrases_[0].reset();
+    }
+    follow();
 }
 
 void RepairDialog::follow() {
     const int index = choices_->currentIndex();
     const bool chosen = index >= 0 && putBacks_[index].has_value();
-    sentence_->setText(chosen ? Texts::repairPlan(firmware_, phrases_[index])
-                              : Texts::repairNeedsChoice());
-    repair_->setEnabled(chosen);
+    if (!firmwareAnswers_) {
+        sentence_->setText(Texts::askingFirmware());
+    } else if (!chosen) {
+        sentence_->setText(Texts::repairNeedsChoice());
+    } else {
+        sentence_->setText(phrases_[index] ? Texts::repairPlan(firmware_, *phrases_[index])
+                                           : Texts::repairPlanWithoutConfig(firmware_));
+    }
+    repair_->setEnabled(chosen && firmwareAnswers_.has_value());
+    // The sentence may take another line now; the dialog grows to show it whole.
+    if (isVisible()) {
+        adjustSize();
+    }
 }
 
 std::optional<Repair::PutBack> RepairDialog::chosen() const {

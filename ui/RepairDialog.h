@@ -15,11 +15,13 @@ class QPushButton;
 
 /// Config > "Repair Machine…" and the result banner's "Repair…": one sentence that
 /// says what will happen ("Erase the machine, install firmware 2.10.6, then put back
-/// your settings from 24 Nov 2026 14:02."), a choice of what goes back (this
-/// machine's newest backup, another backup, a product's stock configuration, or
-/// none), and "Repair" and "Cancel" (also Escape). With no backup of this machine
-/// nothing is chosen at first and "Repair" waits for a choice. Window-modal; GUI
-/// thread only.
+/// your settings from 24/11/2026 14:02."), a choice of what goes back (this
+/// machine's settings, another backup, a product's stock configuration, or none),
+/// and "Repair" and "Cancel" (also Escape). A firmware that still answers has its
+/// settings saved first and put back: the first choice then names "your current
+/// settings, saved first"; else this machine's newest backup, and with none nothing
+/// is chosen at first and "Repair" waits for a choice. Until it is told whether the
+/// firmware answers, "Repair" waits too. Window-modal; GUI thread only.
 class RepairDialog : public QDialog {
     Q_OBJECT
 
@@ -29,6 +31,9 @@ class RepairDialog : public QDialog {
     RepairDialog(const QList<Backup>& backups, const QString& machine,
                  const QList<ProductConfig>& products, const QString& firmware,
                  QWidget* parent = nullptr);
+
+    /// Whether the machine's firmware answers, which decides the first choice.
+    void showFirmwareAnswers(bool answers);
 
     /// What goes back as chosen now; none while nothing is.
     std::optional<Repair::PutBack> chosen() const;
@@ -42,11 +47,15 @@ class RepairDialog : public QDialog {
     void repairRequested(const Repair::PutBack& putBack);
 
   private:
-    void fill(const QList<Backup>& backups, const QString& machine,
-              const QList<ProductConfig>& products);
+    void fill(const QList<Backup>& backups, const QList<ProductConfig>& products);
+    void add(const QString& text, std::optional<Repair::PutBack> putBack,
+             std::optional<QString> phrase);
     void follow();
 
     QString firmware_;
+    QString machine_;
+    std::optional<Backup> ownNewest_;
+    std::optional<bool> firmwareAnswers_;
     QList<std::optional<Repair::PutBack>> putBacks_;
     QList<std::optional<QString>> phrases_;
     QLabel* sentence_;

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "app/Texts.h"
+#include "app/VersionText.h"
 #include "ui/Fonts.h"
 #include "ui/Layouts.h"
 
@@ -19,10 +20,10 @@ RestoreWindow::RestoreWindow(QList<Backup> backups, const QString& machine, cons
       backups_(ordered(std::move(backups), machine)),
       summary_(new QLabel(this)),
       list_(new QTreeWidget(this)),
-      compare_(new QPushButton(QStringLiteral("Compare With Machine"), this)),
-      restore_(new QPushButton(QStringLiteral("Restore"), this)),
-      close_(new QPushButton(QStringLiteral("Close"), this)) {
-    setWindowTitle(QStringLiteral("Restore Machine Config"));
+      compare_(new QPushButton(Texts::compareWithMachineButton(), this)),
+      restore_(new QPushButton(Texts::restoreButton(), this)),
+      close_(new QPushButton(Texts::closeButton(), this)) {
+    setWindowTitle(Texts::restoreTitle());
     resize(600, 360);
     setMinimumSize(480, 280);
     buildLayout(backups_.isEmpty() ? Texts::noBackupsToRestore(folder)
@@ -60,9 +61,8 @@ void RestoreWindow::buildLayout(const QString& summary) {
 
     list_->setFont(Fonts::system(12));
     list_->setRootIsDecorated(false);
-    list_->setHeaderLabels({QStringLiteral("Date"), QStringLiteral("Reason"),
-                            QStringLiteral("Firmware"), QStringLiteral("Size"),
-                            QStringLiteral("Machine")});
+    list_->setHeaderLabels({Texts::dateColumn(), Texts::reasonColumn(), Texts::firmwareColumn(),
+                            Texts::sizeColumn(), Texts::machineColumn()});
     list_->header()->setStretchLastSection(true);
     column->addWidget(list_, 1);
 
@@ -79,10 +79,11 @@ void RestoreWindow::fillList(const QString& machine) {
     for (const Backup& backup : backups_) {
         const QString owner =
             backup.machine == machine ? Texts::thisMachine(backup.machine) : backup.machine;
-        list_->addTopLevelItem(
-            new QTreeWidgetItem({Texts::backupTime(backup.time), Texts::backupReason(backup.reason),
-                                 backup.firmwareVersion.value_or(QStringLiteral("-")),
-                                 Texts::byteCount(backup.size), owner}));
+        const QString version = backup.firmwareVersion ? VersionText::shown(*backup.firmwareVersion)
+                                                       : Texts::noVersion();
+        list_->addTopLevelItem(new QTreeWidgetItem(
+            {Texts::backupTime(backup.time, Texts::Audience::window),
+             Texts::backupReason(backup.reason), version, Texts::byteCount(backup.size), owner}));
     }
     for (int column = 0; column < list_->columnCount() - 1; ++column) {
         list_->resizeColumnToContents(column);

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "app/texts/AccessibilityTexts.h"
+#include "app/texts/WindowTexts.h"
 #include "ui/Colors.h"
 #include "ui/Fonts.h"
 
@@ -74,7 +75,7 @@ ResultBanner::ResultBanner(QWidget* parent)
     row->addWidget(close_, 0, Qt::AlignTop);
     close_->setText(QStringLiteral("×"));
     close_->setAutoRaise(true);
-    close_->setToolTip(QStringLiteral("Close"));
+    close_->setToolTip(Texts::closeButton());
     close_->setAccessibleName(Texts::dismiss());
     connect(close_, &QToolButton::clicked, this, &QWidget::hide);
     hide();

@@ -6,31 +6,49 @@
 #include <QMenuBar>
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <memory>
 #include <string>
 
 #include "app/SimulatedPlotter.h"
+#include "app/Texts.h"
 #include "app/UpdateController.h"
 #include "ui/AppDelegate.h"
 #include "ui/SingleInstance.h"
 
 namespace {
 
+// The demo's plotter runs an older release of the product's own line, so that an
+// update is an update and not a step back.
+constexpr const char* kOlderRelease = "FluidNC v2.10.5 (sim)";
+
 // How the simulated plotter starts after the next write, so that every result the
-// window can show can be seen.
-void addStartupMenu(QMainWindow& window, sim::PtyPlotter& plotter) {
-    QMenu* menu = window.menuBar()->addMenu(QStringLiteral("Simulated Plotter"));
+// window can show can be seen. A write may mend it (a repair), so the ticked item
+// follows the plotter after every job.
+void addStartupMenu(QMainWindow& window, sim::PtyPlotter& plotter, UpdateController& controller) {
+    QMenu* menu = window.menuBar()->addMenu(Texts::simulatedPlotterMenu());
     auto* choices = new QActionGroup(menu);
+    auto items = std::make_shared<std::map<sim::Startup, QAction*>>();
     for (const sim::Startup startup : sim::kStartups) {
-        QAction* item = menu->addAction(QStringLiteral("Starts: ") +
-                                        QString::fromLatin1(sim::startupName(startup)));
+        QAction* item =
+            menu->addAction(Texts::startsAs(QString::fromLatin1(sim::startupName(startup))));
         item->setCheckable(true);
         item->setChecked(startup == sim::Startup::Healthy);
         choices->addAction(item);
+        (*items)[startup] = item;
         QObject::connect(item, &QAction::triggered, &window, [&plotter, startup] {
             plotter.modify([startup](sim::Plotter& p) { p.config().startup = startup; });
         });
     }
+    QObject::connect(
+        &controller, &UpdateController::jobRunningChanged, menu, [&plotter, items](bool running) {
+            if (running) {
+                return;
+            }
+            sim::Startup now = sim::Startup::Healthy;
+            plotter.inspect([&now](const sim::Plotter& p) { now = p.config().startup; });
+            items->at(now)->setChecked(true);
+        });
 }
 
 }  // namespace
@@ -46,19 +64,22 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     const ResourceBundle resources = ResourceBundle::located(QStringLiteral("resources-dev"));
-    const auto plotter = startSimulatedPlotter(resources, SimulatedPace::visible);
+    sim::Config config;
+    config.versionReport = kOlderRelease;
+    const auto plotter = startSimulatedPlotter(resources, SimulatedPace::visible, config);
     const std::string port = plotter->path();
     // Only the simulator's pseudo-terminal is ever offered as the device, so the
     // development images this program carries, and accepts, cannot reach a real
     // machine.
     DeviceMonitor::Detector detector = [port](uint16_t, uint16_t) { return strdup(port.c_str()); };
+    AppDelegate::Options options;
+    options.survey = simulatedSurvey(port);
     AppDelegate delegate(
         std::make_unique<UpdateController>(resources, std::move(detector),
                                            UpdateController::DevelopmentImages::accept),
-        AppDelegate::Options());
+        std::move(options));
     delegate.applicationDidFinishLaunching();
-    addStartupMenu(*delegate.window(), *plotter);
-    delegate.window()->setWindowTitle(
-        QStringLiteral("Teskal Firmware Updater \u2014 simulated plotter"));
+    addStartupMenu(*delegate.window(), *plotter, delegate.updateController());
+    delegate.window()->setWindowTitle(Texts::simulatedWindowTitle());
     return QApplication::exec();
 }

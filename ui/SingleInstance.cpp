@@ -5,6 +5,8 @@
 #include <QStandardPaths>
 #include <cstdio>
 
+#include "app/texts/WindowTexts.h"
+
 namespace SingleInstance {
 
 std::unique_ptr<QLockFile> tryLock(const QString& program) {
@@ -22,9 +24,9 @@ std::unique_ptr<QLockFile> tryLock(const QString& program) {
 std::unique_ptr<QLockFile> claim(const QString& program) {
     auto lock = tryLock(program);
     if (!lock) {
-        const QString message = QStringLiteral("Teskal Firmware Updater is already running.");
+        const QString message = Texts::alreadyRunning();
         std::fprintf(stderr, "%s\n", qPrintable(message));
-        QMessageBox::information(nullptr, QStringLiteral("Teskal Firmware Updater"), message);
+        QMessageBox::information(nullptr, Texts::programName(), message);
     }
     return lock;
 }

@@ -7,6 +7,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/Texts.h"
 #include "app/UpdateController.h"
@@ -23,6 +24,7 @@
 namespace {
 
 constexpr int kProgressSteps = 1000;
+constexpr QSize kDesignedSize(480, 420);
 
 QLabel* makeLabel(int pixelSize, QWidget* parent) {
     auto* label = new QLabel(parent);
@@ -63,12 +65,11 @@ UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
       notFound_(makeLabel(12, this)),
       firmware_(makeLabel(13, this)),
       progress_(new QProgressBar(this)),
-      button_(new QPushButton(QStringLiteral("Update Firmware"), this)),
+      button_(new QPushButton(Texts::updateFirmwareButton(), this)),
       banner_(new ResultBanner(this)),
       restorePrevious_(new QAction(Texts::restorePreviousButton(), this)),
       repair_(new QAction(Texts::repairButton(), this)),
       log_(new LogPanel(this)) {
-    setFixedSize(480, 420);
     buildLayout();
     recolour();
     connectTo(controller);
@@ -122,10 +123,7 @@ void UpdaterView::connectTo(UpdateController& controller) {
     connect(&controller, &UpdateController::statusMessageChanged, this,
             &UpdaterView::showStatusMessage);
     connect(&controller, &UpdateController::logChanged, this, &UpdaterView::showLog);
-    connect(&controller, &UpdateController::resultChanged, this,
-            [this, &controller](const std::optional<Outcome>& result) {
-                showResult(result, controller.previousConfiguration().has_value());
-            });
+    connect(&controller, &UpdateController::resultChanged, this, &UpdaterView::showResult);
     connect(restorePrevious_, &QAction::triggered, &controller,
             &UpdateController::restorePreviousConfiguration);
     connect(repair_, &QAction::triggered, this, &UpdaterView::repairRequested);
@@ -164,6 +162,19 @@ void UpdaterView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
         recolour();
     }
+}
+
+QSize UpdaterView::sizeHint() const {
+    return minimumSizeHint();
+}
+
+// The banner's and the firmware line's wrapped text need a height for the width
+// they have, which the window's own layout does not ask for.
+QSize UpdaterView::minimumSizeHint() const {
+    const int width = std::max(this->width(), kDesignedSize.width());
+    const int needed = layout()->hasHeightForWidth() ? layout()->minimumHeightForWidth(width)
+                                                     : layout()->minimumSize().height();
+    return {kDesignedSize.width(), std::max(kDesignedSize.height(), needed)};
 }
 
 void UpdaterView::showState(const UpdateState& state) {
@@ -221,9 +232,10 @@ void UpdaterView::showFirmwareLabel(const QString& label) {
     firmware_->setText(label);
 }
 
-void UpdaterView::showResult(const std::optional<Outcome>& result, bool previousOffered) {
+void UpdaterView::showResult(const std::optional<Outcome>& result) {
     QList<QAction*> offers;
-    if (previousOffered) {
+    const StartupCause* startup = result ? result->startup() : nullptr;
+    if (startup != nullptr && startup->previous) {
         offers << restorePrevious_;
     }
     if (result && Repair::helps(*result)) {

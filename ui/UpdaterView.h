@@ -18,7 +18,7 @@ class ResultBanner;
 class StatusDot;
 class UpdateController;
 
-/// The main window's content, 480 x 420: connection and status (with the link
+/// The main window's content, 480 x 420 and larger: connection and status (with the link
 /// "Plotter not found?" below it while the controller's connection hint offers the
 /// Connection Check), the firmware that will be written, progress, the "Update
 /// Firmware" button and the log.
@@ -35,6 +35,11 @@ class UpdaterView : public QWidget {
   public:
     explicit UpdaterView(UpdateController& controller, QWidget* parent = nullptr);
 
+    /// 480 x 420, or what its content needs (a tall result banner beside the
+    /// log's eight lines): the window opens at this size and is never smaller.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
     /// Progress bar by state; the button's enabled rule uses it too.
     void showState(const UpdateState& state);
     /// Status dot, port path "(path)" when there is one, the button's enabled rule.
@@ -44,10 +49,11 @@ class UpdaterView : public QWidget {
     /// The link "Plotter not found?" under the status row, or nothing (no space).
     void showConnectionHint(bool offered);
     void showFirmwareLabel(const QString& label);
-    /// How the last job ended, in the result banner; none hides it. With
-    /// `previousOffered` the banner offers "Restore Previous Configuration"; after a
-    /// machine that a repair helps (`Repair::helps`), "Repair…".
-    void showResult(const std::optional<Outcome>& result, bool previousOffered = false);
+    /// How the last job ended, in the result banner; none hides it. When the machine
+    /// rejected a configuration and had another before (`StartupCause::previous`)
+    /// the banner offers "Restore Previous Configuration"; after a machine that a
+    /// repair helps (`Repair::helps`), "Repair…".
+    void showResult(const std::optional<Outcome>& result);
     /// The log; see `LogView::setEntries` for scrolling.
     void showLog(const LogEntries& entries);
 

@@ -3,34 +3,19 @@
 #include <QDeadlineTimer>
 #include <algorithm>
 
-#include "app/Texts.h"
+#include "app/StartupVerdict.h"
 
 namespace {
 
 constexpr int kPortReturnMs = 5000;
 
-Outcome::Kind kindOf(int verdict) {
-    switch (verdict) {
-        case ESP_STARTUP_RUNNING:
-            return Outcome::Kind::succeeded;
-        case ESP_STARTUP_BOOT_LOOP:
-        case ESP_STARTUP_PANIC:
-        case ESP_STARTUP_NO_APP:
-        case ESP_STARTUP_BROWNOUT:
-            return Outcome::Kind::notStarting;
-        case ESP_STARTUP_CONFIG_ERROR:
-            return Outcome::Kind::configRejected;
-        default:
-            return Outcome::Kind::notConfirmed;
-    }
-}
-
 }  // namespace
 
 Outcome startupOutcome(const FlasherBridge::StartupReport& report, StartupCause::Written written,
                        const std::optional<QString>& expected) {
-    StartupCause cause{report.verdict, report.version, expected, written};
-    Outcome outcome = Outcome::make(kindOf(report.verdict), Texts::startupMessage(cause));
+    StartupCause cause{report.verdict, report.version, expected, written, std::nullopt};
+    Outcome outcome =
+        Outcome::make(StartupVerdict::kind(report.verdict), StartupVerdict::message(cause));
     outcome.cause = cause;
     outcome.evidence = report.evidence;
     return outcome;

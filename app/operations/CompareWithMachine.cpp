@@ -26,7 +26,7 @@ Outcome CompareWithMachine::run(const OperationSink& sink) {
             return *refused;
         }
     }
-    if (auto unusable = PortDiagnosis::beforeJob(port_)) {
+    if (auto unusable = PortDiagnosis::beforeJob(port_, sink.audience)) {
         return *unusable;
     }
     auto read = MachineConfigFile::read({port_, machine_, BackupReason::compare}, sink);
@@ -35,18 +35,21 @@ Outcome CompareWithMachine::run(const OperationSink& sink) {
     }
     const auto& machineConfig = std::get<MachineConfigFile::Read>(read);
     MachineConfigFile::noteUnkept(machineConfig, sink);
-    comparison_ = compareConfigs({QStringLiteral("machine"), machineConfig.bytes}, *chosen_);
-    for (const QString& error : comparison_.errors) {
+    ConfigComparison comparison =
+        compareConfigs({QStringLiteral("machine"), machineConfig.bytes}, *chosen_);
+    for (const QString& error : comparison.errors) {
         sink.info(error);
     }
-    if (comparison_.equalByKey()) {
+    Outcome compared = Outcome::make(Outcome::Kind::differs, Texts::different());
+    if (comparison.equalByKey()) {
         sink.info(Texts::configMatches(chosen_->label));
-        return Outcome::success(Texts::equalByKey());
+        compared = Outcome::success(Texts::equalByKey());
+    } else if (comparison.errors.isEmpty()) {
+        sink.info(Texts::configDiffers(chosen_->label, comparison.keyDifferences.size()));
     }
-    if (comparison_.errors.isEmpty()) {
-        sink.info(Texts::configDiffers(chosen_->label, comparison_.keyDifferences.size()));
+    if (compared.kind == Outcome::Kind::differs) {
+        compared.evidence = comparison.keyDifferences;
     }
-    Outcome differs = Outcome::make(Outcome::Kind::differs, Texts::different());
-    differs.evidence = comparison_.keyDifferences;
-    return differs;
+    compared.cause = std::move(comparison);
+    return compared;
 }

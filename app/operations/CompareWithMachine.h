@@ -27,13 +27,10 @@ class CompareWithMachine : public Operation {
     /// configuration; logs one line ("Machine config matches <name> by key",
     /// "Machine config differs from <name> in <n> key(s)", or each reason why a
     /// side could not be read). Succeeds with "Equal by key", or ends `differs`
-    /// with "Different" and the differing key paths as its evidence. Ends
-    /// `portUnusable`, without reading, when the port cannot be used.
+    /// with "Different" and the differing key paths as its evidence; either way the
+    /// whole `ConfigComparison` is its cause. Ends `portUnusable`, without reading,
+    /// when the port cannot be used.
     Outcome run(const OperationSink& sink) override;
-
-    const ConfigChoice& choice() const { return choice_; }
-    /// The comparison of the last successful `run`; empty before.
-    const ConfigComparison& comparison() const { return comparison_; }
 
   private:
     QString port_;
@@ -41,5 +38,4 @@ class CompareWithMachine : public Operation {
     ConfigChoice choice_;
     QString machine_;
     std::optional<ConfigText> chosen_;
-    ConfigComparison comparison_;
 };

@@ -4,7 +4,30 @@
 
 #include "app/DeviceQueries.h"
 #include "app/Texts.h"
+#include "app/VersionText.h"
 #include "app/operations/MachineConfigFile.h"
+
+namespace {
+
+// The banner's sentence tells the firmware and the settings alike.
+QString restoredMessage(const Outcome& flashed, const QString& time) {
+    const StartupCause* started = flashed.startup();
+    const QString version =
+        started
+            ? VersionText::shown(started->version.value_or(started->expected.value_or(QString())))
+            : QString();
+    return version.isEmpty() ? Texts::firmwareRunningUnnamedWithSettings(time)
+                             : Texts::firmwareRunningWithSettings(version, time);
+}
+
+Outcome stopped(Outcome outcome, SettingsCause::Stop stop) {
+    SettingsCause cause;
+    cause.stop = stop;
+    outcome.cause = cause;
+    return outcome;
+}
+
+}  // namespace
 
 EraseKeepingSettings::EraseKeepingSettings(QString port, ResourceBundle resources, Options options)
     : port_(std::move(port)), resources_(std::move(resources)), options_(std::move(options)) {
@@ -16,32 +39,32 @@ Outcome EraseKeepingSettings::run(const OperationSink& sink) {
     const auto version = DeviceQueries::firmwareVersion(port_);
     if (!version) {
         if (!options_.goOnWhenSilent) {
-            stop_ = Stop::firmwareSilent;
-            return Outcome::make(Outcome::Kind::noAnswer, Texts::firmwareSilentNothingSaved());
+            return stopped(
+                Outcome::make(Outcome::Kind::noAnswer, Texts::firmwareSilentNothingSaved()),
+                SettingsCause::Stop::firmwareSilent);
         }
         sink.info(Texts::firmwareSilentNothingSaved());
         sink.info(Texts::erasingWithoutSaving());
-        return flash(sink);
+        return carrying(flash(sink), false);
     }
     if (auto failure = saveSettings(version, sink)) {
-        stop_ = Stop::notSaved;
         failure->message = Texts::nothingErased(failure->message);
-        return *failure;
+        return stopped(*failure, SettingsCause::Stop::notSaved);
     }
+    options_.flash.putBack = Texts::settingsOf(backup_->time, sink.audience);
     // The flashing job is the same as without the save; only a machine that runs
     // afterwards can take its configuration back. A firmware that rejects its
     // configuration runs too, and after the erase it has none of its own.
     const Outcome flashed = flash(sink);
     if (flashed.kind != Outcome::Kind::succeeded && flashed.kind != Outcome::Kind::configRejected) {
-        return notRestored(flashed, sink);
+        return carrying(notRestored(flashed, sink), false);
     }
     Outcome restored = restore_->run(sink);
     if (restored.isFailure()) {
-        return notRestored(restored, sink);
+        return carrying(notRestored(restored, sink), false);
     }
-    restored.message = Texts::settingsRestored(backup_->time);
-    sink.info(restored.message);
-    return restored;
+    restored.message = restoredMessage(flashed, Texts::backupTime(backup_->time, sink.audience));
+    return carrying(restored, true);
 }
 
 // The copy is checked as its upload will check it before anything is erased, so
@@ -67,8 +90,20 @@ Outcome EraseKeepingSettings::flash(const OperationSink& sink) const {
 
 Outcome EraseKeepingSettings::notRestored(Outcome outcome, const OperationSink& sink) const {
     const QString name = QFileInfo(backup_->path).fileName();
-    sink.info(options_.commandLinePort
-                  ? Texts::restoreLaterWithCommand(backup_->path, *options_.commandLinePort, name)
-                  : Texts::restoreLaterInWindow(backup_->path));
+    sink.info(sink.audience == Texts::Audience::window
+                  ? Texts::restoreLaterInWindow(backup_->path)
+                  : Texts::restoreLaterWithCommand(backup_->path, sink.portName, name));
+    return outcome;
+}
+
+Outcome EraseKeepingSettings::carrying(Outcome outcome, bool restored) const {
+    if (outcome.isVerdict() || std::holds_alternative<std::monostate>(outcome.cause)) {
+        const StartupCause* startup = outcome.startup();
+        SettingsCause cause;
+        cause.startup = startup ? std::optional(*startup) : std::nullopt;
+        cause.saved = backup_ ? std::optional(backup_->path) : std::nullopt;
+        cause.restored = restored ? cause.saved : std::nullopt;
+        outcome.cause = cause;
+    }
     return outcome;
 }

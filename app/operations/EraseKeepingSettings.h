@@ -17,13 +17,6 @@
 /// checked as an upload checks it.
 class EraseKeepingSettings : public Operation {
   public:
-    /// Where the operation stopped before the erase, if it did.
-    enum class Stop {
-        none,
-        firmwareSilent,  ///< the firmware did not answer, so nothing could be read
-        notSaved,        ///< the copy could not be read, kept or checked
-    };
-
     struct Options {
         FlashFirmware::Options flash;  ///< `eraseAll` is always set
         /// A firmware that does not answer: erase anyway, logging that nothing was
@@ -31,39 +24,35 @@ class EraseKeepingSettings : public Operation {
         bool goOnWhenSilent = false;
         /// The name the machine's backups are filed under; empty: found from the port.
         QString machine;
-        /// teskal-flash's name for the port: a copy that was not put back is then
-        /// explained with restore-config; none: with the window's Config menu.
-        std::optional<QString> commandLinePort;
     };
 
     EraseKeepingSettings(QString port, ResourceBundle resources, Options options);
 
     /// Logs "Saving the machine's settings before Erase All Flash…" and asks the
     /// firmware for its version; then reads config.yaml (logging where the copy went),
-    /// runs the flashing job and, when the machine runs afterwards (its verdict is
-    /// running, or a configuration error), the upload of the copy, ending as that
-    /// upload does; on success it logs "Settings restored from the backup of <date
-    /// time>." and succeeds with it.
-    /// Stops before the erase (see `stop`): `noAnswer` with "The machine's firmware
-    /// does not answer, so its settings cannot be saved.", or the read's, the
-    /// backup's or the check's outcome behind "Nothing was erased: …". A copy kept
-    /// but not put back is named in the log with how to restore it later.
+    /// runs the flashing job (whose NOTE is followed by what will be put back) and,
+    /// when the machine runs afterwards (its verdict is running, or a configuration
+    /// error), the upload of the copy, ending as that upload does; a success says
+    /// "Firmware 2.10.6 installed and running, with your settings restored from the
+    /// backup of <date time>.".
+    /// Stops before the erase: `noAnswer` with "The machine's firmware does not
+    /// answer, so its settings cannot be saved.", or the read's, the backup's or the
+    /// check's outcome behind "Nothing was erased: …", with the `SettingsCause::Stop`
+    /// that tells which. A copy kept but not put back is named in the log with how
+    /// to restore it later. Every ending after the save or the write carries a
+    /// `SettingsCause`.
     Outcome run(const OperationSink& sink) override;
-
-    Stop stop() const { return stop_; }
-    /// The copy read before the erase, once kept.
-    const std::optional<Backup>& backup() const { return backup_; }
 
   private:
     std::optional<Outcome> saveSettings(const std::optional<QString>& version,
                                         const OperationSink& sink);
     Outcome flash(const OperationSink& sink) const;
     Outcome notRestored(Outcome outcome, const OperationSink& sink) const;
+    Outcome carrying(Outcome outcome, bool restored) const;
 
     QString port_;
     ResourceBundle resources_;
     Options options_;
-    Stop stop_ = Stop::none;
     std::optional<Backup> backup_;
     std::shared_ptr<UploadConfig> restore_;
 };

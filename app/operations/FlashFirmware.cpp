@@ -15,6 +15,10 @@ namespace {
 // Up to 5 s for the port to come back, and the whole check after it.
 constexpr int kCheckAfterFlashMs = 12000;
 
+// The flashing job's line as it turns from writing to the version confirmation,
+// where it listens to the machine's start.
+const QString kConfirming = QStringLiteral("Verifying firmware version...");
+
 struct BootImages {
     QByteArray bootloader;
     QByteArray partitions;
@@ -44,7 +48,7 @@ FlashFirmware::FlashFirmware(QString port, ResourceBundle resources, Options opt
     : port_(std::move(port)), resources_(std::move(resources)), options_(std::move(options)) {}
 
 Outcome FlashFirmware::run(const OperationSink& sink) {
-    if (auto unusable = PortDiagnosis::beforeJob(port_)) {
+    if (auto unusable = PortDiagnosis::beforeJob(port_, sink.audience)) {
         return *unusable;
     }
     Outcome failure;
@@ -74,18 +78,29 @@ Outcome FlashFirmware::run(const OperationSink& sink) {
     sink.enter(Phase::writingFirmware, planBytes(*firmware, boot, fullFlash));
     const std::optional<QString> expectedVersion =
         options_.customFirmware ? std::nullopt : std::optional(BuildConfig::firmwareVersion());
+    const auto libraryLog = [&sink](const QString& line) {
+        if (line == kConfirming) {
+            sink.enter(Phase::checkingStartup);
+        }
+        if (sink.libraryLog) {
+            sink.libraryLog(line);
+        }
+    };
     FlasherBridge::StartupReport startup;
     const esp_error_t result = FlasherBridge::flashFirmware(
         port_, *firmware, boot.bootloader, boot.partitions, boot.bootApp, *stub, fullFlash,
-        options_.eraseAll, expectedVersion, sink.progress, sink.libraryLog, &startup);
+        options_.eraseAll, expectedVersion, sink.progress, libraryLog, &startup);
     if (result != 0) {
-        return PortDiagnosis::afterJob(port_, Outcome::library(result));
+        return PortDiagnosis::afterJob(port_, Outcome::library(result), sink.audience);
     }
     sink.enter(Phase::firmwareWritten);
     sink.info(Texts::firmwareComplete());
     if (options_.eraseAll) {
         sink.info(QString());
-        sink.info(options_.erasedNote);
+        sink.info(Texts::flashErasedNote(sink.audience));
+        if (options_.putBack) {
+            sink.info(Texts::puttingBack(*options_.putBack));
+        }
     }
     // A chosen image gives the job no version to confirm, and a port that went
     // away took the rest of the start with it: the check listens once more.

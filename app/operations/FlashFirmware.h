@@ -6,7 +6,6 @@
 
 #include "app/FirmwareCheck.h"
 #include "app/ResourceBundle.h"
-#include "app/Texts.h"
 #include "app/operations/Operation.h"
 
 /// Writes firmware to the machine on one port, as "Update Firmware" does: loads the
@@ -21,19 +20,22 @@ class FlashFirmware : public Operation {
         bool writeBootPartitions = false;       ///< always write all four regions
         bool eraseAll = false;  ///< erase the whole chip first (and so a full flash)
         DevelopmentImages developmentImages = DevelopmentImages::refuse;
-        /// The line after an erase that says how to put a configuration back.
-        QString erasedNote = Texts::flashErasedNote();
+        /// What goes back on the machine by itself once it runs after the erase
+        /// ("your settings from …"), said right after the NOTE; none when nothing does.
+        std::optional<QString> putBack;
     };
 
     FlashFirmware(QString port, ResourceBundle resources, Options options);
 
     /// Logs "Updating firmware v2.10.6…" (or the chosen file's line) and the mode
     /// decision, enters `writingFirmware` with the flash plan's size right before
-    /// the library's job and `firmwareWritten` when it succeeded, then logs
-    /// "Firmware update complete." (after an erase also an empty line and the NOTE).
-    /// Then tells how the machine started: from what the job heard after the
-    /// restart, or, when it heard nothing (a chosen image has no version to confirm)
-    /// or the port went away, from a `CheckStartup` of its own. Ends refused or
+    /// the library's job, `checkingStartup` when the job turns to the version
+    /// confirmation and `firmwareWritten` when it succeeded, then logs "Firmware
+    /// update complete." (after an erase also an empty line, the NOTE in the sink's
+    /// audience's words and what goes back, if anything). Then tells how the machine
+    /// started: from what the job heard after the restart, or, when it heard
+    /// nothing (a chosen image has no version to confirm) or the port went away,
+    /// from a `CheckStartup` of its own. Ends refused or
     /// missing a resource before the port is touched, with the library's code, or
     /// with the machine's verdict (a success when it runs the firmware); first of
     /// all, and after the library could not open the port, `portUnusable` when the

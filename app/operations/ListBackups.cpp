@@ -7,7 +7,10 @@ Outcome ListBackups::run(const OperationSink& sink) {
     const BackupIndex index;
     BackupListing listing{index.list([&](const QString& line) { sink.error(line); })};
     for (const Backup& backup : listing.backups) {
-        sink.info(Texts::backupLine(backup));
+        sink.info(Texts::backupLine(Texts::backupTime(backup.time, sink.audience),
+                                    BackupIndex::reasonName(backup.reason),
+                                    backup.firmwareVersion.value_or(Texts::noVersion()),
+                                    backup.size, backup.machine, backup.path));
     }
     if (listing.backups.isEmpty()) {
         sink.info(Texts::noBackups(index.folder()));

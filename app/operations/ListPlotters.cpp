@@ -9,7 +9,9 @@ Outcome ListPlotters::run(const OperationSink& sink) {
         sink.info(plotter);
     }
     if (plotters_.isEmpty()) {
-        return Outcome::make(Outcome::Kind::noDevice, Texts::errorMessage(1));
+        return Outcome::make(Outcome::Kind::noDevice, sink.audience == Texts::Audience::window
+                                                          ? Texts::noDeviceFound()
+                                                          : Texts::noDeviceFoundDoctor());
     }
     return Outcome::success(Texts::plottersConnected(plotters_.size()));
 }

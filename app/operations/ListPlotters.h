@@ -10,7 +10,8 @@ class ListPlotters : public Operation {
     /// `plotters`: the ports found (or the simulated plotters' names).
     explicit ListPlotters(QStringList plotters);
 
-    /// Succeeds with "N plotters connected"; `noDevice` when there is none.
+    /// Succeeds with "N plotters connected"; `noDevice` when there is none (on the
+    /// command line, pointing to teskal-flash doctor).
     Outcome run(const OperationSink& sink) override;
 
   private:

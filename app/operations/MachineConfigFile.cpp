@@ -21,8 +21,8 @@ std::variant<Read, Outcome> downloadAndKeep(const Request& request,
         const DownloadCause cause{download.status.failure, download.status.block};
         Outcome failure = Outcome::library(download.result);
         failure.cause = cause;
-        failure.message = Texts::configNotRead(cause);
-        return PortDiagnosis::afterJob(request.port, failure);
+        failure.message = Texts::configNotRead(Texts::downloadFailure(cause.failure, cause.block));
+        return PortDiagnosis::afterJob(request.port, failure, sink.audience);
     }
     BackupIndex::Source source;
     source.reason = request.reason;
@@ -72,7 +72,11 @@ void noteUnkept(const Read& read, const OperationSink& sink) {
 Outcome write(const QString& path, const QByteArray& bytes, const OperationSink& sink) {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     QSaveFile file(absolute);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+    // A configuration can hold network credentials: the owner's alone, as its
+    // backups are.
+    if (!file.open(QIODevice::WriteOnly) ||
+        !file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) ||
+        file.write(bytes) != bytes.size() || !file.commit()) {
         return Outcome::make(Outcome::Kind::notWritten,
                              Texts::configNotSaved(absolute, file.errorString()));
     }

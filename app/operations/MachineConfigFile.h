@@ -52,7 +52,8 @@ std::variant<Backup, Outcome> keep(const Request& request,
 void noteUnkept(const Read& read, const OperationSink& sink);
 
 /// Writes `bytes` to `path` through a temporary file in the same folder that is
-/// then renamed over it, so an existing file is replaced whole or left as it was.
+/// then renamed over it, so an existing file is replaced whole or left as it was;
+/// the file is the owner's alone (0600).
 /// Logs "Machine config saved to <absolute path> (<n> bytes)" and succeeds with
 /// "Machine config saved", or ends `notWritten` and logs nothing.
 Outcome write(const QString& path, const QByteArray& bytes, const OperationSink& sink);

@@ -7,6 +7,7 @@
 
 #include "app/LogEntry.h"
 #include "app/Outcome.h"
+#include "app/texts/Audience.h"
 
 /// The stages of an operation that the window shows as states of their own.
 enum class Phase {
@@ -18,9 +19,18 @@ enum class Phase {
     checkingStartup,  ///< the machine restarts after a write and is listened to
 };
 
-/// Where an operation reports while it runs. Every handler may be empty; all are
-/// called on the operation's thread, so a receiver elsewhere posts what it gets.
+/// Where an operation reports while it runs, and who reads it. Every handler may be
+/// empty; all are called on the operation's thread, so a receiver elsewhere posts
+/// what it gets.
 struct OperationSink {
+    /// In whose words the operation's lines and outcome are: the window's (its
+    /// menus) or teskal-flash's (its commands). Set by the front end that presents
+    /// them, never by an operation.
+    Texts::Audience audience = Texts::Audience::window;
+    /// teskal-flash's name for the plotter's port ("sim2", "/dev/ttyACM0"), for the
+    /// commands a line names; empty in the window.
+    QString portName;
+
     /// The operation enters `phase`; `bytes` is what it is about to transfer, or -1.
     std::function<void(Phase phase, qint64 bytes)> phase;
     /// A fraction 0..1 and a stage text, as the library reports them.

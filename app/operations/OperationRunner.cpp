@@ -1,6 +1,7 @@
 #include "app/operations/OperationRunner.h"
 
-OperationRunner::OperationRunner(QObject* parent) : QObject(parent) {}
+OperationRunner::OperationRunner(Texts::Audience audience, QString portName, QObject* parent)
+    : QObject(parent), audience_(audience), portName_(std::move(portName)) {}
 
 OperationRunner::~OperationRunner() {
     if (worker_.joinable()) {
@@ -16,8 +17,7 @@ bool OperationRunner::start(std::shared_ptr<Operation> operation) {
         worker_.join();
     }
     running_ = true;
-    operation_ = std::move(operation);
-    worker_ = std::thread([this, operation = operation_, sink = postingSink()] {
+    worker_ = std::thread([this, operation = std::move(operation), sink = postingSink()] {
         const Outcome outcome = operation->run(sink);
         // Posted behind every report of the operation, so that nothing it said
         // arrives after its end.
@@ -31,6 +31,8 @@ bool OperationRunner::start(std::shared_ptr<Operation> operation) {
 
 OperationSink OperationRunner::postingSink() {
     OperationSink sink;
+    sink.audience = audience_;
+    sink.portName = portName_;
     sink.phase = [this](Phase phase, qint64 bytes) {
         post([this, phase, bytes] { emit phaseEntered(phase, bytes); });
     };

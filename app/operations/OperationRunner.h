@@ -17,15 +17,17 @@ class OperationRunner : public QObject {
     Q_OBJECT
 
   public:
-    explicit OperationRunner(QObject* parent = nullptr);
+    /// Its operations speak to `audience`, who names the plotter's port `portName`
+    /// (see `OperationSink`).
+    explicit OperationRunner(Texts::Audience audience = Texts::Audience::window,
+                             QString portName = {}, QObject* parent = nullptr);
     ~OperationRunner() override;
 
     /// True from `start` until `finished` has been emitted.
     bool isRunning() const { return running_; }
 
     /// Starts `operation` unless one is still running (then false and nothing
-    /// happens). The runner keeps the operation until the next start, so its
-    /// results stay readable after `finished`.
+    /// happens). Its outcome is all that comes back of it.
     bool start(std::shared_ptr<Operation> operation);
 
   signals:
@@ -40,8 +42,9 @@ class OperationRunner : public QObject {
     OperationSink postingSink();
     void post(std::function<void()> step);
 
+    const Texts::Audience audience_;
+    const QString portName_;
     bool running_ = false;
-    std::shared_ptr<Operation> operation_;
     // Joined rather than detached: a join also waits for the thread's exit handlers,
     // where the crypto library frees its per-thread state.
     std::thread worker_;

@@ -1,6 +1,7 @@
 #include "app/operations/ProbePartitionTable.h"
 
 #include "app/DeviceQueries.h"
+#include "app/OutcomeTable.h"
 #include "app/PortDiagnosis.h"
 #include "app/Texts.h"
 
@@ -11,7 +12,7 @@ ProbePartitionTable::ProbePartitionTable(QString port, ResourceBundle resources,
       developmentImages_(developmentImages) {}
 
 Outcome ProbePartitionTable::run(const OperationSink& sink) {
-    if (auto unusable = PortDiagnosis::beforeJob(port_)) {
+    if (auto unusable = PortDiagnosis::beforeJob(port_, sink.audience)) {
         return *unusable;
     }
     const QString stubName = QStringLiteral("esp32s3_stub");
@@ -32,5 +33,6 @@ Outcome ProbePartitionTable::run(const OperationSink& sink) {
         case DeviceQueries::PartitionTable::unreadable:
             break;
     }
-    return Outcome::make(Outcome::Kind::noAnswer, Texts::errorMessage(9));
+    return Outcome::make(Outcome::Kind::noAnswer,
+                         OutcomeTable::libraryMessage(ESP_RESULT_TIMED_OUT));
 }

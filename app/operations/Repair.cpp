@@ -4,8 +4,9 @@
 
 #include "app/BackupIndex.h"
 #include "app/DeviceQueries.h"
+#include "app/FirmwareCheck.h"
+#include "app/StartupVerdict.h"
 #include "app/Texts.h"
-#include "app/operations/CheckFirmwareFile.h"
 #include "app/operations/MachineConfigFile.h"
 
 namespace {
@@ -17,8 +18,7 @@ using Kind = Repair::PutBack::Kind;
 bool Repair::helps(const Outcome& outcome) {
     const StartupCause* startup = outcome.startup();
     return outcome.kind == Outcome::Kind::notStarting && startup != nullptr &&
-           (startup->verdict == ESP_STARTUP_BOOT_LOOP || startup->verdict == ESP_STARTUP_PANIC ||
-            startup->verdict == ESP_STARTUP_NO_APP);
+           StartupVerdict::repairHelps(*startup);
 }
 
 Repair::Repair(QString port, ResourceBundle resources, Options options)
@@ -34,7 +34,7 @@ std::optional<Outcome> Repair::refusal() {
     checked_ = true;
     if (const auto& custom = options_.flash.customFirmware) {
         Outcome checked =
-            CheckFirmwareFile(*custom, resources_, options_.flash.developmentImages).run({});
+            checkFirmwareFile(*custom, resources_, options_.flash.developmentImages).outcome;
         if (checked.isFailure()) {
             return checked;
         }
@@ -68,7 +68,6 @@ std::optional<Outcome> Repair::choose() {
     }
     UploadConfig::Options upload;
     upload.machine = options_.machine;
-    upload.commandLinePort = options_.commandLinePort;
     upload.developmentConfigsRefused = options_.developmentConfigsRefused;
     const ConfigChoice choice = putBack.kind == Kind::product
                                     ? ConfigChoice::ofProduct(*putBack.product)
@@ -77,14 +76,22 @@ std::optional<Outcome> Repair::choose() {
     return upload_->refusal();
 }
 
-std::optional<Outcome> Repair::settleNewest() {
+std::optional<Outcome> Repair::settleNewest(Texts::Audience audience) {
     const BackupIndex index;
     backup_ = index.newestOf(options_.machine);
     if (!backup_) {
-        Outcome nothing = Outcome::make(Outcome::Kind::nothingToRestore,
-                                        Texts::nothingToRestore(options_.machine, index.list(),
-                                                                index.folder(), options_.audience));
-        nothing.cause = BackupListing{index.list()};
+        const QList<Backup> backups = index.list();
+        QStringList named;
+        for (const Backup& backup : backups) {
+            named << Texts::namedBackup(QFileInfo(backup.path).fileName(), backup.machine,
+                                        Texts::backupTime(backup.time, audience));
+        }
+        Outcome nothing = Outcome::make(
+            Outcome::Kind::nothingToRestore,
+            backups.isEmpty() ? Texts::nothingToRestore(options_.machine, index.folder(), audience)
+                              : Texts::nothingToRestoreBesides(options_.machine, index.folder(),
+                                                               named, audience));
+        nothing.cause = BackupListing{backups};
         return nothing;
     }
     restore_ = backup_->path;
@@ -103,6 +110,9 @@ Outcome Repair::run(const OperationSink& sink) {
                                             version, sink);
         if (auto* failure = std::get_if<Outcome>(&kept)) {
             failure->message = Texts::nothingErased(failure->message);
+            SettingsCause stopped;
+            stopped.stop = SettingsCause::Stop::notSaved;
+            failure->cause = stopped;
             return *failure;
         }
         saved_ = std::get<Backup>(kept);
@@ -110,42 +120,43 @@ Outcome Repair::run(const OperationSink& sink) {
         sink.info(Texts::firmwareSilentNothingSaved());
     }
     if (options_.putBack.kind == Kind::newestBackup) {
-        if (auto unknown = settleNewest()) {
+        if (auto unknown = settleNewest(sink.audience)) {
             return *unknown;
         }
     }
-    sink.info(Texts::repairPlan(firmwarePhrase(), putBackPhrase()));
+    const std::optional<QString> what = putBackPhrase(sink.audience);
+    sink.info(what ? Texts::repairPlan(firmwarePhrase(), *what)
+                   : Texts::repairPlanWithoutConfig(firmwarePhrase()));
     FlashFirmware::Options flash = options_.flash;
-    if (const auto what = putBackPhrase()) {
-        flash.erasedNote = Texts::puttingBack(*what);
-    }
+    flash.putBack = what;
     // A firmware that rejects its configuration runs too, and after the erase it
     // has none of its own.
     const Outcome flashed = FlashFirmware(port_, resources_, flash).run(sink);
     const bool runs =
         flashed.kind == Outcome::Kind::succeeded || flashed.kind == Outcome::Kind::configRejected;
-    if (!upload_ || !runs) {
-        return carrying(flashed, false);
+    Outcome ended = upload_ && runs ? upload_->run(sink) : flashed;
+    if (ended.kind == Outcome::Kind::succeeded) {
+        ended.message = what ? Texts::repaired(firmwarePhrase(), *what)
+                             : Texts::repairedWithoutConfig(firmwarePhrase());
     }
-    return carrying(upload_->run(sink), true);
+    return carrying(ended, upload_ && runs);
 }
 
 Outcome Repair::carrying(Outcome outcome, bool restored) const {
-    if (outcome.kind == Outcome::Kind::succeeded) {
-        outcome.message = Texts::repaired(firmwarePhrase(), putBackPhrase());
-    }
     if (outcome.isVerdict() || std::holds_alternative<std::monostate>(outcome.cause)) {
         const StartupCause* startup = outcome.startup();
-        outcome.cause = RepairCause{startup ? std::optional(*startup) : std::nullopt,
-                                    restored && outcome.isVerdict() ? restore_ : std::nullopt,
-                                    saved_ ? std::optional(saved_->path) : std::nullopt};
+        SettingsCause cause;
+        cause.startup = startup ? std::optional(*startup) : std::nullopt;
+        cause.saved = saved_ ? std::optional(saved_->path) : std::nullopt;
+        cause.restored = restored && outcome.isVerdict() ? restore_ : std::nullopt;
+        outcome.cause = cause;
     }
     return outcome;
 }
 
-std::optional<QString> Repair::putBackPhrase() const {
+std::optional<QString> Repair::putBackPhrase(Texts::Audience audience) const {
     if (backup_) {
-        return Texts::settingsOf(backup_->time);
+        return Texts::settingsOf(backup_->time, audience);
     }
     if (options_.putBack.kind == Kind::product) {
         return Texts::stockConfigOf(options_.putBack.product->name);

@@ -9,6 +9,7 @@
 #include "app/ResourceBundle.h"
 #include "app/operations/FlashFirmware.h"
 #include "app/operations/UploadConfig.h"
+#include "app/texts/Audience.h"
 
 /// Brings back a machine that does not start, with its own settings: the flashing
 /// job with Erase All Flash and the boot partitions (`FlashFirmware`), then the
@@ -35,10 +36,6 @@ class Repair : public Operation {
         PutBack putBack;
         /// The name the machine's backups are filed under; empty: found from the port.
         QString machine;
-        /// Words for what to choose when nothing is known to go back.
-        Texts::Audience audience = Texts::Audience::window;
-        /// teskal-flash's name for the port, as for `UploadConfig`.
-        std::optional<QString> commandLinePort;
         /// See `UploadConfig::Options::developmentConfigsRefused`.
         bool developmentConfigsRefused = false;
     };
@@ -56,21 +53,18 @@ class Repair : public Operation {
     /// flashing job and, once the machine runs, the upload. Ends as the step that
     /// stopped it, or with the machine's verdict after the upload; a success says
     /// "Machine repaired: …". Every ending after the save or the write carries a
-    /// `RepairCause`.
+    /// `SettingsCause`, and so does a save that failed (`Stop::notSaved`).
     Outcome run(const OperationSink& sink) override;
 
     /// Whether a repair is what helps after `outcome`: a machine that was written but
-    /// does not start because of what is in its flash (restarts in a loop, crashed,
-    /// no firmware). Not for a brown-out, which a power supply fixes.
+    /// does not start because of what is in its flash (see
+    /// `StartupVerdict::repairHelps`).
     static bool helps(const Outcome& outcome);
-
-    /// The copy read before the erase, once kept.
-    const std::optional<Backup>& saved() const { return saved_; }
 
   private:
     std::optional<Outcome> choose();
-    std::optional<Outcome> settleNewest();
-    std::optional<QString> putBackPhrase() const;
+    std::optional<Outcome> settleNewest(Texts::Audience audience);
+    std::optional<QString> putBackPhrase(Texts::Audience audience) const;
     QString firmwarePhrase() const;
     Outcome carrying(Outcome outcome, bool restored) const;
 

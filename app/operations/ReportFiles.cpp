@@ -2,10 +2,9 @@
 
 #include <QFileInfo>
 
+#include "app/MachineConfigCheck.h"
 #include "app/Texts.h"
 #include "app/VersionText.h"
-#include "app/operations/CheckConfigFile.h"
-#include "app/operations/CheckFirmwareFile.h"
 #include "image/FirmwareCheck.h"
 
 namespace {
@@ -15,6 +14,10 @@ QString hex(const std::array<uint8_t, 32>& digest) {
         QByteArray(reinterpret_cast<const char*>(digest.data()), digest.size()).toHex());
 }
 
+QString thousands(uint64_t value) {
+    return QString::fromStdString(image::withThousands(value));
+}
+
 QString chipName(uint16_t chipId) {
     const auto name = image::chipName(chipId);
     return name ? QString::fromStdString(*name) : Texts::unknownChip();
@@ -22,7 +25,7 @@ QString chipName(uint16_t chipId) {
 
 void logImageReport(const image::ImageReport& report, const std::optional<uint64_t>& partition,
                     const OperationSink& sink) {
-    sink.info(Texts::reportSize(static_cast<qint64>(report.size)));
+    sink.info(Texts::reportSize(thousands(report.size)));
     sink.info(Texts::reportSha256(hex(report.fileSha256)));
     if (report.layoutFault.empty()) {
         sink.info(Texts::reportChip(chipName(report.chipId), report.chipId));
@@ -34,14 +37,18 @@ void logImageReport(const image::ImageReport& report, const std::optional<uint64
     sink.info(Texts::reportProject(QString::fromStdString(report.app->projectName)));
     sink.info(
         Texts::reportBuilt(QString::fromStdString(report.app->date + ' ' + report.app->time)));
-    sink.info(partition ? Texts::reportPartition(report.size <= *partition,
-                                                 static_cast<qint64>(*partition))
-                        : Texts::reportPartitionUnknown());
+    if (!partition) {
+        sink.info(Texts::reportPartitionUnknown());
+    } else if (report.size <= *partition) {
+        sink.info(Texts::reportPartitionFits(thousands(*partition)));
+    } else {
+        sink.info(Texts::reportPartitionTooLarge(thousands(*partition)));
+    }
 }
 
 // The verdict line, and the reason as an error when refused.
 bool concluded(const Outcome& checked, const OperationSink& sink) {
-    sink.info(Texts::reportResult(!checked.isFailure()));
+    sink.info(checked.isFailure() ? Texts::reportRefused() : Texts::reportPasses());
     if (checked.isFailure()) {
         sink.error(checked.message);
     }
@@ -80,21 +87,20 @@ Outcome ReportFiles::run(const OperationSink& sink) {
 }
 
 bool ReportFiles::inspectImage(const QString& path, const OperationSink& sink) const {
-    CheckFirmwareFile check(path, resources_, developmentImages_);
-    const Outcome checked = check.run(sink);
-    if (check.report()) {
-        logImageReport(*check.report(), applicationPartitionSize(resources_), sink);
+    const FirmwareFileCheck checked = checkFirmwareFile(path, resources_, developmentImages_);
+    if (checked.report) {
+        logImageReport(*checked.report, applicationPartitionSize(resources_), sink);
     }
-    return concluded(checked, sink);
+    return concluded(checked.outcome, sink);
 }
 
 bool ReportFiles::inspectConfig(const QString& path, const OperationSink& sink) const {
-    CheckConfigFile check(path);
-    const Outcome checked = check.run(sink);
-    if (check.bytes()) {
-        sink.info(Texts::reportSize(check.bytes()->size()));
-        sink.info(Texts::reportMeta(
-            VersionText::metaVersion(*check.bytes()).value_or(QStringLiteral("none"))));
+    const auto checked = checkConfigFile(path);
+    if (const auto* bytes = std::get_if<QByteArray>(&checked)) {
+        sink.info(Texts::reportSize(thousands(static_cast<uint64_t>(bytes->size()))));
+        const auto meta = VersionText::metaVersion(*bytes);
+        sink.info(meta ? Texts::reportMeta(*meta) : Texts::reportNoMeta());
+        return concluded(Outcome::success(QString()), sink);
     }
-    return concluded(checked, sink);
+    return concluded(std::get<Outcome>(checked), sink);
 }

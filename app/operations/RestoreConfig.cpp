@@ -44,8 +44,6 @@ Outcome RestoreConfig::run(const OperationSink& sink) {
     if (uploaded.isFailure()) {
         return uploaded;
     }
-    const QString restored = Texts::settingsRestored(backup_->time);
-    sink.info(restored);
-    uploaded.message = restored;
+    uploaded.message = Texts::settingsRestored(Texts::backupTime(backup_->time, sink.audience));
     return uploaded;
 }

@@ -21,13 +21,9 @@ class RestoreConfig : public Operation {
     /// none), or the upload's refusal of its file. Keeps what it found for `run`.
     std::optional<Outcome> refusal() override;
 
-    /// The upload of the backup's file (see `UploadConfig::run`), then on success
-    /// "Settings restored from the backup of <date time>." in the log and as the
-    /// message.
+    /// The upload of the backup's file (see `UploadConfig::run`); a success says
+    /// "Settings restored from the backup of <date time>.".
     Outcome run(const OperationSink& sink) override;
-
-    /// The backup restored, once found.
-    const std::optional<Backup>& backup() const { return backup_; }
 
   private:
     QString port_;

@@ -12,7 +12,7 @@ QString SaveMachineConfig::defaultFileName(const QDateTime& when) {
 }
 
 Outcome SaveMachineConfig::run(const OperationSink& sink) {
-    if (auto unusable = PortDiagnosis::beforeJob(port_)) {
+    if (auto unusable = PortDiagnosis::beforeJob(port_, sink.audience)) {
         return *unusable;
     }
     auto read = MachineConfigFile::read({port_, machine_, BackupReason::save}, sink);

@@ -5,9 +5,10 @@
 #include "app/BackupIndex.h"
 #include "app/DeviceQueries.h"
 #include "app/FlasherBridge.h"
+#include "app/MachineConfigCheck.h"
 #include "app/PortDiagnosis.h"
 #include "app/Texts.h"
-#include "app/operations/CheckConfigFile.h"
+#include "app/VersionText.h"
 #include "app/operations/CheckStartup.h"
 #include "app/operations/MachineConfigFile.h"
 
@@ -34,13 +35,15 @@ std::optional<Outcome> UploadConfig::refusal() {
         }
         return std::nullopt;
     }
-    CheckConfigFile check(choice_.path);
-    const Outcome checked = check.run({});
-    if (checked.isFailure()) {
-        return checked;
+    auto checked = choice_.bytes ? checkConfigBytes(choice_.path, *choice_.bytes)
+                                 : checkConfigFile(choice_.path);
+    if (auto* refused = std::get_if<Outcome>(&checked)) {
+        return *refused;
     }
-    fileBytes_ = *check.bytes();
-    announcement_ = checked.message;
+    fileBytes_ = std::get<QByteArray>(std::move(checked));
+    announcement_ =
+        Texts::preparingFile(QFileInfo(choice_.path).fileName(),
+                             Texts::versionSuffix(VersionText::metaVersion(fileBytes_)));
     return std::nullopt;
 }
 
@@ -50,7 +53,7 @@ Outcome UploadConfig::run(const OperationSink& sink) {
             return *refused;
         }
     }
-    if (auto unusable = PortDiagnosis::beforeJob(port_)) {
+    if (auto unusable = PortDiagnosis::beforeJob(port_, sink.audience)) {
         return *unusable;
     }
     if (!choice_.product) {
@@ -74,7 +77,7 @@ Outcome UploadConfig::run(const OperationSink& sink) {
     const esp_error_t result =
         FlasherBridge::uploadConfig(port_, *bytes, sink.progress, sink.libraryLog);
     if (result != 0) {
-        return PortDiagnosis::afterJob(port_, Outcome::library(result));
+        return PortDiagnosis::afterJob(port_, Outcome::library(result), sink.audience);
     }
     sink.enter(Phase::configUploaded);
     sink.info(Texts::uploadComplete());
@@ -82,20 +85,24 @@ Outcome UploadConfig::run(const OperationSink& sink) {
                                    kCheckAfterUploadMs)
                           .run(sink);
     if (started.kind == Outcome::Kind::configRejected) {
-        findPrevious(sink);
+        std::get<StartupCause>(started.cause).previous = previous(sink);
     }
     return started;
 }
 
-void UploadConfig::findPrevious(const OperationSink& sink) {
-    previous_ = backup_ ? backup_
-                        : BackupIndex().newestOf(options_.machine.isEmpty()
-                                                     ? DeviceQueries::machineIdentity(port_)
-                                                     : options_.machine);
-    if (previous_ && options_.commandLinePort) {
-        sink.info(Texts::restorePreviousWithCommand(*options_.commandLinePort,
-                                                    QFileInfo(previous_->path).fileName()));
+std::optional<Backup> UploadConfig::previous(const OperationSink& sink) const {
+    const auto found = backup_ ? backup_
+                               : BackupIndex().newestOf(options_.machine.isEmpty()
+                                                            ? DeviceQueries::machineIdentity(port_)
+                                                            : options_.machine);
+    if (!found || (!choice_.product && found->path == choice_.path)) {
+        return std::nullopt;
     }
+    if (sink.audience == Texts::Audience::commandLine) {
+        sink.info(
+            Texts::restorePreviousWithCommand(sink.portName, QFileInfo(found->path).fileName()));
+    }
+    return found;
 }
 
 // The state is "uploading" from the start, also when the file then is not found.
@@ -103,7 +110,8 @@ std::optional<QByteArray> UploadConfig::productConfig(const OperationSink& sink)
     const auto found = resources_.readConfig(choice_.product->configFile);
     sink.enter(Phase::uploadingConfig, found ? found->size() : 0);
     if (found) {
-        sink.info(Texts::preparingProduct(choice_.product->name, Texts::versionSuffix(*found)));
+        sink.info(Texts::preparingProduct(choice_.product->name,
+                                          Texts::versionSuffix(VersionText::metaVersion(*found))));
     }
     return found;
 }

@@ -24,9 +24,6 @@ class UploadConfig : public Operation {
         bool developmentConfigsRefused = false;
         /// The name the machine's backups are filed under; empty: found from the port.
         QString machine;
-        /// teskal-flash's name for the port: a rejected configuration is then
-        /// followed by the restore-config command that puts the previous one back.
-        std::optional<QString> commandLinePort;
     };
 
     UploadConfig(QString port, ResourceBundle resources, ConfigChoice choice, Options options);
@@ -46,17 +43,15 @@ class UploadConfig : public Operation {
     /// (a success when it runs with the new configuration); `portUnusable` before it
     /// logs anything, or after the library could not open the port, when the port
     /// cannot be used (see `PortDiagnosis`). A configuration the machine rejects
-    /// finds `previousConfiguration`.
+    /// carries the one it had before as `StartupCause::previous`: the backup kept
+    /// before this upload, else the machine's newest, never the file just
+    /// uploaded; on the command line the restore-config command for it is logged.
     Outcome run(const OperationSink& sink) override;
-
-    /// After a run that ended `configRejected`: the configuration the machine had
-    /// before, the backup kept before this upload or else the machine's newest.
-    const std::optional<Backup>& previousConfiguration() const { return previous_; }
 
   private:
     std::optional<Outcome> backUp(const OperationSink& sink);
     std::optional<QByteArray> productConfig(const OperationSink& sink) const;
-    void findPrevious(const OperationSink& sink);
+    std::optional<Backup> previous(const OperationSink& sink) const;
 
     QString port_;
     ResourceBundle resources_;
@@ -66,5 +61,4 @@ class UploadConfig : public Operation {
     QByteArray fileBytes_;
     QString announcement_;
     std::optional<Backup> backup_;
-    std::optional<Backup> previous_;
 };

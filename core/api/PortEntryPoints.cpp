@@ -69,7 +69,8 @@ int esp_check_port(const char* port, int probe, esp_port_check* out) {
 
 size_t esp_survey_usb_serial(const char* sysfsRoot, const char* devRoot,
                              esp_usb_serial_device* devices, size_t capacity) {
-    const auto found = surveyUsbSerial(sysfsRoot != nullptr ? sysfsRoot : "/sys",
+    const auto found = surveyUsbSerial({ESP_PLOTTER_VENDOR_ID, ESP_PLOTTER_PRODUCT_ID},
+                                       sysfsRoot != nullptr ? sysfsRoot : "/sys",
                                        devRoot != nullptr ? devRoot : "/dev");
     for (size_t i = 0; devices != nullptr && i < found.size() && i < capacity; ++i) {
         fill(devices[i], found[i]);

@@ -29,6 +29,24 @@ extern "C" {
  * 1 and 10 are reserved for the application. */
 typedef uint32_t esp_error_t;
 
+/* The values of esp_error_t by name. */
+enum esp_result {
+    ESP_RESULT_OK = 0,
+    ESP_RESULT_NO_DEVICE = 1, /* reserved for the application: no device found */
+    ESP_RESULT_PORT_NOT_OPENED = 2,
+    ESP_RESULT_NO_SYNC = 3,
+    ESP_RESULT_WRONG_CHIP = 4, /* or secure boot or flash encryption enabled */
+    ESP_RESULT_STUB_FAILED = 5,
+    ESP_RESULT_WRITE_FAILED = 6, /* the whole-flash erase or a region write */
+    ESP_RESULT_VERIFY_FAILED = 7,
+    ESP_RESULT_CONFIG_FAILED = 8, /* configuration upload or file download */
+    ESP_RESULT_TIMED_OUT = 9,     /* reserved for the application */
+    ESP_RESULT_DISCONNECTED = 10  /* reserved for the application */
+};
+
+/* The plotter's USB ids: the ESP32-S3's built-in USB serial interface. */
+enum esp_plotter_usb_ids { ESP_PLOTTER_VENDOR_ID = 0x303A, ESP_PLOTTER_PRODUCT_ID = 0x1001 };
+
 /* Progress callback: fraction 0..1 and a short stage text. May be null. */
 typedef void (*esp_progress_cb)(float progress, const char* stage);
 
@@ -304,7 +322,7 @@ typedef struct esp_usb_serial_device {
 } esp_usb_serial_device;
 
 /* Lists what is attached over USB that matters for finding the plotter's port:
- * every device with ids 303a:1001 whether or not a port was made for it, and every
+ * every device with the plotter's ids whether or not a port was made for it, and every
  * other USB device that has a serial port (one entry per port; a plotter without
  * one gives an entry with an empty path and the driver of its first interface).
  * `sysfsRoot` (null: "/sys") is the folder holding bus/usb/devices and class/tty;

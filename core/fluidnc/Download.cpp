@@ -219,7 +219,7 @@ void Receiver::abandon() {
 
 void Receiver::reportSize(float fraction) {
     const std::string stage =
-        "Downloading " + name_ + "... " + std::to_string(file_.size()) + " bytes";
+        "Downloading " + name_ + "\u2026 " + std::to_string(file_.size()) + " bytes";
     report(progress_, fraction, stage.c_str());
 }
 

@@ -105,16 +105,10 @@ std::optional<Sign> headerSign(std::string_view line) {
     return word == kErasedHeader ? Sign::NoApp : Sign::BootLoop;
 }
 
-// A reset by a timer-group watchdog means the firmware hung. The RTC watchdog also
-// serves for deliberate resets, so its reset reason alone tells nothing.
-bool watchdogReset(std::string_view line) {
-    return contains(line, kResetLine) && (contains(line, "TG0WDT") || contains(line, "TG1WDT"));
-}
-
+// A crash is what the firmware reports of itself. The ROM's reset reason names no
+// culprit: its boot loader resets the chip by a watchdog too while it retries an
+// image it cannot start, so a watchdog reset line is one restart among others.
 Sign signOf(const std::string& line) {
-    if (watchdogReset(line)) {
-        return Sign::Panic;
-    }
     for (const auto& pattern : kPatterns) {
         if (contains(line, pattern.text)) {
             return pattern.sign;

@@ -15,10 +15,10 @@ namespace fluidnc {
 enum class StartupVerdict {
     Running = 0,       ///< answered a version that contains the expected one (or none expected)
     WrongVersion = 1,  ///< answered another version
-    BootLoop = 2,     ///< restarts over and over: two ROM banners or reset lines, an invalid header
-    Panic = 3,        ///< the firmware crashed: a panic, abort, backtrace, watchdog, stack overflow
-    NoApp = 4,        ///< nothing to start: no bootable application, a corrupt or erased image
-    Brownout = 5,     ///< the brown-out detector reset the chip (not enough power)
+    BootLoop = 2,  ///< restarts over and over: two ROM banners or reset lines, an invalid header
+    Panic = 3,     ///< the firmware reports a crash: panic, abort, backtrace, task watchdog, stack
+    NoApp = 4,     ///< nothing to start: no bootable application, a corrupt or erased image
+    Brownout = 5,  ///< the brown-out detector reset the chip (not enough power)
     ConfigError = 6,  ///< the firmware runs but reported errors reading its configuration
     NoAnswer = 7,     ///< no version and nothing conclusive
 };

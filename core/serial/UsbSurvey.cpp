@@ -58,7 +58,7 @@ std::string nodeOf(const std::string& devRoot, const std::string& ttyName) {
 
 }  // namespace
 
-std::vector<UsbSerialDevice> surveyUsbSerial(const std::string& sysfsRoot,
+std::vector<UsbSerialDevice> surveyUsbSerial(UsbIds plotter, const std::string& sysfsRoot,
                                              const std::string& devRoot) {
     std::vector<UsbSerialDevice> found;
     const sysfs::Root root(sysfsRoot);
@@ -87,8 +87,7 @@ std::vector<UsbSerialDevice> surveyUsbSerial(const std::string& sysfsRoot,
                 found.push_back(device);
             }
         }
-        if (!hasTty && device.vendorId == kPlotterVendorId &&
-            device.productId == kPlotterProductId) {
+        if (!hasTty && device.vendorId == plotter.vendor && device.productId == plotter.product) {
             device.driver = driverOf(root, firstInterface(root, *folder));
             found.push_back(device);
         }

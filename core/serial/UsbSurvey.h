@@ -14,18 +14,20 @@ struct UsbSerialDevice {
     std::string path;     ///< the port's device node, empty when none was made
 };
 
-/// The plotter's USB ids (its chip's built-in USB serial interface).
-inline constexpr uint16_t kPlotterVendorId = 0x303A;
-inline constexpr uint16_t kPlotterProductId = 0x1001;
+/// A USB device's vendor and product id.
+struct UsbIds {
+    uint16_t vendor = 0;
+    uint16_t product = 0;
+};
 
 /// What is attached over USB that matters for finding the plotter's port: every
-/// plotter whether or not a port was made for it, and every other USB device that
-/// has a tty. A device with several ttys gives one entry per tty; a plotter without
-/// any gives one entry with an empty `path`, whose `driver` is that of its first
-/// interface. Ordered by the device's bus position, then by tty name.
+/// device with the `plotter`'s ids whether or not a port was made for it, and every
+/// other USB device that has a tty. A device with several ttys gives one entry per tty; a plotter
+/// without any gives one entry with an empty `path`, whose `driver` is that of its first interface.
+/// Ordered by the device's bus position, then by tty name.
 ///
 /// `sysfsRoot` is the folder that holds `bus/usb/devices` and `class/tty` ("/sys");
 /// nodes are looked for under `devRoot` ("/dev"). Reads sysfs only, opens no device
 /// node and never fails: problems only shorten the result. Stateless, thread-safe.
-std::vector<UsbSerialDevice> surveyUsbSerial(const std::string& sysfsRoot = "/sys",
+std::vector<UsbSerialDevice> surveyUsbSerial(UsbIds plotter, const std::string& sysfsRoot = "/sys",
                                              const std::string& devRoot = "/dev");

@@ -133,8 +133,8 @@ TEST_F(DeviceJobsTest, DownloadGivesBackTheUploadedBytes) {
             EXPECT_TRUE(logLines.empty());
             ASSERT_FALSE(progressCalls.empty());
             EXPECT_EQ(progressCalls.back(),
-                      std::make_pair(
-                          1.0f, "Downloading config.yaml... " + std::to_string(size) + " bytes"));
+                      std::make_pair(1.0f, "Downloading config.yaml\u2026 " + std::to_string(size) +
+                                               " bytes"));
         }
     }
 }

@@ -5,6 +5,7 @@
 #include "app/BuildConfig.h"
 #include "app/LogExport.h"
 #include "app/MachineConfigCheck.h"
+#include "app/OutcomeTable.h"
 #include "app/VersionText.h"
 #include "app/operations/SaveMachineConfig.h"
 
@@ -83,11 +84,55 @@ class AppCoreTest : public QObject {
                  QByteArray("beside"));
     }
 
+    // The one table: a library code's message, what to do next, and the status
+    // teskal-flash ends with (the code itself); a code it does not know is passed on.
+    void libraryCodesInTheOutcomeTable_data() {
+        QTest::addColumn<uint>("code");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("nextStep");
+        const QString again =
+            QStringLiteral("Try again; if it fails again, use another USB cable or port.");
+        const QString replug =
+            QStringLiteral("Unplug the machine, plug it in again, and try again.");
+        QTest::newRow("2") << 2u << "Could not open serial port. Is another app using it?"
+                           << "Close any other program that uses the port, unplug and reconnect "
+                              "the machine, and try again.";
+        QTest::newRow("3") << 3u << "Failed to sync with device. Try unplugging and reconnecting."
+                           << replug;
+        QTest::newRow("4") << 4u << "Unexpected chip detected. Verify hardware."
+                           << "This controller cannot take this firmware; contact support "
+                              "before trying again.";
+        QTest::newRow("5") << 5u << "Failed to upload communication stub." << again;
+        QTest::newRow("6") << 6u << "Flash write failed. Try again." << again;
+        QTest::newRow("7") << 7u << "Verification failed. Flash may be corrupted \u2014 try again."
+                           << again;
+        QTest::newRow("8") << 8u << "Config upload failed." << again;
+        QTest::newRow("10") << 10u << "Device disconnected during operation." << replug;
+        QTest::newRow("unknown") << 0xFFFFFFFFu << "Unknown error (code 4294967295)"
+                                 << "";
+    }
+
+    void libraryCodesInTheOutcomeTable() {
+        QFETCH(uint, code);
+        QFETCH(QString, message);
+        QFETCH(QString, nextStep);
+        const Outcome failed = Outcome::library(code);
+        QCOMPARE(failed.message, message);
+        QCOMPARE(UpdateController::errorMessage(code), message);
+        for (const auto audience : {Texts::Audience::window, Texts::Audience::commandLine}) {
+            QCOMPARE(OutcomeTable::nextStep(failed, audience), nextStep);
+        }
+        QCOMPARE(OutcomeTable::exitStatus(failed), static_cast<int>(code));
+        QCOMPARE(kindNamed(kindName(failed.kind)), std::optional(Outcome::Kind::failed));
+    }
+
     void errorMessagesVersionCleanUpAndFileNames() {
-        QCOMPARE(UpdateController::errorMessage(7),
-                 QStringLiteral("Verification failed. Flash may be corrupted \u2014 try again."));
-        QCOMPARE(UpdateController::errorMessage(0xFFFFFFFFu),
-                 QStringLiteral("Unknown error (code 4294967295)"));
+        // One version style, as the firmware line shows it.
+        for (const auto& [version, shown] :
+             {std::pair{"v3.7.8", "3.7.8"}, std::pair{"V2", "2"}, std::pair{"2.10.6", "2.10.6"},
+              std::pair{"vanilla", "vanilla"}, std::pair{"v", "v"}}) {
+            QCOMPARE(VersionText::shown(version), QString(shown));
+        }
         for (const auto& [reply, version] : {
                  std::pair{" \tFluidNC v3.7.8 (main-abc)\t ", "v3.7.8"},
                  std::pair{"fluidnc 2.10.6", "2.10.6"},  // any case

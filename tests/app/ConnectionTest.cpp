@@ -59,10 +59,13 @@ QStringList rowTexts(const Checklist& list) {
     return texts;
 }
 
+UsbSurvey surveyOf(const FakeSysfs& tree) {
+    return surveyOf(
+        DevicePlaces{QString::fromStdString(tree.sys), QString::fromStdString(tree.dev)});
+}
+
 Checklist checkTree(const FakeSysfs& tree) {
-    return CheckConnection(QStringLiteral("RULE"),
-                           {QString::fromStdString(tree.sys), QString::fromStdString(tree.dev)})
-        .check();
+    return CheckConnection(QStringLiteral("RULE"), surveyOf(tree)).check();
 }
 
 PortCause cause(int problem, const QString& group = {}, unsigned mode = 0) {
@@ -153,8 +156,7 @@ void ConnectionTest::checklistFollowsTheUsbTree() {
     QCOMPARE(found.readyPort, setup == "ready" ? std::optional(acm1) : std::nullopt);
     QVERIFY(!found.permissionDenied);
 
-    const Outcome outcome =
-        CheckConnection(QString(), {QString::fromStdString(tree.sys), dev}).run({});
+    const Outcome outcome = CheckConnection(QString(), surveyOf(tree)).run({});
     QCOMPARE(outcome.kind, setup == "ready" ? Outcome::Kind::succeeded : Outcome::Kind::notReady);
     QCOMPARE(std::get<Checklist>(outcome.cause).rows.size(), expected.size());
 }
@@ -320,12 +322,11 @@ void ConnectionTest::aPortThatComesAndGoesIsAPlotterThatKeepsRestarting() {
                                          } else {
                                              std::filesystem::create_symlink(pty.path, node);
                                          }
-                                     },
-                                     Texts::Audience::commandLine};
-        CheckConnection check(QStringLiteral("RULE"),
-                              {QString::fromStdString(tree.sys), QString::fromStdString(tree.dev)},
-                              watch);
-        const Outcome outcome = check.run({});
+                                     }};
+        OperationSink commandLine;
+        commandLine.audience = Texts::Audience::commandLine;
+        const Outcome outcome =
+            CheckConnection(QStringLiteral("RULE"), surveyOf(tree), watch).run(commandLine);
         QCOMPARE(outcome.kind, Outcome::Kind::notReady);
         const QString first = rowTexts(std::get<Checklist>(outcome.cause)).first();
         QCOMPARE(first,

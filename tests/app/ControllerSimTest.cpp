@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <QRegularExpression>
 #include <QSignalSpy>
 
@@ -8,6 +10,7 @@
 #include "app/Outcome.h"
 #include "app/SimulatedPlotter.h"
 #include "app/Texts.h"
+#include "app/operations/EraseKeepingSettings.h"
 #include "app/operations/MachineConfigFile.h"
 #include "app/operations/Repair.h"
 #include "tests/support/Descriptors.h"
@@ -22,6 +25,8 @@ const QString kSaving =
 const QString kErasedNote = QStringLiteral(
     "NOTE: Flash was erased. Use Config > Update Config to upload the configuration for your "
     "machine.");
+const QString kRunning = QStringLiteral("Firmware 2.10.6 installed and running.");
+const QString kRestarted = QStringLiteral("Configuration uploaded; the machine restarted with it.");
 constexpr int kJobTimeoutMs = 60000;
 
 std::unique_ptr<sim::PtyPlotter> simulated(sim::Config config = {}) {
@@ -79,6 +84,8 @@ class ControllerSimTest : public QObject {
     Q_OBJECT
 
   private slots:
+    // Dates in the window are the locale's; these cases read them in C's.
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
     void updatesOfAChosenImageAfterEraseAllAndUnplugged();
     void configurationsSavedComparedBackedUpAndUploaded();
     void everyStartUpComesBackAsItsVerdict_data();
@@ -98,7 +105,8 @@ void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
     controller.chooseCustomFirmware(TFU_DEV_RESOURCES_DIR "/firmware.bin");
     QVERIFY(rig.run([&] { controller.updateFirmware(); }));
     QCOMPARE(rig.outcome(), std::optional(UpdateState::flashComplete()));
-    QTRY_COMPARE(controller.logMessages().last(), kComplete);
+    QTRY_COMPARE(controller.logMessages().last(), kRunning);
+    QVERIFY(controller.logMessages().contains(kComplete));
     QCOMPARE(controller.logMessages().first(), "Updating firmware (custom: firmware.bin)\u2026");
     // A chosen image carries no version the job could expect afterwards.
     QVERIFY(!controller.logMessages().contains("Verifying firmware version..."));
@@ -113,7 +121,8 @@ void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
     const qsizetype before = transcript(*rig.plotter).size();
     QVERIFY(rig.run([&] { controller.updateFirmware(); }));
     QCOMPARE(rig.outcome(), std::optional(UpdateState::flashComplete()));
-    QTRY_COMPARE(controller.logMessages(), QStringList({kShipped, kComplete, "", kErasedNote}));
+    QTRY_COMPARE(controller.logMessages(),
+                 QStringList({kShipped, kComplete, "", kErasedNote, kRunning}));
     // The erase is reported at 0.08 in single precision, and published as reported.
     QCOMPARE(rig.harness.busySpan().mid(0, 2),
              QList<UpdateState>({UpdateState::flashing(0), UpdateState::flashing(0.08f)}));
@@ -180,6 +189,10 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     QCOMPARE(controller.logMessages(),
              QStringList({"ERROR: Another operation is already running", savedTo(saved)}));
     QCOMPARE(readFile(saved), tuned);
+    // It can hold network credentials: the owner's alone, as the backups are.
+    struct stat status {};
+    QVERIFY(::stat(qPrintable(saved), &status) == 0);
+    QCOMPARE(status.st_mode & 07777, 0600u);
     QCOMPARE(QDir(rig.dir.path()).entryList(QDir::Files), QStringList{"saved.yaml"});
     // The download holds its state through every poll; only its end brings "ready".
     const QStringList published = rig.harness.publishedByJob();
@@ -187,7 +200,7 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     QCOMPARE(published.mid(published.indexOf("ready"), 2),
              QStringList({"ready", "status: Machine config saved"}));
     QVERIFY(published.contains(
-        QString("status: Downloading config.yaml... %1 bytes").arg(tuned.size())));
+        QString("status: Downloading config.yaml\u2026 %1 bytes").arg(tuned.size())));
 
     QSignalSpy compared(&controller, &UpdateController::machineConfigCompared);
     controller.compareWithMachine(halcotChoice);
@@ -203,7 +216,7 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     controller.setBackupBeforeUploadEnabled(true);
     QVERIFY(rig.run([&] { controller.uploadConfig("Halcot.yaml", "Corvane Halcot"); }));
     QCOMPARE(rig.outcome(), std::optional(UpdateState::configComplete()));
-    QTRY_COMPARE(controller.logMessages().last(), kUploaded);
+    QTRY_COMPARE(controller.logMessages().last(), kRestarted);
     // Every read kept a copy: the save, the comparison and the backup before the upload.
     const QList<Backup> kept = BackupIndex(backups.path()).list();
     QCOMPARE(kept.size(), 3);
@@ -251,7 +264,7 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
     // from the status line.
     QTRY_COMPARE(controller.logMessages(),
                  QStringList({"Preparing workshop.yml v9.9", "Uploading config file...",
-                              "Uploading config file...", kUploaded}));
+                              "Uploading config file...", kUploaded, kRestarted}));
     // Three XModem blocks: the library reports 1/3, 2/3 and 1 in single precision,
     // which the controller must publish exactly as reported.
     QCOMPARE(rig.harness.busySpan(),
@@ -265,7 +278,8 @@ void ControllerSimTest::configurationsSavedComparedBackedUpAndUploaded() {
 
 // The write succeeds every time; what the machine prints afterwards decides the
 // outcome (the core's tests judge each start-up; these are the kinds the window
-// shows). The log keeps the job's lines, the state stays that of the write.
+// shows). The log keeps the job's lines and ends with the banner's sentence; the
+// start check is a stage of its own; the state stays that of the write.
 void ControllerSimTest::everyStartUpComesBackAsItsVerdict_data() {
     QTest::addColumn<int>("startup");  // sim::Startup
     QTest::addColumn<bool>("upload");
@@ -300,14 +314,21 @@ void ControllerSimTest::everyStartUpComesBackAsItsVerdict() {
                : controller.updateFirmware();
     }));
     const Outcome& outcome = *controller.result();
-    QCOMPARE(outcome.kind, Outcome::Kind(kind));
+    QVERIFY2(outcome.kind == Outcome::Kind(kind), qPrintable(controller.logMessages().join('\n')));
     QCOMPARE(std::get<StartupCause>(outcome.cause).verdict, verdict);
     QVERIFY(outcome.evidence.isEmpty() || outcome.evidence.first().startsWith(evidence));
-    QTRY_VERIFY(controller.logMessages().contains(upload ? kUploaded : kComplete));
-    QCOMPARE(controller.logMessages().contains("ERROR: " + outcome.message),
-             outcome.kind != Outcome::Kind::succeeded);
+    const QStringList log = controller.logMessages();
+    QVERIFY(log.contains(upload ? kUploaded : kComplete));
+    // A machine that does not run what was written is quoted before the sentence.
+    const QStringList quoted =
+        outcome.isFailure()
+            ? QStringList(outcome.evidence).replaceInStrings(QRegularExpression("^"), "  ")
+            : QStringList();
+    QCOMPARE(log.mid(log.size() - 1 - quoted.size()),
+             quoted + QStringList{(outcome.isFailure() ? "ERROR: " : "") + outcome.message});
     // The write's state, never an error: the machine's verdict is the banner's.
     const QList<UpdateState>& states = rig.harness.states;
+    QVERIFY(states.contains(UpdateState::checkingStartup()));
     QVERIFY(states.contains(upload ? UpdateState::configComplete() : UpdateState::flashComplete()));
     QVERIFY(std::none_of(states.begin(), states.end(), [](const UpdateState& s) {
         return s.kind() == UpdateState::Kind::error;
@@ -363,7 +384,10 @@ void ControllerSimTest::eraseAllKeepsTheMachinesSettings() {
     };
     const auto restored = [&] {
         const QStringList log = controller.logMessages();
-        return !log.isEmpty() && log.last().startsWith("Settings restored from the backup of ");
+        return !log.isEmpty() &&
+               log.last().startsWith(
+                   "Firmware 2.10.6 installed and running, with your settings restored from the "
+                   "backup of ");
     };
 
     // Cancel: nothing happens.
@@ -397,12 +421,17 @@ void ControllerSimTest::eraseAllKeepsTheMachinesSettings() {
             {kSaving,
              QString("Machine config saved to %1 (%2 bytes)").arg(kept[0].path).arg(tuned.size()),
              kShipped}));
-    QCOMPARE(log.mid(log.indexOf(kComplete)),
-             QStringList({kComplete, "", kErasedNote,
-                          "Preparing " + QFileInfo(kept[0].path).fileName() + " v1.2.0-devset",
-                          "Uploading config file...", "Uploading config file...", kUploaded,
-                          "Settings restored from the backup of " +
-                              Texts::backupTime(kept[0].time) + "."}));
+    // The NOTE stays, and the next line says what the job then does by itself.
+    const QString when = Texts::backupTime(kept[0].time, Texts::Audience::window);
+    QCOMPARE(
+        log.mid(log.indexOf(kComplete)),
+        QStringList({kComplete, "", kErasedNote,
+                     "Once the machine runs, your settings from " + when + " will be put back.",
+                     "Preparing " + QFileInfo(kept[0].path).fileName() + " v1.2.0-devset",
+                     "Uploading config file...", "Uploading config file...", kUploaded,
+                     "Firmware 2.10.6 installed and running, with your settings restored "
+                     "from the backup of " +
+                         when + "."}));
     QCOMPARE(asked, QStringList{"erase?"});
 
     // A read that fails erases nothing; Retry reads again on a console that still
@@ -477,14 +506,18 @@ void ControllerSimTest::teskalFlashErasesASilentMachineSayingNothingWasSaved() {
     EraseKeepingSettings::Options options;
     options.flash.developmentImages = DevelopmentImages::accept;
     options.goOnWhenSilent = true;
-    options.commandLinePort = "sim1";
     EraseKeepingSettings erase(rig.port, ResourceBundle(TFU_DEV_RESOURCES_DIR), options);
     QStringList log;
     OperationSink sink;
+    sink.audience = Texts::Audience::commandLine;
+    sink.portName = "sim1";
     sink.log = [&](const LogEntry& entry) { log << entry.line(); };
     // Written and verified; a console that stays silent cannot confirm it either.
-    QCOMPARE(erase.run(sink).kind, Outcome::Kind::notConfirmed);
-    QCOMPARE(erase.stop(), EraseKeepingSettings::Stop::none);
+    const Outcome erased = erase.run(sink);
+    QCOMPARE(erased.kind, Outcome::Kind::notConfirmed);
+    const auto& settings = std::get<SettingsCause>(erased.cause);
+    QCOMPARE(settings.stop, SettingsCause::Stop::none);
+    QCOMPARE(settings.saved, std::nullopt);
     QCOMPARE(log.mid(0, 4),
              QStringList({kSaving,
                           "The machine's firmware does not answer, so its settings cannot be "
@@ -506,24 +539,32 @@ void ControllerSimTest::aRejectedConfigurationIsOneStepFromThePreviousOne() {
         QCOMPARE(controller.result()->kind, Outcome::Kind::configRejected);
     };
 
+    const auto previous = [&] { return controller.result()->startup()->previous; };
+
     // The backup from before the upload is offered.
     controller.setBackupBeforeUploadEnabled(true);
     uploadRejected();
     const Backup before = BackupIndex().list().value(0);
     QCOMPARE(before.reason, BackupReason::beforeUpload);
-    QCOMPARE(controller.previousConfiguration(), before);
+    QCOMPARE(previous(), before);
 
     // Without one, the machine's newest; a job that ends otherwise offers none.
     controller.setBackupBeforeUploadEnabled(false);
     uploadRejected();
-    QCOMPARE(controller.previousConfiguration(), before);
+    QCOMPARE(previous(), before);
+    // Rejected too, the newest offers nothing: it is the file just put back.
+    QVERIFY(rig.run([&] { controller.restorePreviousConfiguration(); }));
+    QCOMPARE(controller.result()->kind, Outcome::Kind::configRejected);
+    QCOMPARE(previous(), std::nullopt);
+    QVERIFY(rig.run([&] { controller.uploadConfig("Halcot.yaml", "Corvane Halcot"); }));
     rig.plotter->modify([](sim::Plotter& p) { p.config().startup = sim::Startup::Healthy; });
     QVERIFY(rig.run([&] { controller.restorePreviousConfiguration(); }));
     QCOMPARE(controller.result()->kind, Outcome::Kind::succeeded);
     QCOMPARE(storedConfig(*rig.plotter), tuned);
-    QVERIFY(controller.logMessages().contains("Settings restored from the backup of " +
-                                              Texts::backupTime(before.time) + "."));
-    QCOMPARE(controller.previousConfiguration(), std::nullopt);
+    QCOMPARE(controller.logMessages().last(),
+             "Settings restored from the backup of " +
+                 Texts::backupTime(before.time, Texts::Audience::window) + ".");
+    QCOMPARE(previous(), std::nullopt);
 }
 
 // A boot-looping machine: nothing known to go back erases nothing; with a backup of
@@ -549,12 +590,17 @@ void ControllerSimTest::repairBringsBackAMachineThatDoesNotStartWithItsSettings(
     const Outcome repaired = *controller.result();
     QCOMPARE(repaired.message,
              QStringLiteral("Machine repaired: it runs firmware 2.10.6 with your settings from "
-                            "24 Nov 2026 14:02."));
+                            "24 Nov 2026 14:02:00."));
     QCOMPARE(repaired.startup()->verdict, ESP_STARTUP_RUNNING);
     QCOMPARE(storedConfig(*rig.plotter), tuned);
-    QVERIFY(controller.logMessages().contains(
+    const QStringList log = controller.logMessages();
+    QVERIFY(log.contains(
         "Erase the machine, install firmware 2.10.6, then put back your settings from 24 Nov "
-        "2026 14:02."));
+        "2026 14:02:00."));
+    QCOMPARE(log.mid(log.indexOf(kErasedNote) + 1, 1),
+             QStringList{"Once the machine runs, your settings from 24 Nov 2026 14:02:00 will be "
+                         "put back."});
+    QCOMPARE(log.last(), repaired.message);
 }
 
 // A firmware that answers is saved before the erase, and the repair sends exactly
@@ -574,10 +620,11 @@ void ControllerSimTest::repairSavesAnAnsweringFirmwareAndSendsWhatItsStepsSend()
             Repair::Options options;
             options.flash = flash;
             options.putBack = {Repair::PutBack::Kind::product, {}, halcot};
-            Repair repair(port, resources, options);
-            QCOMPARE(repair.run({}).kind, Outcome::Kind::succeeded);
-            QVERIFY(repair.saved());
-            QCOMPARE(repair.saved()->reason, BackupReason::beforeErase);
+            const Outcome repaired = Repair(port, resources, options).run({});
+            QCOMPARE(repaired.kind, Outcome::Kind::succeeded);
+            const auto& settings = std::get<SettingsCause>(repaired.cause);
+            QVERIFY(settings.saved && settings.restored);
+            QCOMPARE(BackupIndex().find(*settings.saved)->reason, BackupReason::beforeErase);
         } else {
             const auto version = DeviceQueries::firmwareVersion(port);
             QVERIFY(std::holds_alternative<Backup>(

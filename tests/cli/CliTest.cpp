@@ -31,6 +31,9 @@ const QString kNoPort = QStringLiteral("/dev/tfu-no-such-port");
 const QString kComplete = QStringLiteral("Firmware update complete.");
 const QString kUploaded = QStringLiteral("Upload successful; restarting machine.");
 const QString kRunning = QStringLiteral("Firmware 2.10.6 installed and running.");
+// The permission rule's fix names what installs it: in the build tree, which has
+// neither its helper nor its rule file, the rule by name.
+const QString kRuleHere = QStringLiteral("60-teskal-firmware-updater.rules in /etc/udev/rules.d");
 const QString kWarning = QStringLiteral(
     "Writing firmware: stopping now can leave the machine unable to start. Press Ctrl+C again "
     "to stop.\n");
@@ -142,6 +145,8 @@ class CliTest : public QObject {
     void jsonLogLinesCarryTheirSeverity();
     void theMachinesStartDecidesTheStatus();
     void severalPlottersRunAtOnce();
+    void severalPlottersEndAsOneDoes_data();
+    void severalPlottersEndAsOneDoes();
     void fleetEndsWithTheFirstFailureInPortOrder();
     void terminalProgressIsRedrawnInPlace();
     void ctrlCWarnsOnceDuringAWrite_data();
@@ -183,9 +188,16 @@ void CliTest::initTestCase() {
         {"real/partitions.bin", contentsOf(kDev + "/partitions.bin")},
         {"real/boot_app0.bin", QByteArray(8192, '\xFF')},
         {"real/esp32s3_stub.bin", QByteArray(100 * 1024, '\0') + marker},
+        // A real set a plotter that never answers gets as far as the sync with.
+        {"unmarked/firmware.bin", unmarked},
+        {"unmarked/bootloader.bin", unmarked},
+        {"unmarked/partitions.bin", contentsOf(kDev + "/partitions.bin")},
+        {"unmarked/boot_app0.bin", QByteArray(8192, '\xFF')},
+        {"unmarked/esp32s3_stub.bin", QByteArray(100 * 1024, '\0')},
         {"stand-in", kStandIn},
     };
-    QVERIFY(QDir(files_.path()).mkpath("empty-resources") && QDir(files_.path()).mkpath("real"));
+    QVERIFY(QDir(files_.path()).mkpath("empty-resources") && QDir(files_.path()).mkpath("real") &&
+            QDir(files_.path()).mkpath("unmarked"));
     for (const auto& [name, bytes] : contents) {
         QFile out(file(name));
         QVERIFY(out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size());
@@ -410,6 +422,7 @@ void CliTest::severalPlottersRunAtOnce() {
         QCOMPARE(last[port + " result"], QJsonObject({{"type", "result"},
                                                       {"code", 0},
                                                       {"message", kRunning},
+                                                      {"kind", "succeeded"},
                                                       {"machine", "running"},
                                                       {"evidence", QJsonArray{"[VER:2.10.6:]"}},
                                                       {"port", port}}));
@@ -430,6 +443,57 @@ void CliTest::severalPlottersRunAtOnce() {
 }
 
 // Each child as "PORT CODE" for a result, "PORT error" for an error after it.
+// Each child's result carries its outcome's kind and the library's code, so that
+// with several plotters each ends in the words one plotter ends in: the sentence and
+// what to do next (the machine's quoted lines may differ from run to run).
+void CliTest::severalPlottersEndAsOneDoes_data() {
+    QTest::addColumn<QStringList>("one");
+    QTest::addColumn<QStringList>("several");
+    QTest::addColumn<QStringList>("ports");
+    QTest::newRow("a machine that restarts in a loop")
+        << QStringList{"flash", "--sim", "--sim-startup", "boot-loop"}
+        << QStringList{"flash", "--sim", "2", "--all", "--sim-startup", "boot-loop"}
+        << QStringList{"sim1", "sim2"};
+    QTest::newRow("a library failure: no sync")
+        << QStringList{"flash", "--full", "--resources", file("unmarked"), "--port", "OTHER"}
+        << QStringList{"flash",  "--full",  "--resources", file("unmarked"),
+                       "--port", freePort_, "--port",      freePort_ + "-gone"}
+        << QStringList{freePort_};
+}
+
+void CliTest::severalPlottersEndAsOneDoes() {
+    QFETCH(QStringList, one);
+    QFETCH(QStringList, several);
+    QFETCH(QStringList, ports);
+    // The one plotter's port, that nobody serves either.
+    const FreePty other;
+    one.replaceInStrings("OTHER", QString::fromStdString(other.path));
+    const auto ending = [](const QString& err, const QString& prefix) {
+        QStringList lines;
+        for (const QString& line : err.split('\n', Qt::SkipEmptyParts)) {
+            if (line.startsWith(prefix) && !line.mid(prefix.size()).startsWith("  ")) {
+                lines << line.mid(prefix.size());
+            }
+        }
+        return lines;
+    };
+    // Both at once: each waits on its machines, not on the other.
+    QProcess processes[2];
+    processes[0].start(kProgram, one);
+    processes[1].start(kProgram, several);
+    for (QProcess& process : processes) {
+        QVERIFY(process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit);
+    }
+    const Run single{processes[0].exitCode(), {}, processes[0].readAllStandardError()};
+    const Run fleet{processes[1].exitCode(), {}, processes[1].readAllStandardError()};
+    const QStringList alone = ending(single.err, QString());
+    QVERIFY2(alone.size() == 2, qPrintable(single.err));
+    QCOMPARE(fleet.exitCode, single.exitCode);
+    for (const QString& port : ports) {
+        QCOMPARE(ending(fleet.err, port + ": "), alone);
+    }
+}
+
 void CliTest::fleetEndsWithTheFirstFailureInPortOrder() {
     const QString standIn = file("stand-in");
     const std::tuple<QString, QStringList, int, QStringList> rows[] = {
@@ -547,13 +611,14 @@ void CliTest::aPortTheUserMayNotOpenIsNamedAndGetsNothing() {
         QVERIFY(::chmod(qPrintable(port), 0660) == 0);
         launcher = QStringList{"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"};
         denied = "Permission denied on " + port +
-                 " (group dialout). Install the permission rule (teskal-flash doctor), or join "
-                 "the group: sudo usermod -aG dialout $USER, then log out and in again.";
+                 " (group dialout). Install the permission rule (" + kRuleHere +
+                 "), or join the group: sudo usermod -aG dialout $USER, then log out "
+                 "and in again.";
     } else {
         // The user's own node, without permission bits.
         QVERIFY(::chmod(qPrintable(port), 0) == 0);
         denied = "Permission denied on " + port + " (owner " + qgetenv("USER") +
-                 ", mode 0000). Install the permission rule (teskal-flash doctor).";
+                 ", mode 0000). Install the permission rule (" + kRuleHere + ").";
     }
     const QStringList commands[] = {
         {"version", "--port", port},
@@ -592,9 +657,10 @@ void CliTest::doctorAndDetectSayWhyNoPlotterIsReady() {
     QCOMPARE(
         objects.first(),
         QJsonObject({{"type", "check"}, {"mark", "problem"}, {"line", noPlotter}, {"fix", fix}}));
-    QCOMPARE(
-        objects.last(),
-        QJsonObject({{"type", "result"}, {"code", 1}, {"message", "No plotter is ready to use."}}));
+    QCOMPARE(objects.last(), QJsonObject({{"type", "result"},
+                                          {"code", 1},
+                                          {"message", "No plotter is ready to use."},
+                                          {"kind", "not-ready"}}));
     for (const QJsonObject& other : objects.mid(1, objects.size() - 2)) {
         QCOMPARE(other["mark"].toString(), QStringLiteral("info"));
     }

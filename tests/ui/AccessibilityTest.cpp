@@ -110,8 +110,11 @@ class AccessibilityTest : public QObject {
         report.verdict = verdict;
         report.version = QString(verdict == ESP_STARTUP_WRONG_VERSION ? "2.9.1" : "2.10.6");
         report.evidence = {QStringLiteral("rst:0xc (RTC_SW_CPU_RST),boot:0x8")};
-        view_->showResult(startupOutcome(report, StartupCause::Written::firmware, "2.10.6"),
-                          previousOffered);
+        Outcome outcome = startupOutcome(report, StartupCause::Written::firmware, "2.10.6");
+        if (previousOffered) {
+            std::get<StartupCause>(outcome.cause).previous = Backup{};
+        }
+        view_->showResult(outcome);
     }
     // The text colours of `window`'s visible labels and buttons against what they
     // stand on, each below the ratio written into `failures`.
@@ -190,8 +193,8 @@ void AccessibilityTest::escapeClosesEveryDialog() {
     qputenv("XDG_DATA_HOME", folder.filePath("data").toUtf8());
     FakeSysfs devices;
     AppDelegate::Options options;
-    options.devicePlaces = {QString::fromStdString(devices.sys),
-                            QString::fromStdString(devices.dev)};
+    options.survey =
+        surveyOf({QString::fromStdString(devices.sys), QString::fromStdString(devices.dev)});
     AppDelegate delegate(
         std::make_unique<UpdateController>(ResourceBundle(folder.path()), noDevice),
         std::move(options));
@@ -293,7 +296,7 @@ void AccessibilityTest::textReadsOnItsBackgroundInLightAndDarkPalettes() {
     tree.interface("usb1/1-2/1-2:1.0", "ch341");
     tree.tty("ttyUSB0", "usb1/1-2/1-2:1.0/ttyUSB0");
     ConnectionCheckWindow check(
-        {QString::fromStdString(tree.sys), QString::fromStdString(tree.dev)},
+        surveyOf({QString::fromStdString(tree.sys), QString::fromStdString(tree.dev)}),
         PermissionRule::installed());
     AboutWindow about(BuildConfig::products(), BuildConfig::buildDate(), QPixmap());
     check.show();

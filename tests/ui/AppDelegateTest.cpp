@@ -41,6 +41,8 @@ class AppDelegateTest : public QObject {
     Q_OBJECT
 
   private slots:
+    // Dates in the window are the locale's; these cases read them in C's.
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
     void init() { launch({{"Alpha", "alpha.yaml"}, {"Beta", "beta.yaml"}}); }
 
     void menuBarMatchesTheTableAndProductItemsUploadByTag();
@@ -75,8 +77,8 @@ void AppDelegateTest::launch(QList<ProductConfig> products) {
     delegate_.reset();
     AppDelegate::Options options;
     options.products = std::move(products);
-    options.devicePlaces = {QString::fromStdString(devices_.sys),
-                            QString::fromStdString(devices_.dev)};
+    options.survey =
+        surveyOf({QString::fromStdString(devices_.sys), QString::fromStdString(devices_.dev)});
     options.chooseFile = [this](QWidget*, const FileRequest& request) {
         fileRequests_.append(request);
         return std::optional<QString>();
@@ -105,7 +107,8 @@ void AppDelegateTest::menuBarMatchesTheTableAndProductItemsUploadByTag() {
         "  Select from Disk...||\n  ---\n  Save Machine Config\u2026||\n"
         "  Compare With Machine\u2026||\n    Alpha||tag=0\n    Beta||tag=1\n    ---\n"
         "    Choose File\u2026||\n  Restore Machine Config\u2026||\n  ---\n"
-        "  Repair Machine\u2026||");
+        "  Repair Machine\u2026||\n"
+        "Help||\n  Connection Check\u2026||\n  ---\n  About Teskal Firmware Updater||");
     QCOMPARE(action("About Teskal Firmware Updater")->menuRole(), QAction::AboutRole);
     QCOMPARE(action("Quit")->menuRole(), QAction::QuitRole);
 
@@ -121,12 +124,13 @@ void AppDelegateTest::menuBarMatchesTheTableAndProductItemsUploadByTag() {
                  QStringList{"ERROR: No device connected"});
 
     launch({});
-    QCOMPARE(
-        menus().mid(menus().indexOf("Config||")),
-        QStringList({"Config||", "  No products configured||disabled", "  ---",
-                     "  Select from Disk...||", "  ---", "  Save Machine Config\u2026||",
-                     "  Compare With Machine\u2026||", "    Choose File\u2026||",
-                     "  Restore Machine Config\u2026||", "  ---", "  Repair Machine\u2026||"}));
+    QCOMPARE(menus().mid(menus().indexOf("Config||")),
+             QStringList({"Config||", "  No products configured||disabled", "  ---",
+                          "  Select from Disk...||", "  ---", "  Save Machine Config\u2026||",
+                          "  Compare With Machine\u2026||", "    Choose File\u2026||",
+                          "  Restore Machine Config\u2026||", "  ---", "  Repair Machine\u2026||",
+                          "Help||", "  Connection Check\u2026||", "  ---",
+                          "  About Teskal Firmware Updater||"}));
 }
 
 void AppDelegateTest::togglesFlipTheFlagAndTheCheckMark() {
@@ -152,6 +156,11 @@ void AppDelegateTest::aboutWindowIsReusedEscapeClosesItAndWindowsHaveOnlyTheirBu
         about->information()->toPlainText().startsWith("Supported products:\n  Alpha\n  Beta\n"));
     QCOMPARE(about->versionLabel()->text(),
              "Firmware v2.10.6 (build " + BuildConfig::buildDate() + ")");
+    QCOMPARE(about->programVersionLabel()->text(),
+             "Program version " + BuildConfig::programVersion());
+    QTest::mouseClick(about->closeButton(), Qt::LeftButton);
+    QVERIFY(!about->isVisible());
+    delegate_->showAbout();
 
     about->close();
     delegate_->showAbout();
@@ -172,16 +181,21 @@ void AppDelegateTest::aboutWindowIsReusedEscapeClosesItAndWindowsHaveOnlyTheirBu
     QVERIFY(!about->isVisible());
     QVERIFY(window->isVisible());
 
-    for (const auto& [shown, minimise] :
+    // The main window grows from its 480 x 420; the About window keeps its size.
+    for (const auto& [shown, resizable] :
          {std::pair<QWidget*, bool>{window, true}, std::pair<QWidget*, bool>{about, false}}) {
         const Qt::WindowFlags flags = shown->windowFlags();
         QVERIFY2(flags.testFlags(Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                  Qt::WindowCloseButtonHint),
                  qPrintable(shown->windowTitle()));
-        QCOMPARE(flags.testFlag(Qt::WindowMinimizeButtonHint), minimise);
-        QVERIFY(!flags.testFlag(Qt::WindowMaximizeButtonHint));
-        QCOMPARE(shown->minimumSize(), shown->maximumSize());
+        QCOMPARE(flags.testFlag(Qt::WindowMinimizeButtonHint), resizable);
+        QCOMPARE(flags.testFlag(Qt::WindowMaximizeButtonHint), resizable);
+        QCOMPARE(shown->minimumSize() != shown->maximumSize(), resizable);
     }
+    QCOMPARE(window->centralWidget()->minimumSizeHint(), QSize(480, 420));
+    QCOMPARE(window->centralWidget()->size(), QSize(480, 420));
+    window->resize(640, 600);
+    QTRY_COMPARE(window->centralWidget()->size().width(), 640);
 }
 
 void AppDelegateTest::saveLogWritesHeaderAndLinesOrLogsWhyNot() {
@@ -322,10 +336,11 @@ void AppDelegateTest::restoreWindowPutsThisMachineOnTopAndActsOnTheSelectedRow()
         QStringList{"Skipped the backup record " + corrupt.fileName() + ": not a backup record"});
 
     RestoreWindow window(index.list(), "SN-A", index.folder());
+    // The locale's dates, and versions as the firmware line shows them.
     QCOMPARE(rows(window),
-             QStringList({"2024-05-01 16:03:22|Compared|v3.7.8|3 bytes|SN-A (this machine)",
-                          "2024-05-01 14:03:22|Saved|v3.7.8|3 bytes|SN-A (this machine)",
-                          "2024-05-01 15:03:22|Before erase|-|3 bytes|SN-B"}));
+             QStringList({"1 May 2024 16:03:22|Compared|3.7.8|3 bytes|SN-A (this machine)",
+                          "1 May 2024 14:03:22|Saved|3.7.8|3 bytes|SN-A (this machine)",
+                          "1 May 2024 15:03:22|Before erase|-|3 bytes|SN-B"}));
     QSignalSpy compared(&window, &RestoreWindow::compareRequested);
     QSignalSpy restored(&window, &RestoreWindow::restoreRequested);
     window.show();
@@ -390,10 +405,11 @@ void AppDelegateTest::thePermissionRuleIsInstalledByItsOneFixedCommand() {
     }
     QList<QStringList> started;
     bool starts = true;
-    ConnectionCheckWindow window({}, rule, [&](const QString& program, const QStringList& args) {
-        started << (QStringList{program} + args);
-        return starts;
-    });
+    ConnectionCheckWindow window(surveyOf(), rule,
+                                 [&](const QString& program, const QStringList& args) {
+                                     started << (QStringList{program} + args);
+                                     return starts;
+                                 });
     QVERIFY(window.installRuleButton()->isEnabled());
     window.installRuleButton()->click();
     QCOMPARE(started, QList<QStringList>({{rule.pkexec, rule.helper}}));
@@ -407,7 +423,7 @@ void AppDelegateTest::thePermissionRuleIsInstalledByItsOneFixedCommand() {
     // Without its helper the button is disabled and says what to type instead.
     QFile::remove(rule.helper);
     QVERIFY(QFile(rule.rule).open(QIODevice::WriteOnly));
-    ConnectionCheckWindow byHand({}, rule, [&](const QString&, const QStringList&) {
+    ConnectionCheckWindow byHand(surveyOf(), rule, [&](const QString&, const QStringList&) {
         started << QStringList{"started"};
         return true;
     });

@@ -1,11 +1,15 @@
+#include <QLabel>
 #include <QPlainTextEdit>
+#include <QSignalSpy>
 
+#include "../support/HoldingProcess.h"
 #include "UiTestSupport.h"
 #include "app/BackupIndex.h"
 #include "app/DeviceQueries.h"
 #include "app/SimulatedPlotter.h"
 #include "ui/AppDelegate.h"
 #include "ui/CompareWindow.h"
+#include "ui/ConnectionCheckWindow.h"
 #include "ui/LogPanel.h"
 #include "ui/LogView.h"
 #include "ui/RepairDialog.h"
@@ -19,9 +23,31 @@ class EndToEndTest : public QObject {
     Q_OBJECT
 
   private slots:
+    // Dates in the window are the locale's; these cases read them in C's.
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
     void updateButtonAndConfigMenuRunTheirJobs();
     void aMachineLeftRestartingInALoopIsRepairedInTwoClicks();
+    void theDemosConnectionCheckSeesItsPlotterAndWhoHoldsIt();
 };
+
+namespace {
+
+// The simulated-plotter program's window on `plotter`, as its main() makes it.
+std::unique_ptr<AppDelegate> simulatedProgram(const sim::PtyPlotter& plotter,
+                                              AppDelegate::Options options = {}) {
+    const std::string port = plotter.path();
+    options.survey = simulatedSurvey(port);
+    auto delegate = std::make_unique<AppDelegate>(
+        std::make_unique<UpdateController>(
+            ResourceBundle(TFU_DEV_RESOURCES_DIR),
+            [port](uint16_t, uint16_t) { return strdup(port.c_str()); },
+            UpdateController::DevelopmentImages::accept),
+        std::move(options));
+    delegate->applicationDidFinishLaunching();
+    return delegate;
+}
+
+}  // namespace
 
 void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     const auto plotter =
@@ -90,6 +116,7 @@ void EndToEndTest::updateButtonAndConfigMenuRunTheirJobs() {
     const ResultBanner* banner = view->resultBanner();
     QVERIFY(banner->isVisible());
     QCOMPARE(banner->headline()->text(), QStringLiteral("Firmware 2.10.6 installed and running."));
+    QCOMPARE(log.last(), banner->headline()->text());
     QVERIFY(buttonHeldDisabled);
     QTRY_VERIFY(view->updateButton()->isEnabled());
     QTRY_COMPARE(view->statusLabel()->text(), QStringLiteral("Device connected"));
@@ -150,15 +177,24 @@ void EndToEndTest::aMachineLeftRestartingInALoopIsRepairedInTwoClicks() {
     const QByteArray settings = "name: Repaired plotter\nmeta: 1.2\n";
     BackupIndex::Source source;
     source.machine = DeviceQueries::machineIdentity(port);
+    source.time = QDateTime(QDate(2026, 11, 24), QTime(14, 2));
     QVERIFY(std::holds_alternative<Backup>(BackupIndex().keep(settings, source)));
-    AppDelegate delegate(
-        std::make_unique<UpdateController>(
-            ResourceBundle(TFU_DEV_RESOURCES_DIR),
-            [port](uint16_t, uint16_t) { return strdup(port.toUtf8().constData()); },
-            UpdateController::DevelopmentImages::accept),
-        AppDelegate::Options());
-    delegate.applicationDidFinishLaunching();
+    const auto program = simulatedProgram(*plotter);
+    AppDelegate& delegate = *program;
     auto* view = qobject_cast<UpdaterView*>(delegate.window()->centralWidget());
+
+    // While the firmware answers, a repair saves its settings first and puts that
+    // copy back, and the dialog says so; until it knows, it waits.
+    QTRY_VERIFY(view->updateButton()->isEnabled());
+    menuItem(delegate.window(), "Repair Machine\u2026")->trigger();
+    RepairDialog* asking = delegate.repairDialog();
+    QVERIFY(!asking->repairButton()->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(asking->repairButton()->isEnabled(), 10000);
+    QCOMPARE(asking->sentence()->text(),
+             QStringLiteral("Erase the machine, install firmware 2.10.6, then put back your "
+                            "current settings, saved first."));
+    asking->reject();
+
     QTRY_VERIFY(view->updateButton()->isEnabled());
     QTest::mouseClick(view->updateButton(), Qt::LeftButton);
     QPushButton* offer = nullptr;
@@ -169,8 +205,13 @@ void EndToEndTest::aMachineLeftRestartingInALoopIsRepairedInTwoClicks() {
     // The status check that follows a restart may still hold the port.
     QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning(), 30000);
     QTest::mouseClick(offer, Qt::LeftButton);
-    QVERIFY(delegate.repairDialog() != nullptr);
-    QTest::mouseClick(delegate.repairDialog()->repairButton(), Qt::LeftButton);
+    RepairDialog* dialog = delegate.repairDialog();
+    QVERIFY(dialog != nullptr);
+    QTRY_VERIFY_WITH_TIMEOUT(dialog->repairButton()->isEnabled(), 10000);
+    QCOMPARE(dialog->sentence()->text(),
+             QStringLiteral("Erase the machine, install firmware 2.10.6, then put back your "
+                            "settings from 24 Nov 2026 14:02:00."));
+    QTest::mouseClick(dialog->repairButton(), Qt::LeftButton);
     QVERIFY(controller.jobRunning());
     QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning() && controller.result(), 60000);
     const StartupCause* startup = controller.result()->startup();
@@ -180,6 +221,38 @@ void EndToEndTest::aMachineLeftRestartingInALoopIsRepairedInTwoClicks() {
         const auto stored = p.storedConfig().value_or(std::vector<uint8_t>{});
         QCOMPARE(QByteArray(reinterpret_cast<const char*>(stored.data()), stored.size()), settings);
     });
+}
+
+// The demo's Connection Check, from the Help menu, sees the simulated plotter as
+// the plotter: it names the program that holds its port, and says "Ready" once that
+// program lets go.
+void EndToEndTest::theDemosConnectionCheckSeesItsPlotterAndWhoHoldsIt() {
+    const auto plotter =
+        startSimulatedPlotter(ResourceBundle(TFU_DEV_RESOURCES_DIR), SimulatedPace::instant);
+    const QString port = QString::fromStdString(plotter->path());
+    auto monitor = std::make_unique<HoldingProcess>(plotter->path());
+    const auto program = simulatedProgram(*plotter);
+    menuItem(program->window(), "Connection Check\u2026")->trigger();
+    ConnectionCheckWindow* check = program->connectionCheckWindow();
+    QVERIFY(check != nullptr && QTest::qWaitForWindowExposed(check));
+    QSignalSpy ready(check, &ConnectionCheckWindow::plotterReady);
+    QStringList rows;
+    for (const CheckRow& row : check->checklist().rows) {
+        rows << row.line + (row.fix.isEmpty() ? QString() : " | " + row.fix);
+    }
+    QCOMPARE(rows, QStringList({"Plotter seen on USB (303a:1001).",
+                                "Serial port " + port + " made for it by pty.",
+                                "You may open " + port + ".",
+                                QString("%1 is in use by sleep (pid %2). | Close that program and "
+                                        "try again.")
+                                    .arg(port)
+                                    .arg(monitor->pid)}));
+
+    monitor.reset();
+    QTRY_COMPARE_WITH_TIMEOUT(ready.count(), 1, 5000);
+    QCOMPARE(ready.first().first().toString(), port);
+    QCOMPARE(check->checklist().rows.last().line,
+             "Ready: the plotter on " + port + " can be used.");
 }
 
 QTEST_MAIN(EndToEndTest)

@@ -29,6 +29,7 @@ class ScreensTest : public QObject {
 
   private slots:
     void initTestCase() {
+        QLocale::setDefault(QLocale::c());
         QVERIFY(screens_.mkpath(QStringLiteral(".")));
         QApplication::setWindowIcon(QIcon(QStringLiteral(TFU_ICON_PNG)));
     }
@@ -79,8 +80,12 @@ void ScreensTest::mainWindowStates() {
          infoEntries({"Preparing Corvane Halcot config v1.4.0-devset"})},
         {"main-error", UpdateState::error(failure), failure,
          LogEntries(log) << LogEntry::error(failure)},
-        {"main-complete", UpdateState::flashComplete(), "Firmware update complete.",
+        {"main-checking-startup", UpdateState::checkingStartup(),
+         "Checking that the machine starts\u2026",
          LogEntries(log) << LogEntry::info("Firmware update complete.")},
+        {"main-complete", UpdateState::flashComplete(), "Firmware 2.10.6 installed and running.",
+         LogEntries(log) << LogEntry::info("Firmware update complete.")
+                         << LogEntry::info("Firmware 2.10.6 installed and running.")},
         {"main-refused-firmware", UpdateState::ready(), "Device connected", LogEntries{refused}},
     };
     for (const auto& [name, state, status, lines] : screens) {
@@ -130,9 +135,18 @@ void ScreensTest::mainWindowStates() {
     FlasherBridge::StartupReport rejected;
     rejected.verdict = ESP_STARTUP_CONFIG_ERROR;
     rejected.evidence = {badGpio};
-    view->showResult(startupOutcome(rejected, StartupCause::Written::configuration, std::nullopt),
-                     true);
+    Outcome withPrevious =
+        startupOutcome(rejected, StartupCause::Written::configuration, std::nullopt);
+    std::get<StartupCause>(withPrevious.cause).previous = Backup();
+    view->showResult(withPrevious);
     save(window, QStringLiteral("banner-config-rejected-restore"));
+    // However tall the banner, the log keeps eight lines in view; the window grows.
+    view->showResult(verdict(ESP_STARTUP_PANIC,
+                             {"Guru Meditation Error: Core  1 panic'ed.",
+                              "Backtrace: 0x4200b9c3:0x3fcebe60", rebooted, rebooted, rebooted}));
+    QTest::qWait(50);
+    QVERIFY(view->logPanel()->height() >= 8 * view->logPanel()->view()->lineHeight());
+    save(window, QStringLiteral("banner-tall"));
     view->showResult(std::nullopt);
 
     // About 60 characters a line: the 56-character sample line must not wrap.
@@ -213,10 +227,14 @@ void ScreensTest::restoreWindowAndRepairDialog() {
                         {{"Corvane Halcot", "Halcot.yaml"}}, QStringLiteral("firmware 2.10.6"));
     repair.show();
     QVERIFY(QTest::qWaitForWindowExposed(&repair));
+    save(&repair, QStringLiteral("repair-asking"));
+    repair.showFirmwareAnswers(false);
     QCOMPARE(repair.sentence()->text(),
              QStringLiteral("Erase the machine, install firmware 2.10.6, then put back your "
-                            "settings from 2 May 2024 16:03."));
+                            "settings from 2 May 2024 16:03:22."));
     save(&repair, QStringLiteral("repair"));
+    repair.showFirmwareAnswers(true);
+    save(&repair, QStringLiteral("repair-current-settings"));
 }
 
 // A plotter whose serial port was never made, beside a USB serial adapter.
@@ -230,7 +248,7 @@ void ScreensTest::connectionCheckWindow() {
     tree.interface("usb1/1-2/1-2:1.0", "ch341");
     tree.tty("ttyUSB0", "usb1/1-2/1-2:1.0/ttyUSB0");
     ConnectionCheckWindow check(
-        {QString::fromStdString(tree.sys), QString::fromStdString(tree.dev)},
+        surveyOf({QString::fromStdString(tree.sys), QString::fromStdString(tree.dev)}),
         PermissionRule::installed());
     check.show();
     QVERIFY(QTest::qWaitForWindowExposed(&check));

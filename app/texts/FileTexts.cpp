@@ -1,0 +1,119 @@
+#include "app/texts/FileTexts.h"
+
+namespace Texts {
+
+QString cannotBeUsed(const QString& fileName, const QString& reason) {
+    return QStringLiteral("%1 cannot be used: %2").arg(fileName, reason);
+}
+
+QString couldNotBeRead(const QString& reason) {
+    return QStringLiteral("it could not be read (%1)").arg(reason);
+}
+
+QString imageRefused(const QString& reason) {
+    return QStringLiteral("Firmware image refused: %1").arg(reason);
+}
+
+QString shippedImageRefused(const QString& name) {
+    return QStringLiteral("Bundled %1.bin refused: a development image, not firmware").arg(name);
+}
+
+QString developmentImage() {
+    return QStringLiteral("a development image, not firmware");
+}
+
+QString imageDescription(const QString& version, const QString& project, const QString& built) {
+    return QStringLiteral("Firmware image: version %1, project %2, built %3")
+        .arg(version, project, built);
+}
+
+QString fileUnreadable(const QString& fileName) {
+    return QStringLiteral("Could not read file: %1").arg(fileName);
+}
+
+QString notAConfiguration(const QString& fileName, const QString& problem) {
+    return QStringLiteral("%1 is not a valid machine configuration: %2").arg(fileName, problem);
+}
+
+QString developmentConfigs() {
+    return QStringLiteral("The development set's configurations are only for simulated plotters");
+}
+
+QString reportSize(const QString& bytes) {
+    return QStringLiteral("  size: %1 bytes").arg(bytes);
+}
+
+QString reportSha256(const QString& hex) {
+    return QStringLiteral("  SHA-256: %1").arg(hex);
+}
+
+QString reportChip(const QString& name, int chipId) {
+    return QStringLiteral("  chip: %1 (chip id %2)").arg(name, QString::number(chipId));
+}
+
+QString reportVersion(const QString& version) {
+    return QStringLiteral("  version: %1").arg(version);
+}
+
+QString reportProject(const QString& project) {
+    return QStringLiteral("  project: %1").arg(project);
+}
+
+QString reportBuilt(const QString& built) {
+    return QStringLiteral("  built: %1").arg(built);
+}
+
+QString reportPartitionFits(const QString& partitionBytes) {
+    return QStringLiteral("  partition: fits (the application partition holds %1 bytes)")
+        .arg(partitionBytes);
+}
+
+QString reportPartitionTooLarge(const QString& partitionBytes) {
+    return QStringLiteral("  partition: too large (the application partition holds %1 bytes)")
+        .arg(partitionBytes);
+}
+
+QString reportPartitionUnknown() {
+    return QStringLiteral("  partition: unknown (no partition table in the resources)");
+}
+
+QString reportMeta(const QString& version) {
+    return QStringLiteral("  meta: %1").arg(version);
+}
+
+QString reportNoMeta() {
+    return QStringLiteral("  meta: none");
+}
+
+QString reportPasses() {
+    return QStringLiteral("  result: passes");
+}
+
+QString reportRefused() {
+    return QStringLiteral("  result: refused");
+}
+
+QString unknownChip() {
+    return QStringLiteral("unknown");
+}
+
+QString neitherImageNorConfig(const QString& fileName) {
+    return QStringLiteral(
+               "%1 is neither a firmware image (.bin) nor a machine configuration (.yaml, .yml)")
+        .arg(fileName);
+}
+
+QString allFilesPass() {
+    return QStringLiteral("All files pass");
+}
+
+QString filesRefused(qsizetype refused, qsizetype total) {
+    return QStringLiteral("%1 of %2 files refused")
+        .arg(QString::number(refused), QString::number(total));
+}
+
+QString logNotSaved(const QString& reason) {
+    return QStringLiteral("Could not save log: %1").arg(reason);
+}
+
+}  // namespace Texts
