@@ -18,10 +18,6 @@ QString shippedImageRefused(const QString& name) {
     return QStringLiteral("Bundled %1.bin refused: a development image, not firmware").arg(name);
 }
 
-QString developmentImage() {
-    return QStringLiteral("a development image, not firmware");
-}
-
 QString imageDescription(const QString& version, const QString& project, const QString& built) {
     return QStringLiteral("Firmware image: version %1, project %2, built %3")
         .arg(version, project, built);

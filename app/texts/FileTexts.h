@@ -12,7 +12,6 @@ QString cannotBeUsed(const QString& fileName, const QString& reason);
 QString couldNotBeRead(const QString& reason);     ///< "it could not be read (REASON)"
 QString imageRefused(const QString& reason);       ///< "Firmware image refused: REASON"
 QString shippedImageRefused(const QString& name);  ///< "Bundled NAME.bin refused: …"
-QString developmentImage();                        ///< "a development image, not firmware"
 QString imageDescription(const QString& version, const QString& project, const QString& built);
 
 // Checking a configuration before it is uploaded.
