@@ -61,7 +61,7 @@ AboutWindow::AboutWindow(const QList<ProductConfig>& products, const QString& bu
       information_(new QTextBrowser(this)),
       close_(new QPushButton(Texts::closeButton(), this)),
       footer_(makeLabel(Texts::copyright(), 10, false, this)) {
-    setWindowTitle(Texts::aboutItem());
+    setWindowTitle(Texts::aboutTitle());
     setFixedSize(kWidth, kHeight);
     placeContent(icon);
     fillInformation(products);

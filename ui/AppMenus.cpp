@@ -34,7 +34,7 @@ void AppDelegate::setupMenus() {
 QMenu* AppDelegate::addApplicationMenu() {
     // macOS moves the two items into its application menu by their roles; elsewhere
     // this menu stands in for it.
-    QMenu* menu = window_->menuBar()->addMenu(Texts::programName());
+    QMenu* menu = window_->menuBar()->addMenu(Texts::applicationMenu());
     QAction* about = menu->addAction(Texts::aboutItem(), this, &AppDelegate::showAbout);
     about->setMenuRole(QAction::AboutRole);
     menu->addSeparator();

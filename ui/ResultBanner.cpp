@@ -75,7 +75,7 @@ ResultBanner::ResultBanner(QWidget* parent)
     row->addWidget(close_, 0, Qt::AlignTop);
     close_->setText(QStringLiteral("×"));
     close_->setAutoRaise(true);
-    close_->setToolTip(Texts::closeButton());
+    close_->setToolTip(Texts::closeTooltip());
     close_->setAccessibleName(Texts::dismiss());
     connect(close_, &QToolButton::clicked, this, &QWidget::hide);
     hide();

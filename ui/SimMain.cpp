@@ -15,12 +15,25 @@
 #include "app/UpdateController.h"
 #include "ui/AppDelegate.h"
 #include "ui/SingleInstance.h"
+#include "ui/Translations.h"
 
 namespace {
 
 // The demo's plotter runs an older release of the product's own line, so that an
 // update is an update and not a step back.
 constexpr const char* kOlderRelease = "FluidNC v2.10.5 (sim)";
+
+// The start-up's name with its first letter that no earlier item took marked as
+// the item's mnemonic ("boot-loop" and "brownout" both begin with b).
+QString withMnemonic(const QString& name, QString& taken) {
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        if (name[i].isLetter() && !taken.contains(name[i])) {
+            taken.append(name[i]);
+            return QString(name).insert(i, QLatin1Char('&'));
+        }
+    }
+    return name;
+}
 
 // How the simulated plotter starts after the next write, so that every result the
 // window can show can be seen. A write may mend it (a repair), so the ticked item
@@ -29,9 +42,10 @@ void addStartupMenu(QMainWindow& window, sim::PtyPlotter& plotter, UpdateControl
     QMenu* menu = window.menuBar()->addMenu(Texts::simulatedPlotterMenu());
     auto* choices = new QActionGroup(menu);
     auto items = std::make_shared<std::map<sim::Startup, QAction*>>();
+    QString taken;
     for (const sim::Startup startup : sim::kStartups) {
-        QAction* item =
-            menu->addAction(Texts::startsAs(QString::fromLatin1(sim::startupName(startup))));
+        const QString name = QString::fromLatin1(sim::startupName(startup));
+        QAction* item = menu->addAction(Texts::startsAs(withMnemonic(name, taken)));
         item->setCheckable(true);
         item->setChecked(startup == sim::Startup::Healthy);
         choices->addAction(item);
@@ -58,6 +72,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Teskal Firmware Updater"));
     QApplication::setDesktopFileName(QStringLiteral("teskal-firmware-updater"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/teskal-firmware-updater.png")));
+    const Translations translations(QLocale::system());
 
     const auto instance = SingleInstance::claim(QStringLiteral("teskal-updater-sim"));
     if (!instance) {

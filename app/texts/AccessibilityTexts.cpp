@@ -1,33 +1,44 @@
 #include "app/texts/AccessibilityTexts.h"
 
+#include <QCoreApplication>
+
 namespace Texts {
 
+namespace {
+
+// The translators' context for this file's texts.
+class AccessibilityTexts {
+    Q_DECLARE_TR_FUNCTIONS(AccessibilityTexts)
+};
+
+}  // namespace
+
 QString dismiss() {
-    return QStringLiteral("Dismiss");
+    return AccessibilityTexts::tr("Dismiss");
 }
 
 QString logArea() {
-    return QStringLiteral("Log");
+    return AccessibilityTexts::tr("Log");
 }
 
 QString copyLog() {
-    return QStringLiteral("Copy Log");
+    return AccessibilityTexts::tr("Copy Log");
 }
 
 QString writingFirmwareStage() {
-    return QStringLiteral("Writing firmware");
+    return AccessibilityTexts::tr("Writing firmware");
 }
 
 QString uploadingConfigStage() {
-    return QStringLiteral("Uploading configuration");
+    return AccessibilityTexts::tr("Uploading configuration");
 }
 
 QString readingConfigStage() {
-    return QStringLiteral("Reading the machine's configuration");
+    return AccessibilityTexts::tr("Reading the machine's configuration");
 }
 
 QString checkingStartupStage() {
-    return QStringLiteral("Checking that the machine starts");
+    return AccessibilityTexts::tr("Checking that the machine starts");
 }
 
 }  // namespace Texts

@@ -1,115 +1,127 @@
 #include "app/texts/FirmwareJobTexts.h"
 
+#include <QCoreApplication>
+
 namespace Texts {
 
+namespace {
+
+// The translators' context for this file's texts.
+class FirmwareJobTexts {
+    Q_DECLARE_TR_FUNCTIONS(FirmwareJobTexts)
+};
+
+}  // namespace
+
 QString deviceConnected() {
-    return QStringLiteral("Device connected");
+    return FirmwareJobTexts::tr("Device connected");
 }
 
 QString waitingForDevice() {
-    return QStringLiteral("Waiting for device\u2026");
+    return FirmwareJobTexts::tr("Waiting for device\u2026");
 }
 
 QString noDeviceConnected() {
-    return QStringLiteral("No device connected");
+    return FirmwareJobTexts::tr("No device connected");
 }
 
 QString anotherOperation() {
-    return QStringLiteral("Another operation is already running");
+    return FirmwareJobTexts::tr("Another operation is already running");
 }
 
 QString updatingShipped(const QString& version) {
-    return QStringLiteral("Updating firmware v%1\u2026").arg(version);
+    return FirmwareJobTexts::tr("Updating firmware v%1\u2026").arg(version);
 }
 
 QString updatingCustom(const QString& fileName) {
-    return QStringLiteral("Updating firmware (custom: %1)\u2026").arg(fileName);
+    return FirmwareJobTexts::tr("Updating firmware (custom: %1)\u2026").arg(fileName);
 }
 
 QString customUnreadable(const QString& reason) {
-    return QStringLiteral("Failed to load custom firmware: %1").arg(reason);
+    return FirmwareJobTexts::tr("Failed to load custom firmware: %1").arg(reason);
 }
 
 QString shippedMissing() {
-    return QStringLiteral("Bundled firmware not found");
+    return FirmwareJobTexts::tr("Bundled firmware not found");
 }
 
 QString checkingDevice() {
-    return QStringLiteral("Checking device status\u2026");
+    return FirmwareJobTexts::tr("Checking device status\u2026");
 }
 
 QString deviceNotResponding() {
-    return QStringLiteral("Device not responding \u2014 writing boot partitions + firmware.");
+    return FirmwareJobTexts::tr("Device not responding \u2014 writing boot partitions + firmware.");
 }
 
 QString deviceRunning(const QString& version) {
-    return QStringLiteral("Device running firmware %1 \u2014 updating firmware only.").arg(version);
+    return FirmwareJobTexts::tr("Device running firmware %1 \u2014 updating firmware only.")
+        .arg(version);
 }
 
 QString stubMissing() {
-    return QStringLiteral("Flash stub not found in bundle");
+    return FirmwareJobTexts::tr("Flash stub not found in bundle");
 }
 
 QString bootImagesMissing() {
-    return QStringLiteral("Missing bootloader resources for full flash");
+    return FirmwareJobTexts::tr("Missing bootloader resources for full flash");
 }
 
 QString firmwareComplete() {
-    return QStringLiteral("Firmware update complete.");
+    return FirmwareJobTexts::tr("Firmware update complete.");
 }
 
 QString flashErasedNote(Audience audience) {
     return audience == Audience::window
-               ? QStringLiteral(
+               ? FirmwareJobTexts::tr(
                      "NOTE: Flash was erased. Use Config > Update Config to upload the "
                      "configuration for your machine.")
-               : QStringLiteral(
+               : FirmwareJobTexts::tr(
                      "NOTE: Flash was erased. Run teskal-flash upload-config to upload the "
                      "configuration for your machine.");
 }
 
 QString puttingBack(const QString& what) {
-    return QStringLiteral("Once the machine runs, %1 will be put back.").arg(what);
+    return FirmwareJobTexts::tr("Once the machine runs, %1 will be put back.").arg(what);
 }
 
 QString firmwareLabel(const QString& version) {
-    return QStringLiteral("Firmware version %1").arg(version);
+    return FirmwareJobTexts::tr("Firmware version %1").arg(version);
 }
 
 QString usingShipped() {
-    return QStringLiteral("Using bundled firmware");
+    return FirmwareJobTexts::tr("Using bundled firmware");
 }
 
 QString customChosen(const QString& fileName) {
-    return QStringLiteral("Custom firmware: %1").arg(fileName);
+    return FirmwareJobTexts::tr("Custom firmware: %1").arg(fileName);
 }
 
 QString customChosenWithoutName() {
-    return QStringLiteral("Custom firmware: unknown");
+    return FirmwareJobTexts::tr("Custom firmware: unknown");
 }
 
 QString checkingStartup() {
-    return QStringLiteral("Checking that the machine starts\u2026");
+    return FirmwareJobTexts::tr("Checking that the machine starts\u2026");
 }
 
 QString configMissing(const QString& configFile) {
-    return QStringLiteral("Config file not found in bundle: %1").arg(configFile);
+    return FirmwareJobTexts::tr("Config file not found in bundle: %1").arg(configFile);
 }
 
 QString preparingProduct(const QString& product, const QString& suffix) {
-    return QStringLiteral("Preparing %1 config%2").arg(product, suffix);
+    return FirmwareJobTexts::tr("Preparing %1 config%2").arg(product, suffix);
 }
 
 QString preparingFile(const QString& fileName, const QString& suffix) {
-    return QStringLiteral("Preparing %1%2").arg(fileName, suffix);
+    return FirmwareJobTexts::tr("Preparing %1%2").arg(fileName, suffix);
 }
 
 QString uploadingFile() {
-    return QStringLiteral("Uploading config file...");
+    return FirmwareJobTexts::tr("Uploading config file...");
 }
 
 QString uploadComplete() {
-    return QStringLiteral("Upload successful; restarting machine.");
+    return FirmwareJobTexts::tr("Upload successful; restarting machine.");
 }
 
 QString versionSuffix(const std::optional<QString>& metaVersion) {
@@ -117,38 +129,38 @@ QString versionSuffix(const std::optional<QString>& metaVersion) {
 }
 
 QString progressPreparing() {
-    return QStringLiteral("Preparing");
+    return FirmwareJobTexts::tr("Preparing");
 }
 
 QString progressComplete() {
-    return QStringLiteral("Complete");
+    return FirmwareJobTexts::tr("Complete");
 }
 
 QString progressFailed() {
-    return QStringLiteral("Failed");
+    return FirmwareJobTexts::tr("Failed");
 }
 
 QString stopWarning() {
-    return QStringLiteral(
+    return FirmwareJobTexts::tr(
         "Writing firmware: stopping now can leave the machine unable to start. Press Ctrl+C "
         "again to stop.");
 }
 
 QString partitionTablePresent() {
-    return QStringLiteral("Partition table: present");
+    return FirmwareJobTexts::tr("Partition table: present");
 }
 
 QString partitionTableAbsent() {
-    return QStringLiteral("Partition table: absent");
+    return FirmwareJobTexts::tr("Partition table: absent");
 }
 
 QString plottersConnected(qsizetype count) {
-    return count == 1 ? QStringLiteral("1 plotter connected")
-                      : QStringLiteral("%1 plotters connected").arg(count);
+    return count == 1 ? FirmwareJobTexts::tr("1 plotter connected")
+                      : FirmwareJobTexts::tr("%1 plotters connected").arg(count);
 }
 
 QString simulatorNotStarted(const QString& reason) {
-    return QStringLiteral("Could not start the simulated plotter: %1").arg(reason);
+    return FirmwareJobTexts::tr("Could not start the simulated plotter: %1").arg(reason);
 }
 
 }  // namespace Texts

@@ -1,6 +1,17 @@
 #include "app/texts/WindowTexts.h"
 
+#include <QCoreApplication>
+
 namespace Texts {
+
+namespace {
+
+// The translators' context for this file's texts.
+class WindowTexts {
+    Q_DECLARE_TR_FUNCTIONS(WindowTexts)
+};
+
+}  // namespace
 
 QString programName() {
     return QStringLiteral("Teskal Firmware Updater");
@@ -8,330 +19,342 @@ QString programName() {
 
 QString programVersion(const QString& program, const QString& version, const QString& buildDate,
                        const QString& firmware) {
-    return QStringLiteral("%1 %2, built %3, bundled firmware %4")
+    return WindowTexts::tr("%1 %2, built %3, bundled firmware %4")
         .arg(program, version, buildDate, firmware);
 }
 
 QString simulatedWindowTitle() {
-    return QStringLiteral("Teskal Firmware Updater \u2014 simulated plotter");
+    return WindowTexts::tr("Teskal Firmware Updater \u2014 simulated plotter");
 }
 
 QString alreadyRunning() {
-    return QStringLiteral("Teskal Firmware Updater is already running.");
+    return WindowTexts::tr("Teskal Firmware Updater is already running.");
+}
+
+QString applicationMenu() {
+    return WindowTexts::tr("&Teskal Firmware Updater");
+}
+
+QString aboutTitle() {
+    return WindowTexts::tr("About Teskal Firmware Updater");
 }
 
 QString aboutItem() {
-    return QStringLiteral("About Teskal Firmware Updater");
+    return WindowTexts::tr("&About Teskal Firmware Updater");
 }
 
 QString quitItem() {
-    return QStringLiteral("Quit");
+    return WindowTexts::tr("&Quit");
 }
 
 QString fileMenu() {
-    return QStringLiteral("File");
+    return WindowTexts::tr("&File");
 }
 
 QString openFirmwareItem() {
-    return QStringLiteral("Open Firmware File\u2026");
+    return WindowTexts::tr("&Open Firmware File\u2026");
 }
 
 QString useBundledItem() {
-    return QStringLiteral("Use Bundled Firmware");
+    return WindowTexts::tr("&Use Bundled Firmware");
 }
 
 QString saveLogItem() {
-    return QStringLiteral("Save Log\u2026");
+    return WindowTexts::tr("&Save Log\u2026");
 }
 
 QString optionsMenu() {
-    return QStringLiteral("Options");
+    return WindowTexts::tr("&Options");
 }
 
 QString detailedLoggingItem() {
-    return QStringLiteral("Detailed Logging");
+    return WindowTexts::tr("&Detailed Logging");
 }
 
 QString writeBootPartitionsItem() {
-    return QStringLiteral("Write Boot Partitions");
+    return WindowTexts::tr("&Write Boot Partitions");
 }
 
 QString eraseAllFlashItem() {
-    return QStringLiteral("Erase All Flash");
+    return WindowTexts::tr("&Erase All Flash");
 }
 
 QString backUpBeforeUploadItem() {
-    return QStringLiteral("Back Up Machine Config Before Upload");
+    return WindowTexts::tr("&Back Up Machine Config Before Upload");
 }
 
 QString configMenu() {
-    return QStringLiteral("Config");
+    return WindowTexts::tr("&Config");
 }
 
 QString updateConfigItem() {
-    return QStringLiteral("Update Config");
+    return WindowTexts::tr("&Update Config");
 }
 
 QString noProductsItem() {
-    return QStringLiteral("No products configured");
+    return WindowTexts::tr("No products configured");
 }
 
 QString selectFromDiskItem() {
-    return QStringLiteral("Select from Disk...");
+    return WindowTexts::tr("Select from &Disk...");
 }
 
 QString saveMachineConfigItem() {
-    return QStringLiteral("Save Machine Config\u2026");
+    return WindowTexts::tr("&Save Machine Config\u2026");
 }
 
 QString compareWithMachineItem() {
-    return QStringLiteral("Compare With Machine\u2026");
+    return WindowTexts::tr("&Compare With Machine\u2026");
 }
 
 QString chooseFileItem() {
-    return QStringLiteral("Choose File\u2026");
+    return WindowTexts::tr("Choose &File\u2026");
 }
 
 QString restoreMachineConfigItem() {
-    return QStringLiteral("Restore Machine Config\u2026");
+    return WindowTexts::tr("&Restore Machine Config\u2026");
 }
 
 QString repairMenuItem() {
-    return QStringLiteral("Repair Machine\u2026");
+    return WindowTexts::tr("Re&pair Machine\u2026");
 }
 
 QString helpMenu() {
-    return QStringLiteral("Help");
+    return WindowTexts::tr("&Help");
 }
 
 QString connectionCheckItem() {
-    return QStringLiteral("Connection Check\u2026");
+    return WindowTexts::tr("&Connection Check\u2026");
 }
 
 QString simulatedPlotterMenu() {
-    return QStringLiteral("Simulated Plotter");
+    return WindowTexts::tr("&Simulated Plotter");
 }
 
 QString startsAs(const QString& startup) {
-    return QStringLiteral("Starts: %1").arg(startup);
+    return WindowTexts::tr("Starts: %1").arg(startup);
 }
 
 QString selectFirmware() {
-    return QStringLiteral("Select a firmware binary (.bin)");
+    return WindowTexts::tr("Select a firmware binary (.bin)");
 }
 
 QString selectConfiguration() {
-    return QStringLiteral("Select a configuration file (.yaml)");
+    return WindowTexts::tr("Select a configuration file (.yaml)");
 }
 
 QString saveLogTitle() {
-    return QStringLiteral("Save Log");
+    return WindowTexts::tr("Save Log");
 }
 
 QString textFiles() {
-    return QStringLiteral("Text files (*.txt)");
+    return WindowTexts::tr("Text files (*.txt)");
 }
 
 QString saveMachineConfigTitle() {
-    return QStringLiteral("Save Machine Config");
+    return WindowTexts::tr("Save Machine Config");
 }
 
 QString yamlFiles() {
-    return QStringLiteral("YAML files (*.yaml *.yml)");
+    return WindowTexts::tr("YAML files (*.yaml *.yml)");
 }
 
 QString chooseFileOf(const QString& extension) {
-    return QStringLiteral("Choose a %1 file.").arg(extension);
+    return WindowTexts::tr("Choose a %1 file.").arg(extension);
 }
 
 QString chooseFileOfEither(const QString& extensions, const QString& last) {
-    return QStringLiteral("Choose a %1 or %2 file.").arg(extensions, last);
+    return WindowTexts::tr("Choose a %1 or %2 file.").arg(extensions, last);
 }
 
 QString updateFirmwareButton() {
-    return QStringLiteral("Update Firmware");
+    return WindowTexts::tr("Update Firmware");
 }
 
 QString copyLogTooltip() {
-    return QStringLiteral("Copy log to clipboard");
+    return WindowTexts::tr("Copy log to clipboard");
 }
 
 QString copyItem() {
-    return QStringLiteral("Copy");
+    return WindowTexts::tr("&Copy");
 }
 
 QString closeButton() {
-    return QStringLiteral("Close");
+    return WindowTexts::tr("&Close");
+}
+
+QString closeTooltip() {
+    return WindowTexts::tr("Close");
 }
 
 QString restorePreviousButton() {
-    return QStringLiteral("Restore Previous Configuration");
+    return WindowTexts::tr("Restore Previous Configuration");
 }
 
 QString repairButton() {
-    return QStringLiteral("Repair\u2026");
+    return WindowTexts::tr("Repair\u2026");
 }
 
 QString eraseQuestion() {
-    return QStringLiteral(
+    return WindowTexts::tr(
         "Erase All Flash also erases the machine's settings (config.yaml). Save them now and "
         "put them back after the update?");
 }
 
 QString eraseAnywayQuestion() {
-    return QStringLiteral("Erase all flash anyway? The settings will be lost.");
+    return WindowTexts::tr("Erase all flash anyway? The settings will be lost.");
 }
 
 QString retryQuestion() {
-    return QStringLiteral("Try reading them again?");
+    return WindowTexts::tr("Try reading them again?");
 }
 
 QString saveAndRestoreButton() {
-    return QStringLiteral("Save and Restore");
+    return WindowTexts::tr("&Save and Restore");
 }
 
 QString eraseWithoutSavingButton() {
-    return QStringLiteral("Erase Without Saving");
+    return WindowTexts::tr("&Erase Without Saving");
 }
 
 QString retryButton() {
-    return QStringLiteral("Retry");
+    return WindowTexts::tr("&Retry");
 }
 
 QString cancelButton() {
-    return QStringLiteral("Cancel");
+    return WindowTexts::tr("&Cancel");
 }
 
 QString quitDuringJobQuestion() {
-    return QStringLiteral(
+    return WindowTexts::tr(
         "An update is running. Quitting now can leave the machine unable to start. Quit "
         "anyway?");
 }
 
 QString keepRunningButton() {
-    return QStringLiteral("Keep Running");
+    return WindowTexts::tr("&Keep Running");
 }
 
 QString quitAnywayButton() {
-    return QStringLiteral("Quit Anyway");
+    return WindowTexts::tr("&Quit Anyway");
 }
 
 QString restoreTitle() {
-    return QStringLiteral("Restore Machine Config");
+    return WindowTexts::tr("Restore Machine Config");
 }
 
 QString compareWithMachineButton() {
-    return QStringLiteral("Compare With Machine");
+    return WindowTexts::tr("Co&mpare With Machine");
 }
 
 QString restoreButton() {
-    return QStringLiteral("Restore");
+    return WindowTexts::tr("&Restore");
 }
 
 QString dateColumn() {
-    return QStringLiteral("Date");
+    return WindowTexts::tr("Date");
 }
 
 QString reasonColumn() {
-    return QStringLiteral("Reason");
+    return WindowTexts::tr("Reason");
 }
 
 QString firmwareColumn() {
-    return QStringLiteral("Firmware");
+    return WindowTexts::tr("Firmware");
 }
 
 QString sizeColumn() {
-    return QStringLiteral("Size");
+    return WindowTexts::tr("Size");
 }
 
 QString machineColumn() {
-    return QStringLiteral("Machine");
+    return WindowTexts::tr("Machine");
 }
 
 QString repairTitle() {
-    return QStringLiteral("Repair Machine");
+    return WindowTexts::tr("Repair Machine");
 }
 
 QString repairConfirmButton() {
-    return QStringLiteral("Repair");
+    return WindowTexts::tr("&Repair");
 }
 
 QString putBackLabel() {
-    return QStringLiteral("Put back:");
+    return WindowTexts::tr("Put back:");
 }
 
 QString newestBackupItem(const QString& time) {
-    return QStringLiteral("Newest backup of this machine (%1)").arg(time);
+    return WindowTexts::tr("Newest backup of this machine (%1)").arg(time);
 }
 
 QString currentSettingsItem() {
-    return QStringLiteral("Current settings of this machine, saved first");
+    return WindowTexts::tr("Current settings of this machine, saved first");
 }
 
 QString chooseWhatGoesBack() {
-    return QStringLiteral("Choose what goes back\u2026");
+    return WindowTexts::tr("Choose what goes back\u2026");
 }
 
 QString backupItem(const QString& time, const QString& machine) {
-    return QStringLiteral("Backup of %1 (%2)").arg(time, machine);
+    return WindowTexts::tr("Backup of %1 (%2)").arg(time, machine);
 }
 
 QString stockConfigItem(const QString& product) {
-    return QStringLiteral("Stock configuration: %1").arg(product);
+    return WindowTexts::tr("Stock configuration: %1").arg(product);
 }
 
 QString noConfigurationItem() {
-    return QStringLiteral("No configuration");
+    return WindowTexts::tr("No configuration");
 }
 
 QString askingFirmware() {
-    return QStringLiteral("Asking the machine's firmware whether it answers\u2026");
+    return WindowTexts::tr("Asking the machine's firmware whether it answers\u2026");
 }
 
 QString compareTitle(const QString& label) {
-    return QStringLiteral("Compare With Machine \u2014 %1").arg(label);
+    return WindowTexts::tr("Compare With Machine \u2014 %1").arg(label);
 }
 
 QString uploadThisConfiguration() {
-    return QStringLiteral("Upload This Configuration");
+    return WindowTexts::tr("&Upload This Configuration");
 }
 
 QString byKeyTab() {
-    return QStringLiteral("By Key");
+    return WindowTexts::tr("By Key");
 }
 
 QString byLineTab() {
-    return QStringLiteral("By Line");
+    return WindowTexts::tr("By Line");
 }
 
 QString noKeyDiffers() {
-    return QStringLiteral("No key differs.");
+    return WindowTexts::tr("No key differs.");
 }
 
 QString sameLineByLine() {
-    return QStringLiteral("The files are the same line by line.");
+    return WindowTexts::tr("The files are the same line by line.");
 }
 
 QString notComparableByKey() {
-    return QStringLiteral(
+    return WindowTexts::tr(
         "The two configurations could not be compared by key; \"By Line\" shows how their "
         "texts differ.");
 }
 
 QString matchesByKey(const QString& label) {
-    return QStringLiteral(
+    return WindowTexts::tr(
                "The machine's config matches %1 by key: an upload would change no setting.")
         .arg(label);
 }
 
 QString settingsDiffer(qsizetype count, const QString& label) {
     return count == 1
-               ? QStringLiteral(
+               ? WindowTexts::tr(
                      "1 setting differs between the machine's config and %1. Each line shows the "
                      "machine's value \u2192 the new one; + marks a key only in %1, - a key only "
                      "on the machine.")
                      .arg(label)
-               : QStringLiteral(
+               : WindowTexts::tr(
                      "%1 settings differ between the machine's config and %2. Each line shows "
                      "the machine's value \u2192 the new one; + marks a key only in %2, - a key "
                      "only on the machine.")
@@ -343,35 +366,35 @@ QString aboutHeading() {
 }
 
 QString firmwareVersionLabel(const QString& version, const QString& buildDate) {
-    return QStringLiteral("Firmware v%1 (build %2)").arg(version, buildDate);
+    return WindowTexts::tr("Firmware v%1 (build %2)").arg(version, buildDate);
 }
 
 QString programVersionLabel(const QString& version) {
-    return QStringLiteral("Program version %1").arg(version);
+    return WindowTexts::tr("Program version %1").arg(version);
 }
 
 QString supportedProducts() {
-    return QStringLiteral("Supported products:");
+    return WindowTexts::tr("Supported products:");
 }
 
 QString licenses() {
-    return QStringLiteral("Licenses:");
+    return WindowTexts::tr("Licenses:");
 }
 
 QString firmwareLicense() {
-    return QStringLiteral("Firmware: GPL v3 (based on FluidNC)");
+    return WindowTexts::tr("Firmware: GPL v3 (based on FluidNC)");
 }
 
 QString stubLicense() {
-    return QStringLiteral("Flash stub: Apache License 2.0");
+    return WindowTexts::tr("Flash stub: Apache License 2.0");
 }
 
 QString source() {
-    return QStringLiteral("Source:");
+    return WindowTexts::tr("Source:");
 }
 
 QString copyright() {
-    return QStringLiteral("\u00a9 2026 Corvane. All rights reserved.");
+    return WindowTexts::tr("\u00a9 2026 Corvane. All rights reserved.");
 }
 
 }  // namespace Texts

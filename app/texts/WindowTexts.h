@@ -16,8 +16,10 @@ QString programVersion(const QString& program, const QString& version, const QSt
 QString simulatedWindowTitle();  ///< "Teskal Firmware Updater — simulated plotter"
 QString alreadyRunning();        ///< "Teskal Firmware Updater is already running."
 
-// Menus.
-QString aboutItem();  ///< "About Teskal Firmware Updater", also the About window's title
+// Menus and their items, each with its mnemonic marked by "&".
+QString applicationMenu();  ///< "&Teskal Firmware Updater"
+QString aboutTitle();       ///< "About Teskal Firmware Updater", the About window's title
+QString aboutItem();        ///< "&About Teskal Firmware Updater"
 QString quitItem();
 QString fileMenu();
 QString openFirmwareItem();
@@ -40,7 +42,8 @@ QString repairMenuItem();  ///< "Repair Machine…"
 QString helpMenu();
 QString connectionCheckItem();  ///< "Connection Check…"
 QString simulatedPlotterMenu();
-QString startsAs(const QString& startup);  ///< "Starts: STARTUP"
+/// "Starts: STARTUP"; the caller marks the mnemonic within STARTUP.
+QString startsAs(const QString& startup);
 
 // File dialogs.
 QString selectFirmware();       ///< "Select a firmware binary (.bin)"
@@ -52,11 +55,13 @@ QString yamlFiles();                             ///< "YAML files (*.yaml *.yml)
 QString chooseFileOf(const QString& extension);  ///< "Choose a .bin file."
 QString chooseFileOfEither(const QString& extensions, const QString& last);
 
-// The main window.
+// The main window. Buttons, dialog buttons and context menu items carry their
+// mnemonic marked by "&".
 QString updateFirmwareButton();
 QString copyLogTooltip();
-QString copyItem();
-QString closeButton();            ///< "Close", also the result banner's close button's tooltip
+QString copyItem();               ///< "&Copy"
+QString closeButton();            ///< "&Close"
+QString closeTooltip();           ///< "Close", the result banner's close button's tooltip
 QString restorePreviousButton();  ///< "Restore Previous Configuration", the banner's offer
 QString repairButton();           ///< "Repair…", the banner's offer
 

@@ -24,7 +24,8 @@ namespace {
 void describe(const QList<QAction*>& actions, const QString& indent, QStringList& out) {
     for (const QAction* item : actions) {
         QString line = item->isSeparator() ? QStringLiteral("---")
-                                           : item->text() + '|' + item->shortcut().toString() + '|';
+                                           : withoutMnemonic(item->text()) + '|' +
+                                                 item->shortcut().toString() + '|';
         line += item->isEnabled() ? "" : "disabled";
         line += item->isCheckable() ? "checkable" : "";
         line += item->data().isValid() ? "tag=" + item->data().toString() : QString();

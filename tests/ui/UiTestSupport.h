@@ -21,6 +21,19 @@ inline LogEntries infoEntries(const QStringList& lines) {
     return entries;
 }
 
+/// What a menu or button shows for `text`: Qt drops the "&" that marks a mnemonic
+/// and shows "&&" as one "&".
+inline QString withoutMnemonic(const QString& text) {
+    QString shown;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == QLatin1Char('&') && i + 1 < text.size()) {
+            ++i;
+        }
+        shown.append(text[i]);
+    }
+    return shown;
+}
+
 /// A device detection that never finds the plotter.
 inline char* noDevice(uint16_t, uint16_t) {
     return nullptr;
@@ -32,7 +45,8 @@ inline QAction* menuItem(const QMainWindow* window, const QString& title,
                          const QString& menu = {}) {
     for (QAction* item : window->menuBar()->findChildren<QAction*>()) {
         const auto* owner = qobject_cast<const QMenu*>(item->parent());
-        if (item->text() == title && (menu.isEmpty() || (owner && owner->title() == menu))) {
+        if (withoutMnemonic(item->text()) == title &&
+            (menu.isEmpty() || (owner && withoutMnemonic(owner->title()) == menu))) {
             return item;
         }
     }
@@ -59,10 +73,11 @@ inline void answerNextMessageBox(const QString& answer, QStringList* asked, int 
         QStringList seen{box->text()};
         QAbstractButton* chosen = nullptr;
         for (QAbstractButton* button : box->buttons()) {
-            seen.append(button->text());
-            chosen = button->text() == answer ? button : chosen;
+            seen.append(withoutMnemonic(button->text()));
+            chosen = seen.last() == answer ? button : chosen;
         }
-        asked->append((seen << "default " + box->defaultButton()->text()).join('|'));
+        asked->append(
+            (seen << "default " + withoutMnemonic(box->defaultButton()->text())).join('|'));
         if (chosen != nullptr) {
             chosen->click();
         } else {
