@@ -2,6 +2,7 @@
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QTextBrowser>
+#include <optional>
 
 #include "../support/FakeSysfs.h"
 #include "UiTestSupport.h"
@@ -19,6 +20,7 @@
 #include "ui/RepairDialog.h"
 #include "ui/RestoreWindow.h"
 #include "ui/ResultBanner.h"
+#include "ui/Translations.h"
 #include "ui/UpdaterView.h"
 
 // Renders the windows in their characteristic states to PNG files in the folder
@@ -33,23 +35,48 @@ class ScreensTest : public QObject {
         QVERIFY(screens_.mkpath(QStringLiteral(".")));
         QApplication::setWindowIcon(QIcon(QStringLiteral(TFU_ICON_PNG)));
     }
+    // In English, then in each language into its own folder (screens/de, ...).
+    void mainWindowStates_data() { languages(); }
     void mainWindowStates();
     void aboutWindow();
     void compareWindow();
+    void connectionCheckWindow_data() { languages(); }
     void connectionCheckWindow();
+    void restoreWindowAndRepairDialog_data() { languages(); }
     void restoreWindowAndRepairDialog();
 
   private:
+    static void languages() {
+        QTest::addColumn<QString>("language");
+        for (const char* language : {"C", "de", "fr", "es", "ja", "zh_CN"}) {
+            QTest::newRow(language) << QString::fromLatin1(language);
+        }
+    }
+    // The current row's language, installed until the next row; true for English.
+    bool speak() {
+        QFETCH(QString, language);
+        translations_.reset();
+        translations_.emplace(QLocale(language));
+        folder_ = screens_;
+        if (language != QLatin1String("C")) {
+            folder_.mkpath(language);
+            folder_.cd(language);
+        }
+        return language == QLatin1String("C");
+    }
     void save(QWidget* window, const QString& name) {
         // Layouts settle through posted events; the monitor is quiet, so nothing else runs.
         QTest::qWait(50);
-        QVERIFY(window->grab().toImage().save(screens_.filePath(name + QStringLiteral(".png"))));
+        QVERIFY(window->grab().toImage().save(folder_.filePath(name + QStringLiteral(".png"))));
     }
 
     QDir screens_{qEnvironmentVariable("TFU_SCREENS_DIR")};
+    QDir folder_ = screens_;
+    std::optional<Translations> translations_;
 };
 
 void ScreensTest::mainWindowStates() {
+    speak();
     QTemporaryDir resources;
     AppDelegate delegate(
         std::make_unique<UpdateController>(ResourceBundle(resources.path()), noDevice),
@@ -206,6 +233,7 @@ void ScreensTest::compareWindow() {
 }
 
 void ScreensTest::restoreWindowAndRepairDialog() {
+    const bool english = speak();
     const QDateTime time(QDate(2024, 5, 1), QTime(14, 3, 22));
     const QString folder =
         QStringLiteral("/home/owner/.local/share/teskal-firmware-updater/backups");
@@ -229,9 +257,10 @@ void ScreensTest::restoreWindowAndRepairDialog() {
     QVERIFY(QTest::qWaitForWindowExposed(&repair));
     save(&repair, QStringLiteral("repair-asking"));
     repair.showFirmwareAnswers(false);
-    QCOMPARE(repair.sentence()->text(),
-             QStringLiteral("Erase the machine, install firmware 2.10.6, then put back your "
-                            "settings from 2 May 2024 16:03:22."));
+    QVERIFY(!english ||
+            repair.sentence()->text() ==
+                QStringLiteral("Erase the machine, install firmware 2.10.6, then put back your "
+                               "settings from 2 May 2024 16:03:22."));
     save(&repair, QStringLiteral("repair"));
     repair.showFirmwareAnswers(true);
     save(&repair, QStringLiteral("repair-current-settings"));
@@ -239,6 +268,7 @@ void ScreensTest::restoreWindowAndRepairDialog() {
 
 // A plotter whose serial port was never made, beside a USB serial adapter.
 void ScreensTest::connectionCheckWindow() {
+    speak();
     FakeSysfs tree;
     tree.ids("usb1/1-1", "303a", "1001", true);
     tree.attribute("usb1/1-1", "serial", "F4:12:FA:6C:3B:90");
