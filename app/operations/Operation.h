@@ -38,6 +38,8 @@ struct OperationSink {
     /// A line of the owner's log.
     std::function<void(const LogEntry& entry)> log;
     /// One of the library's own log lines (the window shows them with Detailed Logging).
+    /// They stay in English in every language: they are the machine's transcript, which
+    /// support reads, as the saved log is.
     std::function<void(const QString& line)> libraryLog;
 
     void enter(Phase entered, qint64 bytes = -1) const {

@@ -10,9 +10,11 @@ Runs PROGRAM once in the locale of LANGUAGE and updates its plotter, set to rest
 in a loop, so that the red banner with its "Repair…" offer appears."""
 
 import os
+import pathlib
 import subprocess
 import sys
 import time
+import xml.etree.ElementTree as ET
 
 import pyatspi
 from gi.repository import GLib
@@ -31,8 +33,33 @@ EXPECTED = {
     },
 }
 
+# The other languages' words are the C ones as their translation files give them.
+LOCALES = {"de": "de_DE.UTF-8", "fr": "fr_FR.UTF-8", "es": "es_ES.UTF-8",
+           "ja": "ja_JP.UTF-8", "zh_CN": "zh_CN.UTF-8"}
+TRANSLATIONS = pathlib.Path(__file__).resolve().parents[3] / "translations"
+
 problems = []
 events = []
+
+
+def words_in(language):
+    if language == "C":
+        return EXPECTED["C"]
+    ts_file = TRANSLATIONS / f"teskal-firmware-updater_{language}.ts"
+    table = {}
+    for message in ET.parse(ts_file).getroot().iter("message"):
+        table.setdefault(message.findtext("source"), message.findtext("translation"))
+
+    def say(source):
+        if isinstance(source, list):
+            return [say(each) for each in source]
+        if source.startswith("Starts: "):
+            return table["Starts: %1"].replace("%1", source[len("Starts: "):])
+        return table[source]
+
+    words = {key: say(value) for key, value in EXPECTED["C"].items() if key != "locale"}
+    words["locale"] = LOCALES[language]
+    return words
 
 
 def check(condition, problem):
@@ -133,7 +160,7 @@ def tab_order(window, words):
 
 
 def main(program, language):
-    words = EXPECTED[language]
+    words = words_in(language)
     # The accessibility bus is up before the program looks for it.
     desktop = pyatspi.Registry.getDesktop(0)
     desktop.childCount
