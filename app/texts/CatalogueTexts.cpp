@@ -1,4 +1,4 @@
-#include "app/catalogue/CatalogueTexts.h"
+#include "app/texts/CatalogueTexts.h"
 
 #include <QLocale>
 
