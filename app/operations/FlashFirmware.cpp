@@ -128,13 +128,13 @@ double FlashFirmware::writtenShare(float fraction) {
 std::optional<QByteArray> FlashFirmware::loadFirmware(const OperationSink& sink,
                                                       Outcome* failure) const {
     if (!options_.customFirmware && options_.release) {
+        sink.info(Texts::updatingRelease(VersionText::shown(options_.release->version)));
         auto fetched =
             fetchRelease(*options_.release, resources_, options_.developmentImages, sink);
         if (auto* refused = std::get_if<Outcome>(&fetched)) {
             *failure = std::move(*refused);
             return std::nullopt;
         }
-        sink.info(Texts::updatingRelease(VersionText::shown(options_.release->version)));
         return std::get<QByteArray>(std::move(fetched));
     }
     if (!options_.customFirmware) {

@@ -116,10 +116,6 @@ QString channelColumn() {
     return QStringLiteral("Channel");
 }
 
-QString dateColumn() {
-    return QStringLiteral("Date");
-}
-
 QString notesColumn() {
     return QStringLiteral("Notes");
 }

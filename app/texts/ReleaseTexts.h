@@ -40,7 +40,6 @@ QString catalogueChosen(const QString& address);
 QString chooseVersionTitle();
 QString versionColumn();
 QString channelColumn();
-QString dateColumn();
 QString notesColumn();
 QString showBetaVersions();
 QString useThisVersionButton();
