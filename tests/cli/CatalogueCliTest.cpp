@@ -36,7 +36,8 @@ class CatalogueCliTest : public QObject {
     void theBundledFirmwareInstallsWithTheCatalogueUnreachable();
 
   private:
-    Run run(const QStringList& arguments) const;
+    /// With `home`, in a state and cache of its own: nothing accepted before.
+    Run run(const QStringList& arguments, const QString& home = {}) const;
 
     QTemporaryDir home_;
     QString resources_;
@@ -53,11 +54,11 @@ void CatalogueCliTest::initTestCase() {
     catalogue_ = server_.url("/fw/catalogue.json").toString();
 }
 
-Run CatalogueCliTest::run(const QStringList& arguments) const {
+Run CatalogueCliTest::run(const QStringList& arguments, const QString& home) const {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char* folder : {"XDG_STATE_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"}) {
-        environment.insert(folder, home_.filePath(folder));
+        environment.insert(folder, (home.isEmpty() ? home_.path() : home) + '/' + folder);
     }
     process.setProcessEnvironment(environment);
     process.start(kProgram, arguments + QStringList{"--json", "--resources", resources_});
@@ -90,7 +91,10 @@ void CatalogueCliTest::firmwareListsBundledThenTheCatalogues() {
                                 "2.9.4 stable 2026-02-20 catalogue"}));
     QCOMPARE(firmware[2].toObject().value("notes").toString(), "Release notes of 2.11.0");
 
-    const Run unusable = run({"firmware", "--catalogue", "http://127.0.0.1:1/catalogue.json"});
+    // Unreachable, and nothing accepted before to show offline.
+    QTemporaryDir fresh;
+    const Run unusable =
+        run({"firmware", "--catalogue", "http://127.0.0.1:1/catalogue.json"}, fresh.path());
     QCOMPARE(unusable.exitCode, 19);
     QCOMPARE(unusable.result.value("kind").toString(), "catalogue-unusable");
     QCOMPARE(unusable.result.value("firmware").toArray().size(), 1);
@@ -145,8 +149,10 @@ void CatalogueCliTest::theBundledFirmwareInstallsWithTheCatalogueUnreachable() {
     const Run bundled = run({"flash", "--sim"});
     QCOMPARE(bundled.exitCode, 0);
     QCOMPARE(bundled.result.value("message").toString(), "Firmware 2.10.6 installed and running.");
-    const Run release = run({"flash", "--sim", "--firmware-version", "2.11.0"});
+    QTemporaryDir fresh;
+    const Run release = run({"flash", "--sim", "--firmware-version", "2.11.0"}, fresh.path());
     QCOMPARE(release.exitCode, 19);
+    QCOMPARE(release.result.value("kind").toString(), "catalogue-unusable");
     QFile::remove(resources_ + "/catalogue-url");
 }
 
