@@ -9,6 +9,8 @@
 #include "app/Backup.h"
 #include "app/Checklist.h"
 #include "app/ConfigDiff.h"
+#include "app/catalogue/Catalogue.h"
+#include "app/catalogue/CatalogueFailure.h"
 #include "esp_flasher.h"
 
 /// Why reading a file from the machine failed, as the library tells it.
@@ -71,6 +73,41 @@ struct SettingsCause {
     friend bool operator==(const SettingsCause&, const SettingsCause&) = default;
 };
 
+/// A catalogue release older than the firmware the machine runs: installed only
+/// when the owner allows it.
+struct OlderRelease {
+    QString chosen;   ///< the release's version, as the catalogue lists it
+    QString running;  ///< the version the machine answered, cleaned ("2.10.6")
+
+    friend bool operator==(const OlderRelease&, const OlderRelease&) = default;
+};
+
+/// One firmware version that may be installed.
+struct FirmwareRelease {
+    enum class Source { bundled, catalogue };
+
+    QString version;  ///< "2.10.6"
+    FirmwareChannel channel = FirmwareChannel::stable;
+    QDate date;     ///< of the release; invalid for the bundled firmware
+    QString notes;  ///< plain text; empty for the bundled firmware
+    Source source = Source::bundled;
+
+    friend bool operator==(const FirmwareRelease&, const FirmwareRelease&) = default;
+};
+
+/// The firmware versions that may be installed: the bundled one first, then the
+/// catalogue's, newest first.
+struct FirmwareListing {
+    QList<FirmwareRelease> releases;
+    /// The catalogue's newest stable version when it is newer than the bundled one.
+    std::optional<QString> newerStable;
+    /// Set when the catalogue's source could not be reached and the last accepted
+    /// catalogue is listed: when that one was published.
+    std::optional<QDateTime> offlineSince;
+
+    friend bool operator==(const FirmwareListing&, const FirmwareListing&) = default;
+};
+
 /// The verdict's name in machine-readable output: "running", "wrong-version",
 /// "boot-loop", "panic", "no-app", "brownout", "config-error" or "no-answer".
 QString verdictName(int verdict);
@@ -81,9 +118,12 @@ std::optional<int> verdictNamed(const QString& name);
 /// found), and whatever the window or the command line needs from it afterwards;
 /// empty where the kind alone tells. A connection check carries its whole
 /// checklist; a listing of backups, the backups found; a comparison, how the two
-/// configurations differ.
-using Cause = std::variant<std::monostate, DownloadCause, PortCause, Checklist, StartupCause,
-                           BackupListing, SettingsCause, ConfigComparison>;
+/// configurations differ; a listing of firmware, the versions; a catalogue that
+/// cannot be used, or a release it refuses, why; a release older than the
+/// running firmware, both versions.
+using Cause =
+    std::variant<std::monostate, DownloadCause, PortCause, Checklist, StartupCause, BackupListing,
+                 SettingsCause, ConfigComparison, CatalogueFailure, OlderRelease, FirmwareListing>;
 
 /// How an operation ended: the only way a result leaves an operation. Created where
 /// the result is known and carried unchanged to the window and to the command line,
@@ -91,23 +131,24 @@ using Cause = std::variant<std::monostate, DownloadCause, PortCause, Checklist, 
 /// anything off the operation after it ran. A plain value.
 struct Outcome {
     enum class Kind {
-        succeeded,         ///< it did what it was asked
-        differs,           ///< a comparison ran and found differences
-        noPartitionTable,  ///< the plotter answered and holds no valid partition table
-        noDevice,          ///< no plotter is connected
-        failed,            ///< the library returned `code`
-        noAnswer,          ///< the machine did not answer
-        refused,           ///< its input was refused before anything reached the machine
-        missingResource,   ///< something it needs is missing from the resources folder
-        notWritten,        ///< a file on this computer could not be written
-        busy,              ///< another operation was still running
-        notConfirmed,      ///< written and verified, but the machine did not confirm it runs
-        notStarting,       ///< written and verified, but the machine does not start
-        configRejected,    ///< the machine runs but rejects its configuration
-        portUnusable,      ///< the port cannot be used; `cause` is a PortCause
-        notReady,          ///< the connection check found no plotter ready to use
-        noBackup,          ///< the backup to restore was not found
-        nothingToRestore,  ///< a repair knows no configuration to put back; nothing was erased
+        succeeded,          ///< it did what it was asked
+        differs,            ///< a comparison ran and found differences
+        noPartitionTable,   ///< the plotter answered and holds no valid partition table
+        noDevice,           ///< no plotter is connected
+        failed,             ///< the library returned `code`
+        noAnswer,           ///< the machine did not answer
+        refused,            ///< its input was refused before anything reached the machine
+        missingResource,    ///< something it needs is missing from the resources folder
+        notWritten,         ///< a file on this computer could not be written
+        busy,               ///< another operation was still running
+        notConfirmed,       ///< written and verified, but the machine did not confirm it runs
+        notStarting,        ///< written and verified, but the machine does not start
+        configRejected,     ///< the machine runs but rejects its configuration
+        portUnusable,       ///< the port cannot be used; `cause` is a PortCause
+        notReady,           ///< the connection check found no plotter ready to use
+        noBackup,           ///< the backup to restore was not found
+        nothingToRestore,   ///< a repair knows no configuration to put back; nothing was erased
+        catalogueUnusable,  ///< the firmware catalogue cannot be used; `cause` says why
     };
 
     Kind kind = Kind::succeeded;

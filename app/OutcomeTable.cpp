@@ -66,6 +66,10 @@ constexpr Row kTable[] = {
      "nothing is known to put back after a repair (no backup of this plotter, no choice "
      "given); nothing was erased",
      nullptr, nullptr},
+    {Kind::catalogueUnusable, 0, 19,
+     "the firmware catalogue cannot be used (unreachable, not validly signed, older than one "
+     "already seen); nothing was written",
+     nullptr, nullptr},
     {Kind::failed, 0, usage, "the command line could not be understood", nullptr, nullptr},
     {Kind::busy, 0, crashed, "the command ended abnormally for a plotter", nullptr, nullptr},
     {Kind::failed, 0, stopped, "stopped with Ctrl+C", nullptr, nullptr},

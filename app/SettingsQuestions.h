@@ -16,4 +16,7 @@ struct SettingsQuestions {
     std::function<bool()> eraseAnyway;
     /// Reading them failed for the reason given, nothing was erased. (`cancel`)
     std::function<AfterFailedRead(const QString& reason)> afterFailedRead;
+    /// The catalogue's release `chosen` is older than the firmware `running` on
+    /// the machine, and nothing was written: install it anyway? (false)
+    std::function<bool(const QString& chosen, const QString& running)> installOlder;
 };

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "app/BuildConfig.h"
+#include "app/FirmwareCheck.h"
 
 namespace {
 
@@ -49,10 +50,13 @@ UsbSurvey simulatedSurvey(const std::string& path) {
 std::unique_ptr<sim::PtyPlotter> startSimulatedPlotter(const ResourceBundle& resources,
                                                        SimulatedPace pace, sim::Config config) {
     setPace(config, pace);
-    // The development image stands in for the bundled firmware, so a simulated
-    // plotter that was updated reports the version the updater expects.
-    if (!config.versionAfterUpdate) {
-        config.versionAfterUpdate = BuildConfig::firmwareVersion().toStdString();
+    // The bundled development image stands in for the bundled firmware, so a
+    // simulated plotter updated with it reports the version the updater expects;
+    // any other image (a catalogue's release) reports its own.
+    if (const auto bundled = resources.read(QStringLiteral("firmware"), QStringLiteral("bin"))) {
+        if (const auto& app = inspectFirmware(*bundled).app) {
+            config.standIn = std::pair(app->version, BuildConfig::firmwareVersion().toStdString());
+        }
     }
     auto plotter = std::make_unique<sim::PtyPlotter>(config);
     if (const auto table = resources.read(QStringLiteral("partitions"), QStringLiteral("bin"))) {

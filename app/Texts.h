@@ -6,8 +6,10 @@
 // outcome table).
 #include "app/texts/Audience.h"
 #include "app/texts/BackupTexts.h"
+#include "app/texts/CatalogueTexts.h"
 #include "app/texts/FileTexts.h"
 #include "app/texts/FirmwareJobTexts.h"
 #include "app/texts/OutcomeTexts.h"
 #include "app/texts/PortTexts.h"
+#include "app/texts/ReleaseTexts.h"
 #include "app/texts/WindowTexts.h"

@@ -26,7 +26,8 @@ UpdateController::UpdateController(ResourceBundle resources, DeviceMonitor::Dete
       resources_(std::move(resources)),
       developmentImages_(developmentImages),
       monitor_(new DeviceMonitor(std::move(detector), this)),
-      connectionHint_(new ConnectionHint(statusMessage(), ConnectionHint::kPatienceMs, this)) {
+      connectionHint_(new ConnectionHint(statusMessage(), ConnectionHint::kPatienceMs, this)),
+      firmwareChoice_(new FirmwareChoice(resources_, developmentImages_, this)) {
     monitor_->startPolling();
     connect(this, &UpdateController::statusMessageChanged, connectionHint_,
             &ConnectionHint::followStatus);
@@ -51,6 +52,8 @@ UpdateController::UpdateController(ResourceBundle resources, DeviceMonitor::Dete
     connect(&runner_, &OperationRunner::logged, this, &UpdateController::appendLog);
     connect(&runner_, &OperationRunner::libraryLogged, this, &UpdateController::showLibraryLine);
     connect(&runner_, &OperationRunner::finished, this, &UpdateController::finish);
+    connect(firmwareChoice_, &FirmwareChoice::chosenChanged, this,
+            [this] { emit customFirmwareURLChanged(customFirmwareURL()); });
 }
 
 UpdateController::~UpdateController() = default;
@@ -61,6 +64,7 @@ QUrl UpdateController::customFirmwareURL() const {
 }
 
 void UpdateController::setCustomFirmwareURL(const QUrl& location) {
+    firmwareChoice_->choose(std::nullopt);
     {
         const QMutexLocker lock(&customFirmwareMutex_);
         customFirmwareURL_ = location;
@@ -70,8 +74,18 @@ void UpdateController::setCustomFirmwareURL(const QUrl& location) {
 
 QString UpdateController::firmwareLabel() const {
     const QUrl location = customFirmwareURL();
-    return location.isEmpty() ? Texts::firmwareLabel(BuildConfig::firmwareVersion())
-                              : location.fileName();
+    if (!location.isEmpty()) {
+        return location.fileName();
+    }
+    const auto& release = firmwareChoice_->chosen();
+    return release ? Texts::releaseFirmwareLabel(*release)
+                   : Texts::firmwareLabel(BuildConfig::firmwareVersion());
+}
+
+void UpdateController::chooseRelease(const QString& version) {
+    setCustomFirmwareURL(QUrl());
+    firmwareChoice_->choose(version);
+    log(Texts::releaseChosen(version));
 }
 
 void UpdateController::chooseCustomFirmware(const std::optional<QString>& path) {
@@ -117,8 +131,10 @@ void UpdateController::updateFirmware() {
     }
 }
 
-void UpdateController::performFlash(const QString& port, Log log) {
-    start(std::make_shared<FlashFirmware>(port, resources_, flashOptions()), {}, {}, log);
+void UpdateController::performFlash(const QString& port, Log log, bool allowOlder) {
+    start(
+        std::make_shared<FlashFirmware>(port, resources_, flashOptions(allowOlder)), {},
+        [this](const Outcome& outcome) { askInstallOlder(outcome, false); }, log);
 }
 
 void UpdateController::performConfigUpload(const QString& port, const QString& configFile,
@@ -137,15 +153,18 @@ void UpdateController::performConfigUploadData(const QString& port, const QStrin
                                          options));
 }
 
-void UpdateController::performKeepingSettings(const QString& port, Log log) {
+void UpdateController::performKeepingSettings(const QString& port, Log log, bool allowOlder) {
     EraseKeepingSettings::Options options;
-    options.flash = flashOptions();
+    options.flash = flashOptions(allowOlder);
     start(
         std::make_shared<EraseKeepingSettings>(port, resources_, options), {},
         [this](const Outcome& outcome) { askAfterStop(outcome); }, log);
 }
 
 void UpdateController::askAfterStop(const Outcome& outcome) {
+    if (askInstallOlder(outcome, true)) {
+        return;
+    }
     using Stop = SettingsCause::Stop;
     using Answer = SettingsQuestions::AfterFailedRead;
     const auto* settings = std::get_if<SettingsCause>(&outcome.cause);
@@ -166,11 +185,30 @@ void UpdateController::askAfterStop(const Outcome& outcome) {
     }
 }
 
-FlashFirmware::Options UpdateController::flashOptions() const {
+// Nothing was written; agreed, the same job runs again and the log goes on.
+bool UpdateController::askInstallOlder(const Outcome& outcome, bool keepingSettings) {
+    const auto* older = std::get_if<OlderRelease>(&outcome.cause);
+    if (older == nullptr) {
+        return false;
+    }
+    const auto port =
+        questions_.installOlder && questions_.installOlder(older->chosen, older->running)
+            ? portForNewJob()
+            : std::nullopt;
+    if (port) {
+        keepingSettings ? performKeepingSettings(*port, Log::continued, true)
+                        : performFlash(*port, Log::continued, true);
+    }
+    return true;
+}
+
+FlashFirmware::Options UpdateController::flashOptions(bool allowOlder) const {
     FlashFirmware::Options options;
     const QUrl custom = customFirmwareURL();
     if (!custom.isEmpty()) {
         options.customFirmware = custom.toLocalFile();
+    } else {
+        options.release = firmwareChoice_->release(allowOlder);
     }
     options.writeBootPartitions = writeBootPartitions_;
     options.eraseAll = eraseAllFlash_;

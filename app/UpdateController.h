@@ -15,6 +15,7 @@
 #include "app/ConnectionHint.h"
 #include "app/DeviceMonitor.h"
 #include "app/FirmwareCheck.h"
+#include "app/FirmwareChoice.h"
 #include "app/PublishedState.h"
 #include "app/ResourceBundle.h"
 #include "app/SettingsQuestions.h"
@@ -60,8 +61,18 @@ class UpdateController : public PublishedState {
     QUrl customFirmwareURL() const;
     /// Empty clears the choice.
     void setCustomFirmwareURL(const QUrl& location);
-    /// The chosen file's name, or "Firmware version 2.10.6".
+    /// The chosen file's name, the chosen catalogue release ("Firmware version
+    /// 2.11.0 from the catalogue"), or "Firmware version 2.10.6".
     QString firmwareLabel() const;
+
+    /// The firmware catalogue and the release chosen from it; owned by the controller.
+    FirmwareChoice* firmwareChoice() const { return firmwareChoice_; }
+    /// Makes the catalogue's release `version` the image, in place of a chosen file
+    /// or the bundled firmware, and logs it; a file chosen or "Use Bundled
+    /// Firmware" (`setCustomFirmwareURL`) drops it. A release older than the
+    /// firmware the machine runs is refused by the job, which then asks
+    /// `SettingsQuestions::installOlder` and, agreed, runs again allowing it.
+    void chooseRelease(const QString& version);
 
     /// The options of the menus; read when an operation starts.
     bool detailedLogging() const { return detailedLogging_; }
@@ -151,18 +162,19 @@ class UpdateController : public PublishedState {
     enum class Log { fresh, continued };
 
     // The controller's own steps: each builds its operation and runs it.
-    void performFlash(const QString& port, Log log = Log::fresh);
+    void performFlash(const QString& port, Log log = Log::fresh, bool allowOlder = false);
     void performConfigUpload(const QString& port, const QString& configFile,
                              const QString& productName);
     void performConfigUploadData(const QString& port, const QString& path,
                                  const QByteArray& configData);
-    void performKeepingSettings(const QString& port, Log log);
+    void performKeepingSettings(const QString& port, Log log, bool allowOlder = false);
 
     std::optional<QString> portForNewJob();
     void start(std::shared_ptr<Operation> operation, Then then = {}, Then otherwise = {},
                Log log = Log::fresh);
     void askAfterStop(const Outcome& outcome);
-    FlashFirmware::Options flashOptions() const;
+    bool askInstallOlder(const Outcome& outcome, bool keepingSettings);
+    FlashFirmware::Options flashOptions(bool allowOlder = false) const;
     void showLibraryLine(const QString& line);
     void finish(const Outcome& outcome);
 
@@ -170,6 +182,7 @@ class UpdateController : public PublishedState {
     const DevelopmentImages developmentImages_;
     DeviceMonitor* monitor_;
     ConnectionHint* connectionHint_;
+    FirmwareChoice* firmwareChoice_;
     mutable QMutex customFirmwareMutex_;
     QUrl customFirmwareURL_;
     std::atomic<bool> detailedLogging_ = false;

@@ -5,6 +5,7 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
     commands.push_back(makeDetectCommand());
     commands.push_back(makeVersionCommand());
     commands.push_back(makeFlashCommand());
+    commands.push_back(makeFirmwareCommand());
     commands.push_back(makeUploadConfigCommand());
     commands.push_back(makeProbeCommand());
     commands.push_back(makeFileReportCommand());

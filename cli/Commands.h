@@ -8,6 +8,7 @@
 std::unique_ptr<Command> makeDetectCommand();
 std::unique_ptr<Command> makeVersionCommand();
 std::unique_ptr<Command> makeFlashCommand();
+std::unique_ptr<Command> makeFirmwareCommand();
 std::unique_ptr<Command> makeUploadConfigCommand();
 std::unique_ptr<Command> makeProbeCommand();
 std::unique_ptr<Command> makeFileReportCommand();

@@ -10,13 +10,35 @@ class FlashCommand : public Command {
         CLI::App* command = parent.add_subcommand(
             "flash",
             "Writes firmware, as the updater window's \"Update Firmware\" does. The bundled "
-            "image, or --firmware FILE, is checked before anything is sent. Only the "
+            "image, --firmware FILE, or --firmware-version V of the firmware catalogue (see "
+            "the firmware command; fetched, its signature and SHA-256 checked) is checked "
+            "before anything is sent. A catalogue version older than the running firmware is "
+            "refused (status 11) unless --allow-older. Only the "
             "application is written when the running firmware answers; otherwise, or with "
             "--full or --erase-all, the bootloader, partition table and boot-app image too.");
+        CLI::Option* file =
+            command
+                ->add_option("--firmware", firmware_,
+                             "Firmware image (.bin) to write in place of the bundled one")
+                ->type_name("FILE");
+        CLI::Option* version =
+            command
+                ->add_option("--firmware-version", version_,
+                             "Write this version of the firmware catalogue in place of the "
+                             "bundled one")
+                ->type_name("V")
+                ->excludes(file);
         command
-            ->add_option("--firmware", firmware_,
-                         "Firmware image (.bin) to write in place of the bundled one")
-            ->type_name("FILE");
+            ->add_option("--catalogue", catalogue_,
+                         "Firmware catalogue: an http(s) address, a catalogue.json file or a "
+                         "folder that holds one (default: the resources' catalogue-url)")
+            ->type_name("URL|FILE|FOLDER")
+            ->needs(version);
+        command
+            ->add_flag("--allow-older", allowOlder_,
+                       "Install the catalogue version even when it is older than the running "
+                       "firmware")
+            ->needs(version);
         command->add_flag("--full", full_,
                           "Write the bootloader, partition table and boot-app image too");
         CLI::Option* eraseAll = command->add_flag(
@@ -36,7 +58,7 @@ class FlashCommand : public Command {
         return QStringLiteral("written, verified, and the machine runs it");
     }
     QList<int> failureStatuses() const override {
-        return {1, 2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14, 17};
+        return {1, 2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14, 17, 19};
     }
     Ports ports() const override { return Ports::several; }
     bool writesFirmware() const override { return true; }
@@ -45,6 +67,15 @@ class FlashCommand : public Command {
         FlashFirmware::Options options;
         if (!firmware_.empty()) {
             options.customFirmware = QString::fromStdString(firmware_);
+        }
+        if (!version_.empty()) {
+            CatalogueRelease release;
+            release.catalogue = catalogue_.empty()
+                                    ? std::nullopt
+                                    : std::optional(QString::fromStdString(catalogue_));
+            release.version = QString::fromStdString(version_);
+            release.allowOlder = allowOlder_;
+            options.release = release;
         }
         options.writeBootPartitions = full_;
         options.eraseAll = eraseAll_;
@@ -61,6 +92,9 @@ class FlashCommand : public Command {
 
   private:
     std::string firmware_;
+    std::string version_;
+    std::string catalogue_;
+    bool allowOlder_ = false;
     bool full_ = false;
     bool eraseAll_ = false;
     bool discardConfig_ = false;

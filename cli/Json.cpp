@@ -27,6 +27,21 @@ QJsonObject progressObject(const event::Progress& progress) {
     return object;
 }
 
+QJsonArray firmwareArray(const FirmwareListing& listing) {
+    QJsonArray releases;
+    for (const FirmwareRelease& release : listing.releases) {
+        const bool bundled = release.source == FirmwareRelease::Source::bundled;
+        releases.append(QJsonObject{
+            {"version", release.version},
+            {"channel", release.channel == FirmwareChannel::beta ? "beta" : "stable"},
+            {"date", release.date.isValid() ? QJsonValue(release.date.toString(Qt::ISODate))
+                                            : QJsonValue(QJsonValue::Null)},
+            {"source", bundled ? "bundled" : "catalogue"},
+            {"notes", release.notes}});
+    }
+    return releases;
+}
+
 QJsonObject resultObject(const event::Result& result) {
     const Outcome& outcome = result.outcome;
     QJsonObject object{{"type", "result"},
@@ -49,6 +64,9 @@ QJsonObject resultObject(const event::Result& result) {
     if (!result.outcome.evidence.isEmpty() || result.outcome.isVerdict()) {
         object.insert(QStringLiteral("evidence"),
                       QJsonArray::fromStringList(result.outcome.evidence));
+    }
+    if (const auto* listing = std::get_if<FirmwareListing>(&result.outcome.cause)) {
+        object.insert(QStringLiteral("firmware"), firmwareArray(*listing));
     }
     if (const auto* listing = std::get_if<BackupListing>(&result.outcome.cause)) {
         QJsonArray backups;

@@ -83,6 +83,9 @@ class Single {
         if (!port.isEmpty() && context.simulated) {
             sim::Config config;
             config.startup = sim::parseStartup(options.simStartup).value_or(sim::Startup::Healthy);
+            // As in the demo: an update is an update, and an older catalogue release
+            // is older than what it runs.
+            config.versionReport = kSimulatedOlderRelease;
             plotter_ = startSimulatedPlotter(context.resources, SimulatedPace::brisk, config);
             context.portPath = QString::fromStdString(plotter_->path());
         }

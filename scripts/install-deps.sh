@@ -6,7 +6,7 @@ packages=(build-essential cmake ninja-build pkg-config qt6-base-dev libssl-dev
           libgtest-dev libgmock-dev libbenchmark-dev clang libclang-rt-14-dev
           libyaml-cpp-dev libdtl-dev libcli11-dev
           qt6-tools-dev qt6-l10n-tools qt6-translations-l10n fonts-wqy-microhei
-          xvfb xauth dbus-daemon at-spi2-core python3-pyatspi)
+          xvfb xauth dbus-daemon at-spi2-core python3 python3-pyatspi)
 
 missing=()
 for p in "${packages[@]}"; do

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "sim/Startup.h"
@@ -58,6 +59,9 @@ struct Config {
     /// The version the firmware reports once it has been updated; absent: the flashed
     /// application's own (from its descriptor), or `versionReport` without one.
     std::optional<std::string> versionAfterUpdate;
+    /// A flashed application whose own version is `first` reports `second` instead
+    /// (an image that stands in for a release); unused when `versionAfterUpdate` is set.
+    std::optional<std::pair<std::string, std::string>> standIn;
 
     // ROM loader and stub.
     bool silent = false;      ///< the device answers nothing at all, in any mode

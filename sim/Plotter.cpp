@@ -21,6 +21,13 @@ bool isLoaderMode(Mode mode) {
     return mode == Mode::RomLoader || mode == Mode::Stub;
 }
 
+std::optional<std::string> reported(const Config& config, std::optional<std::string> own) {
+    if (own && config.standIn && config.standIn->first == *own) {
+        return config.standIn->second;
+    }
+    return own;
+}
+
 std::optional<std::string> appVersion(const std::vector<uint8_t>& flash) {
     const size_t descriptor = kAppOffset + kDescriptorOffset;
     if (flash.size() < descriptor + kVersionOffset + kVersionLength ||
@@ -62,7 +69,7 @@ void Plotter::Impl::enter(Mode from, Mode to) {
         if (device.appFlashed) {
             device.reportedVersion = device.config.versionAfterUpdate
                                          ? device.config.versionAfterUpdate
-                                         : appVersion(device.flash);
+                                         : reported(device.config, appVersion(device.flash));
         }
         // The chip ran from the host's reset on, however late a read notices it.
         const int64_t restartNs = std::min(mono::nowNs(), device.restartNs);

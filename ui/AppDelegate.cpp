@@ -15,12 +15,14 @@
 #include "app/SleepInhibitor.h"
 #include "app/Texts.h"
 #include "app/UpdateController.h"
+#include "app/VersionText.h"
 #include "app/operations/QueryVersion.h"
 #include "app/operations/SaveMachineConfig.h"
 #include "ui/AboutWindow.h"
 #include "ui/CompareWindow.h"
 #include "ui/ConnectionCheckWindow.h"
 #include "ui/EraseQuestions.h"
+#include "ui/FirmwareVersionWindow.h"
 #include "ui/RepairDialog.h"
 #include "ui/RestoreWindow.h"
 #include "ui/UpdaterView.h"
@@ -68,6 +70,7 @@ AppDelegate::~AppDelegate() {
     // The windows go before the controller they observe; the dialog before the
     // main window, its parent.
     repairDialog_.reset();
+    firmwareVersionWindow_.reset();
     window_.reset();
     aboutWindow_.reset();
     compareWindow_.reset();
@@ -85,12 +88,17 @@ void AppDelegate::applicationDidFinishLaunching() {
     auto* view = new UpdaterView(*updateController_);
     connect(view, &UpdaterView::connectionCheckRequested, this, &AppDelegate::showConnectionCheck);
     connect(view, &UpdaterView::repairRequested, this, &AppDelegate::showRepair);
+    connect(view, &UpdaterView::firmwareVersionsRequested, this,
+            &AppDelegate::showFirmwareVersions);
     window_->setCentralWidget(view);
     updateController_->setSettingsQuestions(settingsQuestionsAsked(window_.get()));
     quitGuard_ = new QuitGuard(
         window_.get(), [controller = updateController_.get()] { return controller->jobRunning(); },
         askToQuitDuringJob, options_.exitNow, this);
     setupMenus();
+    // Without a catalogue named or configured this lists the bundled version alone
+    // and opens no connection.
+    updateController_->firmwareChoice()->refresh();
     window_->adjustSize();
     centreOnScreen(window_.get());
     bringToFront(window_.get());
@@ -133,6 +141,45 @@ void AppDelegate::openFirmwareFile() {
 void AppDelegate::useBundledFirmware() {
     updateController_->setCustomFirmwareURL(QUrl());
     updateController_->log(Texts::usingShipped());
+}
+
+void AppDelegate::chooseFirmwareCatalogue() {
+    FirmwareChoice* choice = updateController_->firmwareChoice();
+    const auto text =
+        options_.chooseCatalogue(window_.get(), choice->catalogue().value_or(QString()));
+    if (text) {
+        updateController_->log(Texts::catalogueChosen(*text));
+        choice->setCatalogue(*text);
+    }
+}
+
+void AppDelegate::showFirmwareVersions() {
+    FirmwareChoice* choice = updateController_->firmwareChoice();
+    QSet<QString> ranHere;
+    if (const auto port = updateController_->deviceMonitor()->port()) {
+        const QString machine = DeviceQueries::machineIdentity(*port);
+        for (const Backup& backup : BackupIndex().list([](const QString&) {})) {
+            if (backup.machine == machine && backup.firmwareVersion) {
+                ranHere << VersionText::shown(*backup.firmwareVersion);
+            }
+        }
+    }
+    firmwareVersionWindow_ = std::make_unique<FirmwareVersionWindow>(ranHere, choice->chosen());
+    FirmwareVersionWindow* window = firmwareVersionWindow_.get();
+    window->showListing(choice->listing(), choice->hasCatalogue());
+    connect(choice, &FirmwareChoice::listed, window, [window, choice](const Outcome& listing) {
+        window->showListing(listing, choice->hasCatalogue());
+    });
+    connect(window, &FirmwareVersionWindow::versionChosen, this,
+            [this](const std::optional<QString>& version) {
+                version ? updateController_->chooseRelease(*version) : useBundledFirmware();
+            });
+    if (choice->hasCatalogue() && !choice->isReading()) {
+        window->showReading();
+        choice->refresh();
+    }
+    centreOnScreen(window);
+    bringToFront(window);
 }
 
 void AppDelegate::saveLog() {

@@ -11,6 +11,7 @@
 #include "app/Outcome.h"
 #include "app/operations/CheckConnection.h"
 #include "app/operations/OperationRunner.h"
+#include "ui/CatalogueChooser.h"
 #include "ui/FileChooser.h"
 #include "ui/QuitGuard.h"
 #include "ui/SaveChooser.h"
@@ -19,6 +20,7 @@ class AboutWindow;
 class CompareWindow;
 class ConnectionCheckWindow;
 class EscapeCloser;
+class FirmwareVersionWindow;
 class QAction;
 class QMainWindow;
 class QMenu;
@@ -43,6 +45,8 @@ class AppDelegate : public QObject {
         QList<ProductConfig> products = BuildConfig::products();
         /// Asks for firmware and configuration files.
         FileChooser chooseFile = chooseFileWithDialog;
+        /// Asks where the firmware catalogue is.
+        CatalogueChooser chooseCatalogue = chooseCatalogueWithDialog;
         /// Asks where to save the log and the machine's configuration.
         SaveChooser chooseSaveFile = chooseSaveFileWithDialog;
         /// Ends the program when the user quits anyway during a job.
@@ -78,6 +82,8 @@ class AppDelegate : public QObject {
     ConnectionCheckWindow* connectionCheckWindow() const { return connectionCheckWindow_.get(); }
     /// The last Restore Machine Config window; null until one was opened.
     RestoreWindow* restoreWindow() const { return restoreWindow_.get(); }
+    /// The last Choose Firmware Version window; null until one was opened.
+    FirmwareVersionWindow* firmwareVersionWindow() const { return firmwareVersionWindow_.get(); }
     /// The last Repair Machine dialog; null until one was opened.
     RepairDialog* repairDialog() const { return repairDialog_.get(); }
 
@@ -85,6 +91,13 @@ class AppDelegate : public QObject {
     void showAbout();
     void openFirmwareFile();
     void useBundledFirmware();
+    /// Asks where the firmware catalogue is, then reads it.
+    void chooseFirmwareCatalogue();
+    /// Opens the Choose Firmware Version window, in place of an earlier one, with
+    /// the catalogue as last read (and reads it again when it is not being read);
+    /// versions are marked that this machine answered in its backups. Its choice
+    /// becomes the image (`UpdateController::chooseRelease`), or the bundled one.
+    void showFirmwareVersions();
     /// Asks where to save the log and has the controller write it there.
     void saveLog();
     void toggleDetailedLogging(QAction* item);
@@ -139,6 +152,7 @@ class AppDelegate : public QObject {
     std::unique_ptr<ConnectionCheckWindow> connectionCheckWindow_;
     std::unique_ptr<RestoreWindow> restoreWindow_;
     std::unique_ptr<RepairDialog> repairDialog_;
+    std::unique_ptr<FirmwareVersionWindow> firmwareVersionWindow_;
     EscapeCloser* escapeCloser_ = nullptr;
     QuitGuard* quitGuard_ = nullptr;
     SleepInhibitor* sleepInhibitor_;

@@ -50,6 +50,8 @@ QMenu* AppDelegate::addFileMenu() {
         menu->addAction(Texts::openFirmwareItem(), this, &AppDelegate::openFirmwareFile);
     setKey(open, QKeySequence(Qt::CTRL | Qt::Key_O));
     menu->addAction(Texts::useBundledItem(), this, &AppDelegate::useBundledFirmware);
+    menu->addAction(Texts::chooseFirmwareVersionItem(), this, &AppDelegate::showFirmwareVersions);
+    menu->addAction(Texts::firmwareCatalogueItem(), this, &AppDelegate::chooseFirmwareCatalogue);
     menu->addSeparator();
     QAction* save = menu->addAction(Texts::saveLogItem(), this, &AppDelegate::saveLog);
     setKey(save, QKeySequence(Qt::CTRL | Qt::Key_S));

@@ -57,6 +57,15 @@ std::unique_ptr<QMessageBox> retryQuestion(QWidget* parent, const QString& reaso
     return box;
 }
 
+std::unique_ptr<QMessageBox> installOlderQuestion(QWidget* parent, const QString& chosen,
+                                                  const QString& running) {
+    auto box = question(parent, QMessageBox::Warning, Texts::installOlderTitle(),
+                        Texts::installOlderQuestion(chosen, running));
+    box->addButton(Texts::installOlderButton(), QMessageBox::AcceptRole);
+    box->setDefaultButton(addCancel(*box));
+    return box;
+}
+
 SettingsQuestions settingsQuestionsAsked(QWidget* parent) {
     // A question that comes after the window has gone is asked on its own.
     const QPointer<QWidget> window(parent);
@@ -85,6 +94,9 @@ SettingsQuestions settingsQuestionsAsked(QWidget* parent) {
             default:
                 return Answer::cancel;
         }
+    };
+    questions.installOlder = [window](const QString& chosen, const QString& running) {
+        return answerOf(*installOlderQuestion(window, chosen, running)) == QMessageBox::AcceptRole;
     };
     return questions;
 }

@@ -21,5 +21,10 @@ std::unique_ptr<QMessageBox> eraseAnywayQuestion(QWidget* parent);
 /// and "Cancel".
 std::unique_ptr<QMessageBox> retryQuestion(QWidget* parent, const QString& reason);
 
-/// The three questions asked modally over `parent`, for the update controller.
+/// Before installing a catalogue's release `chosen`, older than the firmware
+/// `running` on the machine: "Install Older Version" and "Cancel" (the default).
+std::unique_ptr<QMessageBox> installOlderQuestion(QWidget* parent, const QString& chosen,
+                                                  const QString& running);
+
+/// The questions asked modally over `parent`, for the update controller.
 SettingsQuestions settingsQuestionsAsked(QWidget* parent);

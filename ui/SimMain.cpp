@@ -8,6 +8,7 @@
 #include <cstring>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "app/SimulatedPlotter.h"
@@ -18,10 +19,6 @@
 #include "ui/Translations.h"
 
 namespace {
-
-// The demo's plotter runs an older release of the product's own line, so that an
-// update is an update and not a step back.
-constexpr const char* kOlderRelease = "FluidNC v2.10.5 (sim)";
 
 // The start-up's name with its first letter that no earlier item took marked as
 // the item's mnemonic ("boot-loop" and "brownout" both begin with b).
@@ -65,6 +62,13 @@ void addStartupMenu(QMainWindow& window, sim::PtyPlotter& plotter, UpdateControl
         });
 }
 
+// "--catalogue ADDRESS": the firmware catalogue the demo serves, as if chosen with
+// File > "Firmware Catalogue…".
+std::optional<QString> catalogueArgument(const QStringList& arguments) {
+    const qsizetype at = arguments.indexOf(QStringLiteral("--catalogue"));
+    return at >= 0 && at + 1 < arguments.size() ? std::optional(arguments[at + 1]) : std::nullopt;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -80,7 +84,7 @@ int main(int argc, char** argv) {
     }
     const ResourceBundle resources = ResourceBundle::located(QStringLiteral("resources-dev"));
     sim::Config config;
-    config.versionReport = kOlderRelease;
+    config.versionReport = kSimulatedOlderRelease;
     const auto plotter = startSimulatedPlotter(resources, SimulatedPace::visible, config);
     const std::string port = plotter->path();
     // Only the simulator's pseudo-terminal is ever offered as the device, so the
@@ -93,6 +97,9 @@ int main(int argc, char** argv) {
         std::make_unique<UpdateController>(resources, std::move(detector),
                                            UpdateController::DevelopmentImages::accept),
         std::move(options));
+    if (const auto catalogue = catalogueArgument(QApplication::arguments())) {
+        delegate.updateController().firmwareChoice()->setCatalogue(*catalogue);
+    }
     delegate.applicationDidFinishLaunching();
     addStartupMenu(*delegate.window(), *plotter, delegate.updateController());
     delegate.window()->setWindowTitle(Texts::simulatedWindowTitle());

@@ -64,6 +64,7 @@ UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
       port_(makeLabel(12, this)),
       notFound_(makeLabel(12, this)),
       firmware_(makeLabel(13, this)),
+      newer_(makeLabel(12, this)),
       progress_(new QProgressBar(this)),
       button_(new QPushButton(Texts::updateFirmwareButton(), this)),
       banner_(new ResultBanner(this)),
@@ -96,6 +97,11 @@ void UpdaterView::buildLayout() {
     firmware_->setWordWrap(true);
     firmware_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     column->addWidget(firmware_);
+
+    newer_->setTextFormat(Qt::RichText);
+    newer_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    newer_->hide();
+    column->addWidget(newer_);
 
     progress_->setTextVisible(false);
     progress_->hide();
@@ -132,6 +138,15 @@ void UpdaterView::connectTo(UpdateController& controller) {
     connect(notFound_, &QLabel::linkActivated, this, &UpdaterView::connectionCheckRequested);
     connect(&controller, &UpdateController::customFirmwareURLChanged, this,
             [this, &controller] { showFirmwareLabel(controller.firmwareLabel()); });
+    connect(newer_, &QLabel::linkActivated, this, &UpdaterView::firmwareVersionsRequested);
+    FirmwareChoice* choice = controller.firmwareChoice();
+    const auto followCatalogue = [this, choice] {
+        const auto* listing = std::get_if<FirmwareListing>(&choice->listing().cause);
+        const auto newer = listing ? listing->newerStable : std::nullopt;
+        showNewerFirmware(newer != choice->chosen() ? newer : std::nullopt);
+    };
+    connect(choice, &FirmwareChoice::listed, this, followCatalogue);
+    connect(choice, &FirmwareChoice::chosenChanged, this, followCatalogue);
     const auto followMonitor = [this, monitor] {
         showConnection(monitor->isConnected(), monitor->port());
     };
@@ -141,6 +156,7 @@ void UpdaterView::connectTo(UpdateController& controller) {
     showState(controller.state());
     showStatusMessage(controller.statusMessage());
     showFirmwareLabel(controller.firmwareLabel());
+    followCatalogue();
     showLog(controller.log());
     showConnectionHint(controller.connectionHint()->offered());
     followMonitor();
@@ -155,6 +171,11 @@ void UpdaterView::recolour() {
     notFound_->setText(
         QStringLiteral("<a href=\"check\" style=\"color: %1;\">%2</a>")
             .arg(AppColors::accentText(window).name(), Texts::plotterNotFound().toHtmlEscaped()));
+    newer_->setText(newerVersion_
+                        ? QStringLiteral("<a href=\"versions\" style=\"color: %1;\">%2</a>")
+                              .arg(AppColors::accentText(window).name(),
+                                   Texts::newerFirmwareAvailable(*newerVersion_).toHtmlEscaped())
+                        : QString());
 }
 
 void UpdaterView::changeEvent(QEvent* event) {
@@ -230,6 +251,12 @@ void UpdaterView::showConnectionHint(bool offered) {
 
 void UpdaterView::showFirmwareLabel(const QString& label) {
     firmware_->setText(label);
+}
+
+void UpdaterView::showNewerFirmware(const std::optional<QString>& version) {
+    newerVersion_ = version;
+    recolour();
+    newer_->setVisible(version.has_value());
 }
 
 void UpdaterView::showResult(const std::optional<Outcome>& result) {

@@ -49,6 +49,9 @@ class UpdaterView : public QWidget {
     /// The link "Plotter not found?" under the status row, or nothing (no space).
     void showConnectionHint(bool offered);
     void showFirmwareLabel(const QString& label);
+    /// The link "Firmware 2.11.0 is available" under the firmware line, for a
+    /// newer stable version of the catalogue than the bundled one; none hides it.
+    void showNewerFirmware(const std::optional<QString>& version);
     /// How the last job ended, in the result banner; none hides it. When the machine
     /// rejected a configuration and had another before (`StartupCause::previous`)
     /// the banner offers "Restore Previous Configuration"; after a machine that a
@@ -62,6 +65,7 @@ class UpdaterView : public QWidget {
     QLabel* portLabel() const { return port_; }
     QLabel* notFoundLink() const { return notFound_; }
     QLabel* firmwareLabel() const { return firmware_; }
+    QLabel* newerFirmwareLink() const { return newer_; }
     QProgressBar* progressBar() const { return progress_; }
     QPushButton* updateButton() const { return button_; }
     LogPanel* logPanel() const { return log_; }
@@ -77,6 +81,8 @@ class UpdaterView : public QWidget {
     void connectionCheckRequested();
     /// The banner's "Repair…" was pressed.
     void repairRequested();
+    /// The link "Firmware … is available" was followed.
+    void firmwareVersionsRequested();
 
   protected:
     void changeEvent(QEvent* event) override;
@@ -92,6 +98,8 @@ class UpdaterView : public QWidget {
     QLabel* port_;
     QLabel* notFound_;
     QLabel* firmware_;
+    QLabel* newer_;
+    std::optional<QString> newerVersion_;
     QProgressBar* progress_;
     QPushButton* button_;
     ResultBanner* banner_;

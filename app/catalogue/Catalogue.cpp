@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/catalogue/CatalogueTexts.h"
 #include "app/catalogue/FirmwareVersion.h"
+#include "app/texts/CatalogueTexts.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <QDeadlineTimer>
 #include <QFile>
 
-#include "app/catalogue/CatalogueTexts.h"
 #include "app/catalogue/Download.h"
+#include "app/texts/CatalogueTexts.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include <QDir>
 
-#include "app/catalogue/CatalogueTexts.h"
+#include "app/texts/CatalogueTexts.h"
 
 namespace {
 

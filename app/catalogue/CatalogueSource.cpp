@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "app/catalogue/CatalogueTexts.h"
+#include "app/texts/CatalogueTexts.h"
 
 namespace {
 

@@ -37,6 +37,14 @@ EraseKeepingSettings::EraseKeepingSettings(QString port, ResourceBundle resource
 Outcome EraseKeepingSettings::run(const OperationSink& sink) {
     sink.info(Texts::savingSettings());
     const auto version = DeviceQueries::firmwareVersion(port_);
+    // Before anything is saved or erased: the flashing job would refuse it only
+    // after the settings were read.
+    if (auto& release = options_.flash.release) {
+        if (auto older = olderRefusal(*release, version, sink.audience)) {
+            return *older;
+        }
+        release->allowOlder = true;
+    }
     if (!version) {
         if (!options_.goOnWhenSilent) {
             return stopped(

@@ -8,6 +8,7 @@
 #include "app/FlasherBridge.h"
 #include "app/PortDiagnosis.h"
 #include "app/Texts.h"
+#include "app/VersionText.h"
 #include "app/operations/CheckStartup.h"
 
 namespace {
@@ -62,7 +63,15 @@ Outcome FlashFirmware::run(const OperationSink& sink) {
     if (const auto refusal = imagesRefusal(*firmware, resources_, options_.developmentImages)) {
         return Outcome::make(Outcome::Kind::refused, *refusal);
     }
-    const bool fullFlash = decideFullFlash(sink);
+    const auto running = runningVersion(sink);
+    if (options_.release) {
+        if (auto older = olderRefusal(*options_.release, running, sink.audience)) {
+            return *older;
+        }
+    }
+    // Erasing the chip and then writing only the application would leave it
+    // without a bootloader.
+    const bool fullFlash = forcedFullFlash() || !running;
 
     const auto stub = resources_.read(QStringLiteral("esp32s3_stub"), QStringLiteral("bin"));
     if (!stub) {
@@ -76,8 +85,7 @@ Outcome FlashFirmware::run(const OperationSink& sink) {
     // Known before the restart, which may take the port away for a moment.
     const PlotterPort plotter = PlotterPort::at(port_);
     sink.enter(Phase::writingFirmware, planBytes(*firmware, boot, fullFlash));
-    const std::optional<QString> expectedVersion =
-        options_.customFirmware ? std::nullopt : std::optional(BuildConfig::firmwareVersion());
+    const std::optional<QString> expected = expectedVersion();
     const auto libraryLog = [&sink](const QString& line) {
         if (line == kConfirming) {
             sink.enter(Phase::checkingStartup);
@@ -89,7 +97,7 @@ Outcome FlashFirmware::run(const OperationSink& sink) {
     FlasherBridge::StartupReport startup;
     const esp_error_t result = FlasherBridge::flashFirmware(
         port_, *firmware, boot.bootloader, boot.partitions, boot.bootApp, *stub, fullFlash,
-        options_.eraseAll, expectedVersion, sink.progress, libraryLog, &startup);
+        options_.eraseAll, expected, sink.progress, libraryLog, &startup);
     if (result != 0) {
         return PortDiagnosis::afterJob(port_, Outcome::library(result), sink.audience);
     }
@@ -105,11 +113,10 @@ Outcome FlashFirmware::run(const OperationSink& sink) {
     // A chosen image gives the job no version to confirm, and a port that went
     // away took the rest of the start with it: the check listens once more.
     if (!startup.listened || startup.portLost) {
-        return CheckStartup(plotter, StartupCause::Written::firmware, expectedVersion,
-                            kCheckAfterFlashMs)
+        return CheckStartup(plotter, StartupCause::Written::firmware, expected, kCheckAfterFlashMs)
             .run(sink);
     }
-    return startupOutcome(startup, StartupCause::Written::firmware, expectedVersion);
+    return startupOutcome(startup, StartupCause::Written::firmware, expected);
 }
 
 double FlashFirmware::writtenShare(float fraction) {
@@ -120,6 +127,16 @@ double FlashFirmware::writtenShare(float fraction) {
 
 std::optional<QByteArray> FlashFirmware::loadFirmware(const OperationSink& sink,
                                                       Outcome* failure) const {
+    if (!options_.customFirmware && options_.release) {
+        sink.info(Texts::updatingRelease(VersionText::shown(options_.release->version)));
+        auto fetched =
+            fetchRelease(*options_.release, resources_, options_.developmentImages, sink);
+        if (auto* refused = std::get_if<Outcome>(&fetched)) {
+            *failure = std::move(*refused);
+            return std::nullopt;
+        }
+        return std::get<QByteArray>(std::move(fetched));
+    }
     if (!options_.customFirmware) {
         const auto shipped = resources_.read(QStringLiteral("firmware"), QStringLiteral("bin"));
         if (!shipped) {
@@ -139,18 +156,28 @@ std::optional<QByteArray> FlashFirmware::loadFirmware(const OperationSink& sink,
     return chosen;
 }
 
-bool FlashFirmware::decideFullFlash(const OperationSink& sink) const {
-    // Erasing the chip and then writing only the application would leave it
-    // without a bootloader.
-    if (options_.eraseAll || options_.writeBootPartitions) {
-        return true;
+// After the write the machine must confirm the version that was chosen; a file
+// names none.
+std::optional<QString> FlashFirmware::expectedVersion() const {
+    if (options_.customFirmware) {
+        return std::nullopt;
+    }
+    return options_.release ? VersionText::shown(options_.release->version)
+                            : BuildConfig::firmwareVersion();
+}
+
+bool FlashFirmware::forcedFullFlash() const {
+    return options_.eraseAll || options_.writeBootPartitions;
+}
+
+// A forced full flash needs no version, but a catalogue's release is compared with it.
+std::optional<QString> FlashFirmware::runningVersion(const OperationSink& sink) const {
+    if (forcedFullFlash()) {
+        const bool compared = options_.release && !options_.release->allowOlder;
+        return compared ? DeviceQueries::firmwareVersion(port_) : std::nullopt;
     }
     sink.info(Texts::checkingDevice());
     const auto version = DeviceQueries::firmwareVersion(port_);
-    if (!version) {
-        sink.info(Texts::deviceNotResponding());
-        return true;
-    }
-    sink.info(Texts::deviceRunning(*version));
-    return false;
+    sink.info(version ? Texts::deviceRunning(*version) : Texts::deviceNotResponding());
+    return version;
 }

@@ -6,6 +6,7 @@
 
 #include "app/FirmwareCheck.h"
 #include "app/ResourceBundle.h"
+#include "app/operations/FetchRelease.h"
 #include "app/operations/Operation.h"
 
 /// Writes firmware to the machine on one port, as "Update Firmware" does: loads the
@@ -17,8 +18,10 @@ class FlashFirmware : public Operation {
   public:
     struct Options {
         std::optional<QString> customFirmware;  ///< path of a chosen image; none: the shipped one
-        bool writeBootPartitions = false;       ///< always write all four regions
-        bool eraseAll = false;  ///< erase the whole chip first (and so a full flash)
+        /// A catalogue's release in place of the shipped image (when no file is chosen).
+        std::optional<CatalogueRelease> release;
+        bool writeBootPartitions = false;  ///< always write all four regions
+        bool eraseAll = false;             ///< erase the whole chip first (and so a full flash)
         DevelopmentImages developmentImages = DevelopmentImages::refuse;
         /// What goes back on the machine by itself once it runs after the erase
         /// ("your settings from …"), said right after the NOTE; none when nothing does.
@@ -27,8 +30,11 @@ class FlashFirmware : public Operation {
 
     FlashFirmware(QString port, ResourceBundle resources, Options options);
 
-    /// Logs "Updating firmware v2.10.6…" (or the chosen file's line) and the mode
-    /// decision, enters `writingFirmware` with the flash plan's size right before
+    /// Logs "Updating firmware v2.10.6…" (or the chosen file's line; a catalogue's
+    /// release is fetched and trusted first, see `fetchRelease`) and the mode
+    /// decision; a release older than the running firmware is refused unless
+    /// allowed (`olderRefusal`, the version asked for also when a full flash is
+    /// forced). It enters `writingFirmware` with the flash plan's size right before
     /// the library's job, `checkingStartup` when the job turns to the version
     /// confirmation and `firmwareWritten` when it succeeded, then logs "Firmware
     /// update complete." (after an erase also an empty line, the NOTE in the sink's
@@ -48,7 +54,9 @@ class FlashFirmware : public Operation {
 
   private:
     std::optional<QByteArray> loadFirmware(const OperationSink& sink, Outcome* failure) const;
-    bool decideFullFlash(const OperationSink& sink) const;
+    std::optional<QString> expectedVersion() const;
+    bool forcedFullFlash() const;
+    std::optional<QString> runningVersion(const OperationSink& sink) const;
 
     QString port_;
     ResourceBundle resources_;

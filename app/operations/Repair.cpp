@@ -7,6 +7,7 @@
 #include "app/FirmwareCheck.h"
 #include "app/StartupVerdict.h"
 #include "app/Texts.h"
+#include "app/VersionText.h"
 #include "app/operations/MachineConfigFile.h"
 
 namespace {
@@ -25,6 +26,11 @@ Repair::Repair(QString port, ResourceBundle resources, Options options)
     : port_(std::move(port)), resources_(std::move(resources)), options_(std::move(options)) {
     options_.flash.eraseAll = true;
     options_.flash.writeBootPartitions = true;
+    // The Repair dialog names the version it writes; the owner's "Repair" is the
+    // agreement to it, older or not.
+    if (options_.flash.release) {
+        options_.flash.release->allowOlder = true;
+    }
     if (options_.machine.isEmpty()) {
         options_.machine = DeviceQueries::machineIdentity(port_);
     }
@@ -166,6 +172,10 @@ std::optional<QString> Repair::putBackPhrase(Texts::Audience audience) const {
 
 QString Repair::firmwarePhrase() const {
     const auto& custom = options_.flash.customFirmware;
-    return custom ? QFileInfo(*custom).fileName()
-                  : Texts::shippedFirmware(BuildConfig::firmwareVersion());
+    if (custom) {
+        return QFileInfo(*custom).fileName();
+    }
+    const auto& release = options_.flash.release;
+    return Texts::shippedFirmware(release ? VersionText::shown(release->version)
+                                          : BuildConfig::firmwareVersion());
 }

@@ -117,7 +117,7 @@ void ControllerSimTest::updatesOfAChosenImageAfterEraseAllAndUnplugged() {
     controller.setCustomFirmwareURL({});
     controller.setEraseAllFlashEnabled(true);
     controller.setSettingsQuestions(
-        {[] { return SettingsQuestions::BeforeErase::eraseWithoutSaving; }, {}, {}});
+        {[] { return SettingsQuestions::BeforeErase::eraseWithoutSaving; }, {}, {}, {}});
     const qsizetype before = transcript(*rig.plotter).size();
     QVERIFY(rig.run([&] { controller.updateFirmware(); }));
     QCOMPARE(rig.outcome(), std::optional(UpdateState::flashComplete()));
@@ -380,7 +380,8 @@ void ControllerSimTest::eraseAllKeepsTheMachinesSettings() {
                  asked << "failed: " + reason;
                  plotter.modify([](sim::Plotter& p) { p.config().xmodemSendCorruptBlock.reset(); });
                  return remaining->takeFirst();
-             }});
+             },
+             {}});
     };
     const auto restored = [&] {
         const QStringList log = controller.logMessages();

@@ -223,7 +223,7 @@ void CliTest::subcommands_data() {
     const QString refused = QStringLiteral("refused: a development image, not firmware\n");
     QTest::newRow("detect, 64 simulated")
         << L{"detect", "--sim", "64"} << 0 << "sim1\nsim2\nsim64" << L{"sim65"} << "";
-    QTest::newRow("version") << L{"version", "--sim"} << 0 << "v3.7.8" << L{} << "";
+    QTest::newRow("version") << L{"version", "--sim"} << 0 << "v2.10.5" << L{} << "";
     // A port that cannot be used is named as such, never as a silent machine.
     QTest::newRow("version, port missing")
         << L{"version", "--port", kNoPort} << 2 << "" << L{}
@@ -234,7 +234,7 @@ void CliTest::subcommands_data() {
     QTest::newRow("probe") << L{"probe", "--sim"} << 0 << "Partition table: present" << L{} << "";
     QTest::newRow("flash, application only")
         << L{"flash", "--sim"} << 0
-        << "Checking device status\u2026\nDevice running firmware v3.7.8 \u2014 updating "
+        << "Checking device status\u2026\nDevice running firmware v2.10.5 \u2014 updating "
            "firmware only.\n" +
                kComplete
         << L{"Opening port"} << "";
@@ -694,7 +694,7 @@ void CliTest::backupsAreListedAndRestored() {
     const QString name = QFileInfo(backup.take("path").toString()).fileName();
     QCOMPARE(backup.take("reason"), "save");
     QCOMPARE(backup.take("machine"), "sim1");
-    QCOMPARE(backup.take("firmware"), "v3.7.8");
+    QCOMPARE(backup.take("firmware"), "v2.10.5");
     QCOMPARE(backup.take("size"), 512);
     QVERIFY2(QFile::exists(folder + '/' + name) && name.startsWith("config-"), qPrintable(name));
 

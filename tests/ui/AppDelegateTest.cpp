@@ -100,7 +100,8 @@ void AppDelegateTest::menuBarMatchesTheTableAndProductItemsUploadByTag() {
     QCOMPARE(
         menus().join('\n'),
         "Teskal Firmware Updater||\n  About Teskal Firmware Updater||\n  ---\n  Quit|Ctrl+Q|\n"
-        "File||\n  Open Firmware File\u2026|Ctrl+O|\n  Use Bundled Firmware||\n  ---\n"
+        "File||\n  Open Firmware File\u2026|Ctrl+O|\n  Use Bundled Firmware||\n  Choose Firmware "
+        "Version\u2026||\n  Firmware Catalogue\u2026||\n  ---\n"
         "  Save Log\u2026|Ctrl+S|\n"
         "Options||\n  Detailed Logging||checkable\n  ---\n  Write Boot Partitions||checkable\n"
         "  Erase All Flash||checkable\n  ---\n  Back Up Machine Config Before Upload||checkable\n"
