@@ -17,12 +17,25 @@ const char* const kVerdictNames[] = {"running", "wrong-version", "boot-loop",   
                                      "no-app",  "brownout",      "config-error", "no-answer"};
 
 // In the order of Outcome::Kind.
-const char* const kKindNames[] = {
-    "succeeded",     "differs",           "no-partition-table", "no-device",     "failed",
-    "no-answer",     "refused",           "missing-resource",   "not-written",   "busy",
-    "not-confirmed", "not-starting",      "config-rejected",    "port-unusable", "not-ready",
-    "no-backup",     "nothing-to-restore"};
-static_assert(std::size(kKindNames) == static_cast<size_t>(Outcome::Kind::nothingToRestore) + 1);
+const char* const kKindNames[] = {"succeeded",
+                                  "differs",
+                                  "no-partition-table",
+                                  "no-device",
+                                  "failed",
+                                  "no-answer",
+                                  "refused",
+                                  "missing-resource",
+                                  "not-written",
+                                  "busy",
+                                  "not-confirmed",
+                                  "not-starting",
+                                  "config-rejected",
+                                  "port-unusable",
+                                  "not-ready",
+                                  "no-backup",
+                                  "nothing-to-restore",
+                                  "snapshot-failed"};
+static_assert(std::size(kKindNames) == static_cast<size_t>(Outcome::Kind::snapshotFailed) + 1);
 
 }  // namespace
 

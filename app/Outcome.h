@@ -48,6 +48,11 @@ struct StartupCause {
     /// After a configuration the machine rejects: the backup of the one it had
     /// before, which the owner may put back; none when no such backup is known.
     std::optional<Backup> previous;
+    /// The snapshot of the whole flash taken right before the write, which puts the
+    /// machine back as it was; none when none was taken.
+    std::optional<QString> snapshot;
+    /// That snapshot has been put back already (the write's own status still tells).
+    bool undone = false;
 
     friend bool operator==(const StartupCause&, const StartupCause&) = default;
 };
@@ -81,9 +86,9 @@ std::optional<int> verdictNamed(const QString& name);
 /// found), and whatever the window or the command line needs from it afterwards;
 /// empty where the kind alone tells. A connection check carries its whole
 /// checklist; a listing of backups, the backups found; a comparison, how the two
-/// configurations differ.
+/// configurations differ; a snapshot, the file kept (a `Backup`).
 using Cause = std::variant<std::monostate, DownloadCause, PortCause, Checklist, StartupCause,
-                           BackupListing, SettingsCause, ConfigComparison>;
+                           BackupListing, SettingsCause, ConfigComparison, Backup>;
 
 /// How an operation ended: the only way a result leaves an operation. Created where
 /// the result is known and carried unchanged to the window and to the command line,
@@ -108,6 +113,7 @@ struct Outcome {
         notReady,          ///< the connection check found no plotter ready to use
         noBackup,          ///< the backup to restore was not found
         nothingToRestore,  ///< a repair knows no configuration to put back; nothing was erased
+        snapshotFailed,    ///< no snapshot of the whole flash could be taken; nothing was written
     };
 
     Kind kind = Kind::succeeded;
@@ -143,6 +149,9 @@ struct Outcome {
             return settings->startup ? &*settings->startup : nullptr;
         }
         return std::get_if<StartupCause>(&cause);
+    }
+    StartupCause* startup() {
+        return const_cast<StartupCause*>(static_cast<const Outcome*>(this)->startup());
     }
 };
 

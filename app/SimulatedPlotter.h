@@ -17,8 +17,8 @@ enum class SimulatedPace {
 /// Starts a simulated plotter on a pseudo-terminal of its own, the one way the
 /// simulated-plotter program, teskal-flash --sim and the application's tests make
 /// one. It starts from `config` (a healthy plotter by default) with the pauses of
-/// `pace`; its flash holds the partition table of `resources` when they have one,
-/// as a plotter that was updated before. Throws std::system_error when no
+/// `pace`; its flash holds the bootloader and the partition table of `resources`
+/// when they have them, as a plotter that was updated before. Throws std::system_error when no
 /// pseudo-terminal can be had. Once updated it reports the bundled firmware's
 /// version, for which the development image stands in, unless `config` names
 /// another.

@@ -10,4 +10,5 @@
 #include "app/texts/FirmwareJobTexts.h"
 #include "app/texts/OutcomeTexts.h"
 #include "app/texts/PortTexts.h"
+#include "app/texts/SnapshotTexts.h"
 #include "app/texts/WindowTexts.h"

@@ -123,6 +123,12 @@ QString backupReason(BackupReason reason) {
             return QStringLiteral("Before upload");
         case BackupReason::beforeErase:
             return QStringLiteral("Before erase");
+        case BackupReason::snapshot:
+            return QStringLiteral("Snapshot");
+        case BackupReason::beforeUpdate:
+            return QStringLiteral("Before update");
+        case BackupReason::beforeRepair:
+            return QStringLiteral("Before repair");
     }
     return QString();
 }

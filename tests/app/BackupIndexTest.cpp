@@ -24,7 +24,7 @@ unsigned modeOf(const QString& path) {
 
 BackupIndex::Source source(const QString& machine, const QDateTime& time,
                            BackupReason reason = BackupReason::save) {
-    return {reason, machine, QStringLiteral("v3.7.8"), time};
+    return {reason, machine, QStringLiteral("v3.7.8"), time, std::nullopt};
 }
 
 Backup kept(const BackupIndex& index, const QByteArray& bytes, const BackupIndex::Source& from) {

@@ -305,8 +305,8 @@ void AppDelegateTest::restoreWindowPutsThisMachineOnTopAndActsOnTheSelectedRow()
     const QDateTime time(QDate(2024, 5, 1), QTime(14, 3, 22));
     const auto keep = [&](const char* machine, int hours, BackupReason reason,
                           std::optional<QString> firmware) {
-        return std::get<Backup>(
-            index.keep("abc", {reason, machine, firmware, time.addSecs(3600 * hours)}));
+        return std::get<Backup>(index.keep(
+            "abc", {reason, machine, firmware, time.addSecs(3600 * hours), std::nullopt}));
     };
     const Backup oldest = keep("SN-A", 0, BackupReason::save, "v3.7.8");
     const Backup other = keep("SN-B", 1, BackupReason::beforeErase, std::nullopt);
