@@ -1,6 +1,10 @@
 #include "app/BackupIndex.h"
 
 #include <openssl/evp.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
 
 #include <QDir>
 #include <QFile>
@@ -36,15 +40,16 @@ QString sidecarOf(const QString& copyPath) {
 
 enum class Written { yes, nameTaken, failed };
 
-// Renamed without replacing a file that is already there, so that a reader sees
-// the whole file or none.
+// Linked to its name without replacing a file that is already there, so that a
+// reader sees the whole file or none; the temporary name goes with `file`.
 Written renameNew(QTemporaryFile& file, const QString& target, QString* reason) {
-    if (file.rename(target)) {
-        file.setAutoRemove(false);
+    if (::link(QFile::encodeName(file.fileName()).constData(),
+               QFile::encodeName(target).constData()) == 0) {
         return Written::yes;
     }
-    *reason = file.errorString();
-    return QFileInfo::exists(target) ? Written::nameTaken : Written::failed;
+    const int error = errno;
+    *reason = QString::fromLocal8Bit(std::strerror(error));
+    return error == EEXIST ? Written::nameTaken : Written::failed;
 }
 
 // A temporary file (created 0600) renamed to `name`.
