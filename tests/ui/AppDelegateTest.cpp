@@ -96,19 +96,20 @@ void AppDelegateTest::launch(QList<ProductConfig> products) {
 
 void AppDelegateTest::menuBarMatchesTheTableAndProductItemsUploadByTag() {
     // One item a line, submenus indented.
-    QCOMPARE(
-        menus().join('\n'),
-        "Teskal Firmware Updater||\n  About Teskal Firmware Updater||\n  ---\n  Quit|Ctrl+Q|\n"
-        "File||\n  Open Firmware File\u2026|Ctrl+O|\n  Use Bundled Firmware||\n  ---\n"
-        "  Save Log\u2026|Ctrl+S|\n"
-        "Options||\n  Detailed Logging||checkable\n  ---\n  Write Boot Partitions||checkable\n"
-        "  Erase All Flash||checkable\n  ---\n  Back Up Machine Config Before Upload||checkable\n"
-        "Config||\n  Update Config||\n    Alpha||tag=0\n    Beta||tag=1\n  ---\n"
-        "  Select from Disk...||\n  ---\n  Save Machine Config\u2026||\n"
-        "  Compare With Machine\u2026||\n    Alpha||tag=0\n    Beta||tag=1\n    ---\n"
-        "    Choose File\u2026||\n  Restore Machine Config\u2026||\n  ---\n"
-        "  Repair Machine\u2026||\n"
-        "Help||\n  Connection Check\u2026||\n  ---\n  About Teskal Firmware Updater||");
+    QCOMPARE(menus().join('\n'),
+             "Teskal Firmware Updater||\n  About Teskal Firmware Updater||\n  ---\n  Quit|Ctrl+Q|\n"
+             "File||\n  Open Firmware File\u2026|Ctrl+O|\n  Use Bundled Firmware||\n  ---\n"
+             "  Save Log\u2026|Ctrl+S|\n"
+             "Options||\n  Detailed Logging||checkable\n  ---\n  Write Boot Partitions||checkable\n"
+             "  Erase All Flash||checkable\n  Snapshot Before Writing||checkable\n  ---\n"
+             "  Back Up Machine Config Before Upload||checkable\n"
+             "Config||\n  Update Config||\n    Alpha||tag=0\n    Beta||tag=1\n  ---\n"
+             "  Select from Disk...||\n  ---\n  Save Machine Config\u2026||\n"
+             "  Compare With Machine\u2026||\n    Alpha||tag=0\n    Beta||tag=1\n    ---\n"
+             "    Choose File\u2026||\n  Restore Machine Config\u2026||\n  ---\n"
+             "  Back Up Whole Machine\u2026||\n  Restore Whole Machine\u2026||\n  ---\n"
+             "  Repair Machine\u2026||\n"
+             "Help||\n  Connection Check\u2026||\n  ---\n  About Teskal Firmware Updater||");
     QCOMPARE(action("About Teskal Firmware Updater")->menuRole(), QAction::AboutRole);
     QCOMPARE(action("Quit")->menuRole(), QAction::QuitRole);
 
@@ -125,12 +126,13 @@ void AppDelegateTest::menuBarMatchesTheTableAndProductItemsUploadByTag() {
 
     launch({});
     QCOMPARE(menus().mid(menus().indexOf("Config||")),
-             QStringList({"Config||", "  No products configured||disabled", "  ---",
-                          "  Select from Disk...||", "  ---", "  Save Machine Config\u2026||",
-                          "  Compare With Machine\u2026||", "    Choose File\u2026||",
-                          "  Restore Machine Config\u2026||", "  ---", "  Repair Machine\u2026||",
-                          "Help||", "  Connection Check\u2026||", "  ---",
-                          "  About Teskal Firmware Updater||"}));
+             QStringList(
+                 {"Config||", "  No products configured||disabled", "  ---",
+                  "  Select from Disk...||", "  ---", "  Save Machine Config\u2026||",
+                  "  Compare With Machine\u2026||", "    Choose File\u2026||",
+                  "  Restore Machine Config\u2026||", "  ---", "  Back Up Whole Machine\u2026||",
+                  "  Restore Whole Machine\u2026||", "  ---", "  Repair Machine\u2026||", "Help||",
+                  "  Connection Check\u2026||", "  ---", "  About Teskal Firmware Updater||"}));
 }
 
 void AppDelegateTest::togglesFlipTheFlagAndTheCheckMark() {
