@@ -149,6 +149,44 @@ Download downloadFile(const QString& port, const QString& name, ProgressHandler 
     return download;
 }
 
+namespace {
+
+// esp_data_cb carries a context, so the closure travels with the call itself.
+int dataTrampoline(void* context, const uint8_t* data, size_t length) {
+    const auto& handler = *static_cast<const DataHandler*>(context);
+    return handler(reinterpret_cast<const char*>(data), static_cast<qint64>(length)) ? 0 : 1;
+}
+
+}  // namespace
+
+SnapshotEnd snapshotMachine(const QString& port, const QByteArray& stub, DataHandler data,
+                            ProgressHandler progress, LogHandler log) {
+    const ParkedHandlers parked(std::move(progress), std::move(log));
+    const QByteArray portText = port.toUtf8();
+    OwnedReport report;
+    SnapshotEnd end;
+    end.result = esp_snapshot_machine(portText.constData(), bytesOf(stub), sizeOf(stub),
+                                      dataTrampoline, &data, detail::progressTrampoline,
+                                      detail::logTrampoline, &end.status, &report.raw);
+    end.startup = report.copy();
+    return end;
+}
+
+esp_error_t restoreMachine(const QString& port, const QByteArray& snapshot, const QByteArray& stub,
+                           const std::optional<QString>& expectedVersion, ProgressHandler progress,
+                           LogHandler log, StartupReport* startup) {
+    const ParkedHandlers parked(std::move(progress), std::move(log));
+    const QByteArray portText = port.toUtf8();
+    const QByteArray versionText = expectedVersion ? expectedVersion->toUtf8() : QByteArray();
+    OwnedReport report;
+    const esp_error_t result = esp_restore_machine(
+        portText.constData(), bytesOf(snapshot), sizeOf(snapshot), bytesOf(stub), sizeOf(stub),
+        expectedVersion ? versionText.constData() : nullptr, detail::progressTrampoline,
+        detail::logTrampoline, &report.raw);
+    *startup = report.copy();
+    return result;
+}
+
 namespace detail {
 
 void progressTrampoline(float progress, const char* message) {

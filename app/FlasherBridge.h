@@ -69,6 +69,29 @@ struct Download {
 Download downloadFile(const QString& port, const QString& name, ProgressHandler progress,
                       LogHandler log);
 
+/// Receives a snapshot's bytes in order as they arrive; false stops the read.
+using DataHandler = std::function<bool(const char* data, qint64 size)>;
+
+/// How a whole-flash read ended, as the library tells it.
+struct SnapshotEnd {
+    esp_error_t result = 0;
+    esp_snapshot_status status{};  ///< why it ended, the size and the bytes received
+    StartupReport startup;         ///< how the machine started after the read
+};
+
+/// Runs the library's whole-flash read (`esp_snapshot_machine`), handing every byte
+/// to `data` on the calling thread; the bytes are a snapshot only when the result
+/// is 0. Listens to the machine's start afterwards.
+SnapshotEnd snapshotMachine(const QString& port, const QByteArray& stub, DataHandler data,
+                            ProgressHandler progress, LogHandler log);
+
+/// Writes a whole-flash snapshot back (`esp_restore_machine`) and fills `startup`
+/// with how the machine started, judged against `expectedVersion` (none: any
+/// version runs). Returns the library's result unchanged.
+esp_error_t restoreMachine(const QString& port, const QByteArray& snapshot, const QByteArray& stub,
+                           const std::optional<QString>& expectedVersion, ProgressHandler progress,
+                           LogHandler log, StartupReport* startup);
+
 namespace detail {
 /// The trampolines handed to the library, exposed so that their text conversion
 /// and their behaviour with empty slots can be checked.

@@ -50,6 +50,11 @@ struct StartupCause {
     /// After a configuration the machine rejects: the backup of the one it had
     /// before, which the owner may put back; none when no such backup is known.
     std::optional<Backup> previous;
+    /// The snapshot of the whole flash taken right before the write, which puts the
+    /// machine back as it was; none when none was taken.
+    std::optional<QString> snapshot;
+    /// That snapshot has been put back already (the write's own status still tells).
+    bool undone = false;
 
     friend bool operator==(const StartupCause&, const StartupCause&) = default;
 };
@@ -120,10 +125,10 @@ std::optional<int> verdictNamed(const QString& name);
 /// checklist; a listing of backups, the backups found; a comparison, how the two
 /// configurations differ; a listing of firmware, the versions; a catalogue that
 /// cannot be used, or a release it refuses, why; a release older than the
-/// running firmware, both versions.
-using Cause =
-    std::variant<std::monostate, DownloadCause, PortCause, Checklist, StartupCause, BackupListing,
-                 SettingsCause, ConfigComparison, CatalogueFailure, OlderRelease, FirmwareListing>;
+/// running firmware, both versions; a snapshot, the file kept (a `Backup`).
+using Cause = std::variant<std::monostate, DownloadCause, PortCause, Checklist, StartupCause,
+                           BackupListing, SettingsCause, ConfigComparison, CatalogueFailure,
+                           OlderRelease, FirmwareListing, Backup>;
 
 /// How an operation ended: the only way a result leaves an operation. Created where
 /// the result is known and carried unchanged to the window and to the command line,
@@ -149,6 +154,7 @@ struct Outcome {
         noBackup,           ///< the backup to restore was not found
         nothingToRestore,   ///< a repair knows no configuration to put back; nothing was erased
         catalogueUnusable,  ///< the firmware catalogue cannot be used; `cause` says why
+        snapshotFailed,  ///< no snapshot of the whole flash could be taken; nothing was written
     };
 
     Kind kind = Kind::succeeded;
@@ -184,6 +190,9 @@ struct Outcome {
             return settings->startup ? &*settings->startup : nullptr;
         }
         return std::get_if<StartupCause>(&cause);
+    }
+    StartupCause* startup() {
+        return const_cast<StartupCause*>(static_cast<const Outcome*>(this)->startup());
     }
 };
 

@@ -2,6 +2,7 @@
 
 #include "app/StartupVerdict.h"
 #include "app/texts/OutcomeTexts.h"
+#include "app/texts/SnapshotTexts.h"
 
 namespace OutcomeTable {
 namespace {
@@ -70,6 +71,9 @@ constexpr Row kTable[] = {
      "the firmware catalogue cannot be used (unreachable, not validly signed, older than one "
      "already seen); nothing was written",
      nullptr, nullptr},
+    {Kind::snapshotFailed, 0, 20,
+     "no snapshot of the whole flash could be taken; before a write, nothing was written", nullptr,
+     Texts::snapshotFailedNextStep},
     {Kind::failed, 0, usage, "the command line could not be understood", nullptr, nullptr},
     {Kind::busy, 0, crashed, "the command ended abnormally for a plotter", nullptr, nullptr},
     {Kind::failed, 0, stopped, "stopped with Ctrl+C", nullptr, nullptr},
@@ -98,9 +102,13 @@ QString libraryMessage(esp_error_t code) {
 
 QString nextStep(const Outcome& outcome, Texts::Audience audience) {
     if (const StartupCause* startup = outcome.startup()) {
+        if (startup->snapshot && outcome.kind == Kind::notStarting) {
+            return startup->undone ? Texts::updateUndone()
+                                   : Texts::undoUpdateStep(*startup->snapshot, audience);
+        }
         return StartupVerdict::nextStep(*startup, audience);
     }
-    const Row* row = outcome.kind == Kind::failed ? rowOf(Kind::failed, outcome.code) : nullptr;
+    const Row* row = rowOf(outcome.kind, outcome.code);
     return row != nullptr && row->nextStep != nullptr ? row->nextStep() : QString();
 }
 

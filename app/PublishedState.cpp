@@ -51,6 +51,7 @@ void PublishedState::enterPhase(Phase phase) {
             written_ = UpdateState::configComplete();
             return setState(written_);
         case Phase::readingConfig:
+        case Phase::readingFlash:
             return setState(UpdateState::downloadingConfig());
         case Phase::checkingStartup:
             setState(UpdateState::checkingStartup());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 #include "app/BuildConfig.h"
@@ -59,9 +60,15 @@ std::unique_ptr<sim::PtyPlotter> startSimulatedPlotter(const ResourceBundle& res
         }
     }
     auto plotter = std::make_unique<sim::PtyPlotter>(config);
-    if (const auto table = resources.read(QStringLiteral("partitions"), QStringLiteral("bin"))) {
-        const std::vector<uint8_t> bytes(table->begin(), table->end());
-        plotter->modify([&](sim::Plotter& p) { p.loadFlash(kPartitionTableOffset, bytes); });
+    // The bootloader's header tells how large the flash is, so a snapshot of it can
+    // be taken and written back.
+    const std::pair<const char*, uint32_t> regions[] = {{"bootloader", 0x0},
+                                                        {"partitions", kPartitionTableOffset}};
+    for (const auto& [name, offset] : regions) {
+        if (const auto image = resources.read(QString::fromLatin1(name), QStringLiteral("bin"))) {
+            const std::vector<uint8_t> bytes(image->begin(), image->end());
+            plotter->modify([&](sim::Plotter& p) { p.loadFlash(offset, bytes); });
+        }
     }
     return plotter;
 }

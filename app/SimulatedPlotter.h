@@ -21,11 +21,12 @@ inline constexpr const char* kSimulatedOlderRelease = "FluidNC v2.10.5 (sim)";
 /// Starts a simulated plotter on a pseudo-terminal of its own, the one way the
 /// simulated-plotter program, teskal-flash --sim and the application's tests make
 /// one. It starts from `config` (a healthy plotter by default) with the pauses of
-/// `pace`; its flash holds the partition table of `resources` when they have one,
-/// as a plotter that was updated before. Throws std::system_error when no
-/// pseudo-terminal can be had. Once updated with the bundled development image it
-/// reports the bundled firmware's version, for which that image stands in; with
-/// another image, that image's own version; unless `config` names another.
+/// `pace`; its flash holds the bootloader and the partition table of `resources`
+/// when they have them, as a plotter that was updated before. Throws
+/// std::system_error when no pseudo-terminal can be had. Once updated with the
+/// bundled development image it reports the bundled firmware's version, for which
+/// that image stands in; with another image, that image's own version; unless
+/// `config` names another.
 std::unique_ptr<sim::PtyPlotter> startSimulatedPlotter(const ResourceBundle& resources,
                                                        SimulatedPace pace, sim::Config config = {});
 

@@ -12,4 +12,5 @@
 #include "app/texts/OutcomeTexts.h"
 #include "app/texts/PortTexts.h"
 #include "app/texts/ReleaseTexts.h"
+#include "app/texts/SnapshotTexts.h"
 #include "app/texts/WindowTexts.h"

@@ -12,8 +12,11 @@
 #include "app/operations/CompareWithMachine.h"
 #include "app/operations/EraseKeepingSettings.h"
 #include "app/operations/RestoreConfig.h"
+#include "app/operations/RestoreMachine.h"
 #include "app/operations/SaveLog.h"
 #include "app/operations/SaveMachineConfig.h"
+#include "app/operations/SnapshotFirst.h"
+#include "app/operations/TakeSnapshot.h"
 #include "app/operations/UploadConfig.h"
 
 UpdateController::UpdateController(QObject* parent)
@@ -133,8 +136,19 @@ void UpdateController::updateFirmware() {
 
 void UpdateController::performFlash(const QString& port, Log log, bool allowOlder) {
     start(
-        std::make_shared<FlashFirmware>(port, resources_, flashOptions(allowOlder)), {},
-        [this](const Outcome& outcome) { askInstallOlder(outcome, false); }, log);
+        undoable(port, std::make_shared<FlashFirmware>(port, resources_, flashOptions(allowOlder)),
+                 snapshotBeforeWriting_, BackupReason::beforeUpdate),
+        {}, [this](const Outcome& outcome) { askInstallOlder(outcome, false); }, log);
+}
+
+std::shared_ptr<Operation> UpdateController::undoable(const QString& port,
+                                                      std::shared_ptr<Operation> write,
+                                                      bool snapshotFirst,
+                                                      BackupReason reason) const {
+    const SnapshotFirst::Options options{reason, QString(), false, developmentImages_};
+    return snapshotFirst
+               ? std::make_shared<SnapshotFirst>(port, resources_, std::move(write), options)
+               : write;
 }
 
 void UpdateController::performConfigUpload(const QString& port, const QString& configFile,
@@ -157,8 +171,9 @@ void UpdateController::performKeepingSettings(const QString& port, Log log, bool
     EraseKeepingSettings::Options options;
     options.flash = flashOptions(allowOlder);
     start(
-        std::make_shared<EraseKeepingSettings>(port, resources_, options), {},
-        [this](const Outcome& outcome) { askAfterStop(outcome); }, log);
+        undoable(port, std::make_shared<EraseKeepingSettings>(port, resources_, options),
+                 snapshotBeforeWriting_, BackupReason::beforeUpdate),
+        {}, [this](const Outcome& outcome) { askAfterStop(outcome); }, log);
 }
 
 void UpdateController::askAfterStop(const Outcome& outcome) {
@@ -279,12 +294,37 @@ void UpdateController::restoreBackup(const Backup& backup) {
     }
 }
 
-void UpdateController::repairMachine(const Repair::PutBack& putBack) {
+void UpdateController::repairMachine(const Repair::PutBack& putBack, bool snapshotFirst) {
     if (const auto port = portForNewJob()) {
         Repair::Options options;
         options.flash = flashOptions();
         options.putBack = putBack;
-        start(std::make_shared<Repair>(*port, resources_, options));
+        start(undoable(*port, std::make_shared<Repair>(*port, resources_, options), snapshotFirst,
+                       BackupReason::beforeRepair));
+    }
+}
+
+void UpdateController::backUpWholeMachine() {
+    if (const auto port = portForNewJob()) {
+        start(std::make_shared<TakeSnapshot>(*port, resources_, TakeSnapshot::Options{}),
+              [this](const Outcome&) { settle(Texts::snapshotTaken()); });
+    }
+}
+
+void UpdateController::restoreWholeMachine(const QString& path, bool otherMachineAllowed) {
+    if (const auto port = portForNewJob()) {
+        RestoreMachine::Options options;
+        options.snapshot = path;
+        options.otherMachineAllowed = otherMachineAllowed;
+        options.developmentImages = developmentImages_;
+        start(std::make_shared<RestoreMachine>(*port, resources_, options));
+    }
+}
+
+void UpdateController::undoUpdate() {
+    const StartupCause* startup = result() ? result()->startup() : nullptr;
+    if (startup != nullptr && startup->snapshot) {
+        restoreWholeMachine(*startup->snapshot, true);
     }
 }
 

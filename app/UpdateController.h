@@ -42,6 +42,8 @@ class UpdateController : public PublishedState {
     Q_PROPERTY(bool eraseAllFlashEnabled READ eraseAllFlashEnabled WRITE setEraseAllFlashEnabled)
     Q_PROPERTY(bool backupBeforeUploadEnabled READ backupBeforeUploadEnabled WRITE
                    setBackupBeforeUploadEnabled)
+    Q_PROPERTY(bool snapshotBeforeWritingEnabled READ snapshotBeforeWritingEnabled WRITE
+                   setSnapshotBeforeWritingEnabled)
     Q_PROPERTY(bool jobRunning READ jobRunning NOTIFY jobRunningChanged)
 
   public:
@@ -84,6 +86,10 @@ class UpdateController : public PublishedState {
     /// Every configuration upload first saves the machine's config.yaml.
     bool backupBeforeUploadEnabled() const { return backupBeforeUpload_; }
     void setBackupBeforeUploadEnabled(bool enabled) { backupBeforeUpload_ = enabled; }
+    /// Every firmware write first takes a snapshot of the whole flash (see
+    /// `SnapshotFirst`), so that it can be undone.
+    bool snapshotBeforeWritingEnabled() const { return snapshotBeforeWriting_; }
+    void setSnapshotBeforeWritingEnabled(bool enabled) { snapshotBeforeWriting_ = enabled; }
 
     /// Owned by the controller for its whole life.
     DeviceMonitor* deviceMonitor() const { return monitor_; }
@@ -145,7 +151,16 @@ class UpdateController : public PublishedState {
     /// Repairs the machine (see `Repair`): Erase All Flash with the firmware "Update
     /// Firmware" would write, then `putBack`; ends with the result banner as every
     /// job does.
-    void repairMachine(const Repair::PutBack& putBack);
+    void repairMachine(const Repair::PutBack& putBack, bool snapshotFirst = false);
+    /// Reads the machine's whole flash into the backups folder (see `TakeSnapshot`);
+    /// ends `ready` with the status "Whole machine backed up".
+    void backUpWholeMachine();
+    /// Writes the snapshot at `path` back (see `RestoreMachine`); one of another
+    /// machine only when `otherMachineAllowed` (the window asks first).
+    void restoreWholeMachine(const QString& path, bool otherMachineAllowed);
+    /// Puts back the snapshot taken before the last write, when that write left a
+    /// machine that does not start (`StartupCause::snapshot`).
+    void undoUpdate();
 
   signals:
     void customFirmwareURLChanged(const QUrl& location);
@@ -168,6 +183,8 @@ class UpdateController : public PublishedState {
     void performConfigUploadData(const QString& port, const QString& path,
                                  const QByteArray& configData);
     void performKeepingSettings(const QString& port, Log log, bool allowOlder = false);
+    std::shared_ptr<Operation> undoable(const QString& port, std::shared_ptr<Operation> write,
+                                        bool snapshotFirst, BackupReason reason) const;
 
     std::optional<QString> portForNewJob();
     void start(std::shared_ptr<Operation> operation, Then then = {}, Then otherwise = {},
@@ -189,6 +206,7 @@ class UpdateController : public PublishedState {
     std::atomic<bool> writeBootPartitions_ = false;
     std::atomic<bool> eraseAllFlash_ = false;
     bool backupBeforeUpload_ = false;
+    bool snapshotBeforeWriting_ = false;
     SettingsQuestions questions_;
     Then then_;
     /// What follows an outcome that is a failure, once it is shown.

@@ -15,5 +15,7 @@ std::vector<std::unique_ptr<Command>> makeCommands() {
     commands.push_back(makeBackupsCommand());
     commands.push_back(makeRestoreConfigCommand());
     commands.push_back(makeRepairCommand());
+    commands.push_back(makeSnapshotCommand());
+    commands.push_back(makeRestoreMachineCommand());
     return commands;
 }

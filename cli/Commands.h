@@ -18,6 +18,8 @@ std::unique_ptr<Command> makeDoctorCommand();
 std::unique_ptr<Command> makeBackupsCommand();
 std::unique_ptr<Command> makeRestoreConfigCommand();
 std::unique_ptr<Command> makeRepairCommand();
+std::unique_ptr<Command> makeSnapshotCommand();
+std::unique_ptr<Command> makeRestoreMachineCommand();
 
 /// Every subcommand, in the order --help lists them.
 std::vector<std::unique_ptr<Command>> makeCommands();

@@ -1,5 +1,6 @@
 #include "app/operations/EraseKeepingSettings.h"
 #include "app/operations/FlashFirmware.h"
+#include "app/operations/SnapshotFirst.h"
 #include "cli/Commands.h"
 
 namespace {
@@ -51,6 +52,16 @@ class FlashCommand : public Command {
             ->add_flag("--discard-config", discardConfig_,
                        "With --erase-all: do not save the machine's config.yaml; it is lost")
             ->needs(eraseAll);
+        CLI::Option* snapshot = command->add_flag(
+            "--snapshot", snapshot_,
+            "Take a snapshot of the whole flash into the backups folder first; when it fails, "
+            "nothing is written (status 20). A machine that then does not start can be put "
+            "back with teskal-flash restore-machine");
+        command
+            ->add_flag("--undo-on-failure", undoOnFailure_,
+                       "With --snapshot: put the snapshot back by itself when the machine does "
+                       "not start; the status stays the update's")
+            ->needs(snapshot);
         return command;
     }
 
@@ -58,7 +69,7 @@ class FlashCommand : public Command {
         return QStringLiteral("written, verified, and the machine runs it");
     }
     QList<int> failureStatuses() const override {
-        return {1, 2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14, 17, 19};
+        return {1, 2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14, 17, 19, 20};
     }
     Ports ports() const override { return Ports::several; }
     bool writesFirmware() const override { return true; }
@@ -80,6 +91,12 @@ class FlashCommand : public Command {
         options.writeBootPartitions = full_;
         options.eraseAll = eraseAll_;
         options.developmentImages = context.developmentImages();
+        return undoable(context, write(context, options));
+    }
+
+  private:
+    std::shared_ptr<Operation> write(const CommandContext& context,
+                                     const FlashFirmware::Options& options) const {
         if (!eraseAll_ || discardConfig_) {
             return std::make_shared<FlashFirmware>(context.portPath, context.resources, options);
         }
@@ -90,7 +107,19 @@ class FlashCommand : public Command {
         return std::make_shared<EraseKeepingSettings>(context.portPath, context.resources, keeping);
     }
 
-  private:
+    std::shared_ptr<Operation> undoable(const CommandContext& context,
+                                        std::shared_ptr<Operation> write) const {
+        if (!snapshot_) {
+            return write;
+        }
+        SnapshotFirst::Options options;
+        options.machine = context.machine;
+        options.undoOnFailure = undoOnFailure_;
+        options.developmentImages = context.developmentImages();
+        return std::make_shared<SnapshotFirst>(context.portPath, context.resources,
+                                               std::move(write), options);
+    }
+
     std::string firmware_;
     std::string version_;
     std::string catalogue_;
@@ -98,6 +127,8 @@ class FlashCommand : public Command {
     bool full_ = false;
     bool eraseAll_ = false;
     bool discardConfig_ = false;
+    bool snapshot_ = false;
+    bool undoOnFailure_ = false;
 };
 
 }  // namespace

@@ -53,6 +53,13 @@ QJsonObject resultObject(const event::Result& result) {
     }
     if (const auto* startup = outcome.startup()) {
         object.insert(QStringLiteral("machine"), verdictName(startup->verdict));
+        if (startup->snapshot) {
+            object.insert(QStringLiteral("snapshot"), *startup->snapshot);
+            object.insert(QStringLiteral("undone"), startup->undone);
+        }
+    }
+    if (const auto* snapshot = std::get_if<Backup>(&outcome.cause)) {
+        object.insert(QStringLiteral("snapshot"), snapshot->path);
     }
     if (const auto* settings = std::get_if<SettingsCause>(&outcome.cause)) {
         const auto orNull = [](const std::optional<QString>& path) {
@@ -110,6 +117,10 @@ event::Result resultFrom(const QJsonObject& object) {
     if (const auto verdict = verdictNamed(object.value(QStringLiteral("machine")).toString())) {
         StartupCause startup;
         startup.verdict = *verdict;
+        if (object.contains(QStringLiteral("snapshot"))) {
+            startup.snapshot = object.value(QStringLiteral("snapshot")).toString();
+            startup.undone = object.value(QStringLiteral("undone")).toBool();
+        }
         outcome.cause = startup;
     }
     return {status, outcome};

@@ -1,4 +1,5 @@
 #include "app/operations/Repair.h"
+#include "app/operations/SnapshotFirst.h"
 #include "cli/Commands.h"
 #include "cli/ConfigSource.h"
 
@@ -28,6 +29,10 @@ class RepairCommand : public Command {
         addProductOption(choice, &product_);
         choice->add_flag("--no-config", noConfig_, "Put no configuration back");
         choice->require_option(0, 1);
+        command->add_flag("--no-snapshot", noSnapshot_,
+                          "Do not take a snapshot of the whole flash before the erase (it is "
+                          "taken by default when the chip answers; when it fails, nothing is "
+                          "erased, status 20)");
         command->footer(productList());
         return command;
     }
@@ -36,7 +41,7 @@ class RepairCommand : public Command {
         return QStringLiteral("repaired: the machine runs the firmware with the configuration");
     }
     QList<int> failureStatuses() const override {
-        return {1, 2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14, 15, 17, 18};
+        return {1, 2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14, 15, 17, 18, 20};
     }
     bool writesFirmware() const override { return true; }
 
@@ -49,7 +54,16 @@ class RepairCommand : public Command {
         options.putBack = putBack();
         options.machine = context.machine;
         options.developmentConfigsRefused = context.developmentSet && !context.simulated;
-        return std::make_shared<Repair>(context.portPath, context.resources, options);
+        auto repair = std::make_shared<Repair>(context.portPath, context.resources, options);
+        if (noSnapshot_) {
+            return repair;
+        }
+        SnapshotFirst::Options snapshot;
+        snapshot.reason = BackupReason::beforeRepair;
+        snapshot.machine = context.machine;
+        snapshot.developmentImages = context.developmentImages();
+        return std::make_shared<SnapshotFirst>(context.portPath, context.resources,
+                                               std::move(repair), snapshot);
     }
 
   private:
@@ -68,6 +82,7 @@ class RepairCommand : public Command {
     std::string backup_;
     std::string product_;
     bool noConfig_ = false;
+    bool noSnapshot_ = false;
 };
 
 }  // namespace

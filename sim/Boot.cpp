@@ -95,7 +95,8 @@ int64_t loopPeriodNs(Startup startup) {
 }  // namespace
 
 void Boot::start(int64_t restartNs, int64_t readyNs, bool byHost) {
-    const auto decided = d_.starts.onRestart(d_.flash, d_.config.startup, d_.reportedVersion);
+    const auto decided =
+        d_.starts.onRestart(d_.flash, d_.config.startup, d_.reportedVersion, byHost);
     d_.reportedVersion = decided.version;
     startup_ = decided.startup;
     const Startup startup = startup_;

@@ -25,9 +25,15 @@ void FlashStarts::beforeWrite(const std::vector<uint8_t>& flash,
 }
 
 FlashStarts::Start FlashStarts::onRestart(const std::vector<uint8_t>& flash, Startup& knob,
-                                          std::optional<std::string> version) {
-    written_ = false;
+                                          std::optional<std::string> version, bool byHost) {
     const uint64_t key = fingerprint(flash);
+    // The host's reset after a loader session that wrote nothing (a read of the
+    // flash) restarts the chip as it ran; a start chosen for the next write waits.
+    if (byHost && !written_) {
+        known_.try_emplace(key, current_);
+        return current_;
+    }
+    written_ = false;
     const auto known = known_.find(key);
     Start start{knob, std::move(version)};
     if (knob == knobSeen_ && known != known_.end()) {

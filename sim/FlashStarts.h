@@ -29,13 +29,15 @@ class FlashStarts {
     /// first restart is healthy) unless a restart from it was remembered already.
     void beforeWrite(const std::vector<uint8_t>& flash, const std::optional<std::string>& version);
 
-    /// At a restart into the firmware, how the chip starts from `flash`: as `knob`
-    /// (`Config::startup`) says when it changed since the last restart or the flash is
-    /// one it has not started from; else as it did from this flash before. Remembers
-    /// the result and sets `knob` to it. `version`: what "$I" would report by the
-    /// flash's new contents.
+    /// At a restart into the firmware, how the chip starts from `flash`: after the
+    /// host's reset (`byHost`) that wrote nothing, as it ran (`knob` waits for a
+    /// write); else as
+    /// `knob` (`Config::startup`) says when it changed since the last restart or the
+    /// flash is one it has not started from, otherwise as it did from this flash
+    /// before. Remembers the result and sets `knob` to it. `version`: what "$I" would
+    /// report by the flash's new contents.
     Start onRestart(const std::vector<uint8_t>& flash, Startup& knob,
-                    std::optional<std::string> version);
+                    std::optional<std::string> version, bool byHost);
 
     /// The start-up of the last restart; healthy before the first.
     Startup current() const { return current_.startup; }

@@ -298,6 +298,117 @@
         <source>This machine has no backup of its settings. Choose what goes back after the erase.</source>
         <translation>Für diese Maschine gibt es keine Sicherung ihrer Einstellungen. Wählen Sie, was nach dem Löschen zurückgespielt wird.</translation>
     </message>
+    <message>
+        <source>Snapshot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before repair</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CatalogueTexts</name>
+    <message>
+        <source>&quot;%1&quot; is not a firmware catalogue: give an http:// or https:// address, a catalogue.json file or a folder that holds one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The catalogue key %1 is missing, so no firmware catalogue can be checked. Reinstall the updater, or use the bundled firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The catalogue key %1 is not an Ed25519 public key, so no firmware catalogue can be checked. Reinstall the updater, or use the bundled firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The catalogue key %1 is the development key, which only the simulated plotter trusts. Reinstall the updater, or use the bundled firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The firmware catalogue could not be read from %1 (%2). Check the address and the network connection and try again, or use the bundled firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The firmware catalogue at %1 did not arrive within %2 s. Check the network connection and try again, or use the bundled firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is larger than a firmware catalogue can be (%2 bytes), so it was not read. Check the catalogue&apos;s address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The firmware catalogue at %1 does not carry a valid signature of this updater&apos;s publisher, so it was not used. Ask its publisher for a signed catalogue, or use the bundled firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The firmware catalogue at %1 cannot be used: %2. Ask its publisher to correct it, or use the bundled firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The firmware catalogue at %1 was published %2, before the one already seen (%3), so it was not used: an old catalogue could bring back a withdrawn version. Use the current catalogue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offline: the firmware catalogue published %1, as last seen, is shown. Connect to the network to see newer versions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not JSON (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>schema %1 is not supported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a field of a catalogue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not valid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>firmware %1 is listed twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firmware %1 is not in the firmware catalogue. Choose one of the versions it lists.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firmware %1 was withdrawn by its publisher and is not installed. Choose another version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image of firmware %1 could not be read from %2 (%3). Check the network connection and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download of firmware %1 stopped: nothing arrived for %2 s. Check the network connection and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image of firmware %1 is larger than the %2 bytes the catalogue declares, so it was not used. Choose another version, or try again later.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image of firmware %1 ended after %2 of its %3 bytes. Check the network connection and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image of firmware %1 does not match the SHA-256 the catalogue declares, so it was not used. Choose another version, or try again later.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FileTexts</name>
@@ -905,6 +1016,320 @@
     <message>
         <source>The permission rule&apos;s installer could not be started.</source>
         <translation>Das Installationsprogramm der Berechtigungsregel konnte nicht gestartet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ReleaseTexts</name>
+    <message>
+        <source>No firmware catalogue is configured. Choose one with File &gt; Firmware Catalogue…, or use the bundled firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No firmware catalogue is configured. Name one with --catalogue URL|FILE|FOLDER, or use the bundled firmware.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetching firmware %1 from the catalogue at %2…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Downloading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Updating firmware %1 from the catalogue…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firmware %1 is older than the firmware %2 this machine runs, so nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firmware %1 is older than the firmware %2 this machine runs, so nothing was written. Add --allow-older to install it anyway.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bundled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>catalogue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>beta</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 firmware version can be installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 firmware versions can be installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firmware &amp;Catalogue…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose Firmware &amp;Version…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firmware version %1 from the catalogue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firmware %1 is available</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firmware Catalogue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the firmware catalogue is: an http:// or https:// address, a catalogue.json file, or a folder that holds one (for instance on a USB stick).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose &amp;File…</source>
+        <translation type="unfinished">&amp;Datei wählen…</translation>
+    </message>
+    <message>
+        <source>Choose F&amp;older…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firmware catalogue: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose Firmware Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show &amp;beta versions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Use This Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ran on this machine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the firmware catalogue…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No firmware catalogue is configured: only the bundled firmware is listed. Choose a catalogue with File &gt; Firmware Catalogue….</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Firmware %1 from the catalogue will be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install an Older Version?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This machine runs firmware %1. Install the older firmware %2 in its place?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Install Older Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotTexts</name>
+    <message>
+        <source>Taking a snapshot of the whole machine…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snapshot of the whole machine saved to %1 (%2 bytes).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the machine&apos;s flash holds nothing worth keeping (no bootloader and no partition table)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No snapshot of the whole machine could be taken: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the flasher stub refused to read the flash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the machine sent nothing for 5 s while its flash was read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what the machine sent of its flash arrived damaged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the MD5 the machine computed differs from that of the bytes received</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the snapshot could not be written on this computer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the flash could not be read (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The machine was left as it was. Check the USB cable and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No snapshot is needed: the machine&apos;s flash holds nothing worth keeping.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whole machine backed up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>application</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Putting back the snapshot of the whole machine from %1 (%2)…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: %2</source>
+        <translation type="unfinished">%1 kann nicht verwendet werden: %2</translation>
+    </message>
+    <message>
+        <source>Could not read the snapshot %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No snapshot of the machine %1 in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No snapshot %1 in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This snapshot was taken of the machine %1, not of %2; it carries that machine&apos;s settings and network credentials. Add --other-machine to put it on %2 anyway.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This snapshot was taken of the machine %1. It carries that machine&apos;s settings and network credentials. Put it on this machine (%2) anyway?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Restore Anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Machine put back as it was on %1: it runs firmware %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Machine put back as it was on %1: it runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press Undo Update to put the machine back as it was before the update, or Repair… to erase it and install the firmware again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To put the machine back as it was before the update, run: teskal-flash restore-machine %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The machine was put back as it was before the update.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Putting the machine back as it was before the update…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The machine could not be put back: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back Up &amp;Whole Machine…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore W&amp;hole Machine…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Snapshot Before Writing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo Update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take a &amp;snapshot of the whole machine first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore Whole Machine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ran</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every snapshot of a whole machine is kept in %1. The connected machine&apos;s are on top, newest first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No snapshot has been taken yet. Config &gt; Back Up Whole Machine… takes one, and so does every firmware write with Options &gt; Snapshot Before Writing; they are kept in %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -210,6 +210,12 @@ void AppDelegate::toggleEraseAllFlash(QAction* item) {
     item->setChecked(enabled);
 }
 
+void AppDelegate::toggleSnapshotBeforeWriting(QAction* item) {
+    const bool enabled = !updateController_->snapshotBeforeWritingEnabled();
+    updateController_->setSnapshotBeforeWritingEnabled(enabled);
+    item->setChecked(enabled);
+}
+
 void AppDelegate::toggleBackupBeforeUpload(QAction* item) {
     const bool enabled = !updateController_->backupBeforeUploadEnabled();
     updateController_->setBackupBeforeUploadEnabled(enabled);
@@ -253,7 +259,8 @@ void AppDelegate::compareWithFile() {
 void AppDelegate::restoreMachineConfig() {
     const BackupIndex index;
     QList<Backup> backups =
-        index.list([this](const QString& line) { updateController_->log(line); });
+        index.list(BackupIndex::Family::configurations,
+                   [this](const QString& line) { updateController_->log(line); });
     const auto port = updateController_->deviceMonitor()->port();
     restoreWindow_ = std::make_unique<RestoreWindow>(
         std::move(backups), port ? DeviceQueries::machineIdentity(*port) : QString(),
@@ -266,6 +273,30 @@ void AppDelegate::restoreMachineConfig() {
             &UpdateController::restoreBackup);
     centreOnScreen(restoreWindow_.get());
     bringToFront(restoreWindow_.get());
+}
+
+void AppDelegate::restoreWholeMachine() {
+    const BackupIndex index;
+    QList<Backup> snapshots =
+        index.list(BackupIndex::Family::snapshots,
+                   [this](const QString& line) { updateController_->log(line); });
+    const auto port = updateController_->deviceMonitor()->port();
+    const QString machine = port ? DeviceQueries::machineIdentity(*port) : QString();
+    restoreWindow_ = std::make_unique<RestoreWindow>(std::move(snapshots), machine, index.folder(),
+                                                     nullptr, RestoreWindow::Contents::snapshots);
+    connect(restoreWindow_.get(), &RestoreWindow::restoreRequested, this,
+            [this, machine](const Backup& snapshot) { restoreSnapshot(snapshot, machine); });
+    centreOnScreen(restoreWindow_.get());
+    bringToFront(restoreWindow_.get());
+}
+
+// It carries the other machine's settings and network credentials.
+void AppDelegate::restoreSnapshot(const Backup& snapshot, const QString& machine) {
+    const bool other = !machine.isEmpty() && snapshot.machine != machine;
+    if (other && !options_.confirmOtherMachine(window_.get(), snapshot.machine, machine)) {
+        return;
+    }
+    updateController_->restoreWholeMachine(snapshot.path, other);
 }
 
 void AppDelegate::showComparison(const ConfigComparison& comparison, const ConfigChoice& chosen) {
@@ -301,8 +332,10 @@ void AppDelegate::showRepair() {
         custom.isEmpty() ? Texts::shippedFirmware(BuildConfig::firmwareVersion())
                          : custom.fileName(),
         window_.get());
-    connect(repairDialog_.get(), &RepairDialog::repairRequested, updateController_.get(),
-            &UpdateController::repairMachine);
+    connect(repairDialog_.get(), &RepairDialog::repairRequested, this,
+            [this](const Repair::PutBack& putBack) {
+                updateController_->repairMachine(putBack, repairDialog_->snapshotFirst());
+            });
     repairDialog_->open();
     // While a job runs it holds the port, and the repair cannot start anyway. A probe
     // still running from an earlier dialog answers this one.

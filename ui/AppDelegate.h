@@ -15,6 +15,7 @@
 #include "ui/FileChooser.h"
 #include "ui/QuitGuard.h"
 #include "ui/SaveChooser.h"
+#include "ui/SnapshotQuestions.h"
 
 class AboutWindow;
 class CompareWindow;
@@ -60,6 +61,9 @@ class AppDelegate : public QObject {
         /// What the Connection Check sees attached over USB; the simulated-plotter
         /// program shows its plotter there.
         UsbSurvey survey = surveyOf();
+        /// Asks whether a snapshot of the machine `owner` may go on `machine`.
+        std::function<bool(QWidget* parent, const QString& owner, const QString& machine)>
+            confirmOtherMachine = confirmOtherMachineAsked;
     };
 
     /// Owns a controller on the resources beside the executable and the real
@@ -104,6 +108,7 @@ class AppDelegate : public QObject {
     void toggleWriteBootPartitions(QAction* item);
     void toggleEraseAllFlash(QAction* item);
     void toggleBackupBeforeUpload(QAction* item);
+    void toggleSnapshotBeforeWriting(QAction* item);
     /// Uploads the configuration of the product whose index is the item's data;
     /// an index outside the product list does nothing.
     void uploadConfigAction(QAction* item);
@@ -119,6 +124,10 @@ class AppDelegate : public QObject {
     /// Opens the Restore Machine Config window on the backups folder as it is now,
     /// in place of an earlier one; a record that cannot be read is logged.
     void restoreMachineConfig();
+    /// Opens the Restore Whole Machine window on the snapshots as they are now, in
+    /// place of an earlier one; its "Restore" asks first when the snapshot is of
+    /// another machine, then starts the controller's `restoreWholeMachine`.
+    void restoreWholeMachine();
     /// Shows `comparison` in a new compare window, in place of an earlier one; its
     /// "Upload This Configuration" uploads `chosen` as the Config menu would.
     void showComparison(const ConfigComparison& comparison, const ConfigChoice& chosen);
@@ -138,6 +147,7 @@ class AppDelegate : public QObject {
     QMenu* addOptionsMenu();
     QMenu* addConfigMenu();
     QMenu* addHelpMenu();
+    void restoreSnapshot(const Backup& snapshot, const QString& machine);
     void addProductItems(QMenu* menu, void (AppDelegate::*action)(QAction*));
     std::optional<ProductConfig> productOf(const QAction* item) const;
     std::optional<QString> chooseConfigFile();

@@ -69,6 +69,9 @@ QMenu* AppDelegate::addOptionsMenu() {
               &AppDelegate::toggleWriteBootPartitions);
     addToggle(menu, Texts::eraseAllFlashItem(), updateController_->eraseAllFlashEnabled(),
               &AppDelegate::toggleEraseAllFlash);
+    addToggle(menu, Texts::snapshotBeforeWritingItem(),
+              updateController_->snapshotBeforeWritingEnabled(),
+              &AppDelegate::toggleSnapshotBeforeWriting);
     menu->addSeparator();
     addToggle(menu, Texts::backUpBeforeUploadItem(), updateController_->backupBeforeUploadEnabled(),
               &AppDelegate::toggleBackupBeforeUpload);
@@ -102,6 +105,10 @@ QMenu* AppDelegate::addConfigMenu() {
     }
     compare->addAction(Texts::chooseFileItem(), this, &AppDelegate::compareWithFile);
     menu->addAction(Texts::restoreMachineConfigItem(), this, &AppDelegate::restoreMachineConfig);
+    menu->addSeparator();
+    menu->addAction(Texts::backUpWholeMachineItem(), updateController_.get(),
+                    &UpdateController::backUpWholeMachine);
+    menu->addAction(Texts::restoreWholeMachineItem(), this, &AppDelegate::restoreWholeMachine);
     menu->addSeparator();
     menu->addAction(Texts::repairMenuItem(), this, &AppDelegate::showRepair);
     return menu;

@@ -1,5 +1,6 @@
 #include "ui/RepairDialog.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -26,6 +27,7 @@ RepairDialog::RepairDialog(const QList<Backup>& backups, const QString& machine,
       machine_(machine),
       sentence_(new QLabel(this)),
       choices_(new QComboBox(this)),
+      snapshotFirst_(new QCheckBox(Texts::snapshotFirstCheckBox(), this)),
       repair_(new QPushButton(Texts::repairConfirmButton(), this)),
       cancel_(new QPushButton(Texts::cancelButton(), this)) {
     setWindowTitle(Texts::repairTitle());
@@ -40,6 +42,10 @@ RepairDialog::RepairDialog(const QList<Backup>& backups, const QString& machine,
     row->addWidget(choices_, 1);
     choices_->setFont(Fonts::system(12));
     column->addLayout(row);
+    // On by default: a way back costs only time, which a slow link makes longer.
+    snapshotFirst_->setChecked(true);
+    snapshotFirst_->setFont(Fonts::system(12));
+    column->addWidget(snapshotFirst_);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
     for (QPushButton* button : {cancel_, repair_}) {
@@ -133,4 +139,8 @@ void RepairDialog::follow() {
 std::optional<Repair::PutBack> RepairDialog::chosen() const {
     const int index = choices_->currentIndex();
     return index >= 0 ? putBacks_[index] : std::nullopt;
+}
+
+bool RepairDialog::snapshotFirst() const {
+    return snapshotFirst_->isChecked();
 }

@@ -9,6 +9,7 @@
 #include "app/BuildConfig.h"
 #include "app/operations/Repair.h"
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -40,6 +41,10 @@ class RepairDialog : public QDialog {
 
     QLabel* sentence() const { return sentence_; }
     QComboBox* choices() const { return choices_; }
+    /// "Take a snapshot of the whole machine first", on at the start.
+    QCheckBox* snapshotFirstBox() const { return snapshotFirst_; }
+    /// Whether the repair takes a snapshot before it erases anything.
+    bool snapshotFirst() const;
     QPushButton* repairButton() const { return repair_; }
 
   signals:
@@ -60,6 +65,7 @@ class RepairDialog : public QDialog {
     QList<std::optional<QString>> phrases_;
     QLabel* sentence_;
     QComboBox* choices_;
+    QCheckBox* snapshotFirst_;
     QPushButton* repair_;
     QPushButton* cancel_;
 };

@@ -14,20 +14,28 @@
 #include "ui/Layouts.h"
 
 RestoreWindow::RestoreWindow(QList<Backup> backups, const QString& machine, const QString& folder,
-                             QWidget* parent)
+                             QWidget* parent, Contents contents)
     : QWidget(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                           Qt::WindowCloseButtonHint),
+      contents_(contents),
       backups_(ordered(std::move(backups), machine)),
       summary_(new QLabel(this)),
       list_(new QTreeWidget(this)),
       compare_(new QPushButton(Texts::compareWithMachineButton(), this)),
       restore_(new QPushButton(Texts::restoreButton(), this)),
       close_(new QPushButton(Texts::closeButton(), this)) {
-    setWindowTitle(Texts::restoreTitle());
+    const bool snapshots = contents_ == Contents::snapshots;
+    setWindowTitle(snapshots ? Texts::restoreWholeTitle() : Texts::restoreTitle());
     resize(600, 360);
     setMinimumSize(480, 280);
-    buildLayout(backups_.isEmpty() ? Texts::noBackupsToRestore(folder)
-                                   : Texts::backupsToRestore(folder));
+    if (snapshots) {
+        buildLayout(backups_.isEmpty() ? Texts::noSnapshotsToRestore(folder)
+                                       : Texts::snapshotsToRestore(folder));
+    } else {
+        buildLayout(backups_.isEmpty() ? Texts::noBackupsToRestore(folder)
+                                       : Texts::backupsToRestore(folder));
+    }
+    compare_->setVisible(!snapshots);
     fillList(machine);
     connect(compare_, &QPushButton::clicked, this, [this] {
         if (const Backup* backup = selected()) {
@@ -61,8 +69,12 @@ void RestoreWindow::buildLayout(const QString& summary) {
 
     list_->setFont(Fonts::system(12));
     list_->setRootIsDecorated(false);
-    list_->setHeaderLabels({Texts::dateColumn(), Texts::reasonColumn(), Texts::firmwareColumn(),
-                            Texts::sizeColumn(), Texts::machineColumn()});
+    QStringList columns{Texts::dateColumn(), Texts::reasonColumn(), Texts::firmwareColumn(),
+                        Texts::sizeColumn(), Texts::machineColumn()};
+    if (contents_ == Contents::snapshots) {
+        columns.insert(3, Texts::ranColumn());
+    }
+    list_->setHeaderLabels(columns);
     list_->header()->setStretchLastSection(true);
     column->addWidget(list_, 1);
 
@@ -77,13 +89,7 @@ void RestoreWindow::buildLayout(const QString& summary) {
 
 void RestoreWindow::fillList(const QString& machine) {
     for (const Backup& backup : backups_) {
-        const QString owner =
-            backup.machine == machine ? Texts::thisMachine(backup.machine) : backup.machine;
-        const QString version = backup.firmwareVersion ? VersionText::shown(*backup.firmwareVersion)
-                                                       : Texts::noVersion();
-        list_->addTopLevelItem(new QTreeWidgetItem(
-            {Texts::backupTime(backup.time, Texts::Audience::window),
-             Texts::backupReason(backup.reason), version, Texts::byteCount(backup.size), owner}));
+        list_->addTopLevelItem(new QTreeWidgetItem(rowOf(backup, machine)));
     }
     for (int column = 0; column < list_->columnCount() - 1; ++column) {
         list_->resizeColumnToContents(column);
@@ -92,6 +98,23 @@ void RestoreWindow::fillList(const QString& machine) {
     compare_->setEnabled(!backups_.isEmpty());
     restore_->setEnabled(!backups_.isEmpty());
     restore_->setDefault(!backups_.isEmpty());
+}
+
+QStringList RestoreWindow::rowOf(const Backup& backup, const QString& machine) const {
+    const QString owner =
+        backup.machine == machine ? Texts::thisMachine(backup.machine) : backup.machine;
+    const QString version =
+        backup.firmwareVersion ? VersionText::shown(*backup.firmwareVersion) : Texts::noVersion();
+    QStringList row{Texts::backupTime(backup.time, Texts::Audience::window),
+                    Texts::backupReason(backup.reason), version, Texts::byteCount(backup.size),
+                    owner};
+    if (contents_ == Contents::snapshots) {
+        const bool heard = backup.snapshot && backup.snapshot->startup;
+        row.insert(3, !heard         ? Texts::noVersion()
+                      : backup.ran() ? Texts::ranYes()
+                                     : Texts::ranNo());
+    }
+    return row;
 }
 
 const Backup* RestoreWindow::selected() const {

@@ -13,16 +13,21 @@ class QTreeWidget;
 /// Config > "Restore Machine Config…": the kept configurations, this machine's on
 /// top and each group newest first, one row each with its date, reason, firmware
 /// version, size and machine; "Compare With Machine" and "Restore" act on the
-/// selected row (the first one at the start), "Close" (also Escape) closes. Its
-/// content is built once by the constructor. GUI thread only.
+/// selected row (the first one at the start), "Close" (also Escape) closes.
+/// Config > "Restore Whole Machine…" shows the snapshots in the same way, with
+/// whether the machine ran in place of nothing to compare. Its content is built
+/// once by the constructor. GUI thread only.
 class RestoreWindow : public QWidget {
     Q_OBJECT
 
   public:
-    /// `backups` as `BackupIndex::list` gives them, from `folder`; `machine` is the
-    /// connected machine's name (empty when none is).
+    /// What the window lists.
+    enum class Contents { configurations, snapshots };
+
+    /// `backups` as `BackupIndex::list` gives them for `contents`, from `folder`;
+    /// `machine` is the connected machine's name (empty when none is).
     RestoreWindow(QList<Backup> backups, const QString& machine, const QString& folder,
-                  QWidget* parent = nullptr);
+                  QWidget* parent = nullptr, Contents contents = Contents::configurations);
 
     /// `backups` in the window's order: `machine`'s first, each group newest first.
     static QList<Backup> ordered(QList<Backup> backups, const QString& machine);
@@ -42,8 +47,10 @@ class RestoreWindow : public QWidget {
   private:
     void buildLayout(const QString& summary);
     void fillList(const QString& machine);
+    QStringList rowOf(const Backup& backup, const QString& machine) const;
     const Backup* selected() const;
 
+    Contents contents_;
     QList<Backup> backups_;
     QLabel* summary_;
     QTreeWidget* list_;

@@ -69,6 +69,7 @@ UpdaterView::UpdaterView(UpdateController& controller, QWidget* parent)
       button_(new QPushButton(Texts::updateFirmwareButton(), this)),
       banner_(new ResultBanner(this)),
       restorePrevious_(new QAction(Texts::restorePreviousButton(), this)),
+      undoUpdate_(new QAction(Texts::undoUpdateButton(), this)),
       repair_(new QAction(Texts::repairButton(), this)),
       log_(new LogPanel(this)) {
     buildLayout();
@@ -132,6 +133,7 @@ void UpdaterView::connectTo(UpdateController& controller) {
     connect(&controller, &UpdateController::resultChanged, this, &UpdaterView::showResult);
     connect(restorePrevious_, &QAction::triggered, &controller,
             &UpdateController::restorePreviousConfiguration);
+    connect(undoUpdate_, &QAction::triggered, &controller, &UpdateController::undoUpdate);
     connect(repair_, &QAction::triggered, this, &UpdaterView::repairRequested);
     connect(controller.connectionHint(), &ConnectionHint::offeredChanged, this,
             &UpdaterView::showConnectionHint);
@@ -264,6 +266,11 @@ void UpdaterView::showResult(const std::optional<Outcome>& result) {
     const StartupCause* startup = result ? result->startup() : nullptr;
     if (startup != nullptr && startup->previous) {
         offers << restorePrevious_;
+    }
+    // The way back to the flash the machine ran from comes first, before the repair.
+    if (startup != nullptr && startup->snapshot && !startup->undone &&
+        result->kind == Outcome::Kind::notStarting) {
+        offers << undoUpdate_;
     }
     if (result && Repair::helps(*result)) {
         offers << repair_;

@@ -75,6 +75,8 @@ class UpdaterView : public QWidget {
     QAction* restorePreviousAction() const { return restorePrevious_; }
     /// The banner's "Repair…"; it emits `repairRequested`.
     QAction* repairAction() const { return repair_; }
+    /// The banner's "Undo Update"; it calls the controller's `undoUpdate`.
+    QAction* undoUpdateAction() const { return undoUpdate_; }
 
   signals:
     /// The link "Plotter not found?" was followed.
@@ -104,6 +106,7 @@ class UpdaterView : public QWidget {
     QPushButton* button_;
     ResultBanner* banner_;
     QAction* restorePrevious_;
+    QAction* undoUpdate_;
     QAction* repair_;
     LogPanel* log_;
     bool isConnected_ = false;

@@ -13,7 +13,11 @@ constexpr int kPortReturnMs = 5000;
 
 Outcome startupOutcome(const FlasherBridge::StartupReport& report, StartupCause::Written written,
                        const std::optional<QString>& expected) {
-    StartupCause cause{report.verdict, report.version, expected, written, std::nullopt};
+    StartupCause cause;
+    cause.verdict = report.verdict;
+    cause.version = report.version;
+    cause.expected = expected;
+    cause.written = written;
     Outcome outcome =
         Outcome::make(StartupVerdict::kind(report.verdict), StartupVerdict::message(cause));
     outcome.cause = cause;

@@ -17,6 +17,7 @@ enum class Phase {
     configUploaded,   ///< the upload succeeded and the machine restarts
     readingConfig,    ///< the machine's config.yaml is being read; its size is not known
     checkingStartup,  ///< the machine restarts after a write and is listened to
+    readingFlash,     ///< the machine's whole flash is being read; its size is not known yet
 };
 
 /// Where an operation reports while it runs, and who reads it. Every handler may be

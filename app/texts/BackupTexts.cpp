@@ -134,6 +134,12 @@ QString backupReason(BackupReason reason) {
             return BackupTexts::tr("Before upload");
         case BackupReason::beforeErase:
             return BackupTexts::tr("Before erase");
+        case BackupReason::snapshot:
+            return BackupTexts::tr("Snapshot");
+        case BackupReason::beforeUpdate:
+            return BackupTexts::tr("Before update");
+        case BackupReason::beforeRepair:
+            return BackupTexts::tr("Before repair");
     }
     return QString();
 }

@@ -41,7 +41,8 @@ QString backupCopyChanged(const QString& fileName);
 /// A backup's time: in the window the locale's short date and time, the one date
 /// format it shows; on the command line "yyyy-MM-dd HH:mm:ss". Local time.
 QString backupTime(const QDateTime& time, Audience audience);
-/// How the window names a reason: "Saved", "Compared", "Before upload", "Before erase".
+/// How the window names a reason: "Saved", "Compared", "Before upload", "Before erase",
+/// "Snapshot", "Before update", "Before repair".
 QString backupReason(BackupReason reason);
 /// "TIME  REASON  VERSION  N bytes  MACHINE  PATH", the reason in the sidecar's word.
 QString backupLine(const QString& time, const QString& reason, const QString& version, qint64 bytes,

@@ -24,7 +24,7 @@ unsigned modeOf(const QString& path) {
 
 BackupIndex::Source source(const QString& machine, const QDateTime& time,
                            BackupReason reason = BackupReason::save) {
-    return {reason, machine, QStringLiteral("v3.7.8"), time};
+    return {reason, machine, QStringLiteral("v3.7.8"), time, std::nullopt};
 }
 
 Backup kept(const BackupIndex& index, const QByteArray& bytes, const BackupIndex::Source& from) {
@@ -60,6 +60,7 @@ class BackupIndexTest : public QObject {
     }
     void aCopyAndItsSidecarAreTheOwnersAlone();
     void onlyTheNewestFiftyOfEachMachineAreKept();
+    void snapshotsKeepTheNewestFiveAndTheNewestThatRan();
     void unreadableRecordsAreSkippedWithALine();
     void aFolderThatCannotBeUsedKeepsNothing();
 
@@ -121,6 +122,43 @@ void BackupIndexTest::onlyTheNewestFiftyOfEachMachineAreKept() {
         QVERIFY(!QFile::exists(gone.path.chopped(5) + ".json"));
     }
     QVERIFY(QFile::exists(all[2].path));
+}
+
+// Eight snapshots of SN1, only the second oldest taken while the machine ran: the
+// newest five stay, and that one, whatever its age. Its configuration copies and
+// another machine's snapshots are left alone.
+void BackupIndexTest::snapshotsKeepTheNewestFiveAndTheNewestThatRan() {
+    const BackupIndex index(folder());
+    const Backup config = kept(index, "abc", source("SN1", kTime.addDays(-2)));
+    const auto snapshot = [&](const QString& machine, int minute, int verdict) {
+        BackupIndex::Source from =
+            source(machine, kTime.addSecs(60 * minute),
+                   minute % 2 ? BackupReason::beforeUpdate : BackupReason::snapshot);
+        from.snapshot = SnapshotFacts{verdict, {"app0 (application 0x10) at 0x10000"}, "2.10.5"};
+        return kept(index, QByteArray(64, char(minute)), from);
+    };
+    const Backup otherMachine = snapshot("SN2", -10, ESP_STARTUP_RUNNING);
+    QList<Backup> mine;
+    for (int minute = 0; minute < 8; ++minute) {
+        mine.append(
+            snapshot("SN1", minute, minute == 1 ? ESP_STARTUP_RUNNING : ESP_STARTUP_BOOT_LOOP));
+    }
+    QCOMPARE(mine[1].path, folder() + "/machine-20240501-140422.bin");
+    QCOMPARE(modeOf(mine[1].path), 0600u);
+    const QList<Backup> snapshots = index.list(BackupIndex::Family::snapshots);
+    QCOMPARE(snapshots,
+             QList<Backup>({mine[7], mine[6], mine[5], mine[4], mine[3], mine[1], otherMachine}));
+    QVERIFY(!QFile::exists(mine[0].path) && !QFile::exists(mine[2].path));
+    QVERIFY(!QFile::exists(folder() + "/machine-20240501-140322.json"));
+    // The sidecar brings the snapshot's own facts back; the configuration roads never
+    // see a snapshot.
+    QCOMPARE(snapshots[5].snapshot->startup, std::optional<int>(ESP_STARTUP_RUNNING));
+    QCOMPARE(snapshots[5].snapshot->application, std::optional<QString>("2.10.5"));
+    QCOMPARE(index.list(BackupIndex::Family::configurations), QList<Backup>({config}));
+    QCOMPARE(index.newestOf("SN1"), config);
+    QCOMPARE(index.newestSnapshotOf("SN1"), mine[7]);
+    QCOMPARE(index.find(QFileInfo(mine[7].path).fileName()), std::nullopt);
+    QCOMPARE(index.findSnapshot(QFileInfo(mine[7].path).fileName()), mine[7]);
 }
 
 void BackupIndexTest::unreadableRecordsAreSkippedWithALine() {

@@ -154,6 +154,7 @@ class CliTest : public QObject {
     void aPortTheUserMayNotOpenIsNamedAndGetsNothing();
     void doctorAndDetectSayWhyNoPlotterIsReady();
     void backupsAreListedAndRestored();
+    void aFailedUpdateIsUndoneByItselfOrByItsCommand();
 
   private:
     QString file(const QString& name) const { return files_.filePath(name); }
@@ -727,6 +728,47 @@ void CliTest::backupsAreListedAndRestored() {
     QCOMPARE(unknown.exitCode, 15);
     QVERIFY(!unknown.out.contains("Opening port"));
     QVERIFY(run({"repair", "--help"}).out.contains("18 nothing is known to put back"));
+    qputenv("XDG_DATA_HOME", file("home-data").toUtf8());
+}
+
+// Each run has a simulated plotter of its own, so the command named after one run
+// puts its snapshot on the next run's plotter, which starts from the same flash.
+void CliTest::aFailedUpdateIsUndoneByItselfOrByItsCommand() {
+    const QString data = file("undo-data");
+    qputenv("XDG_DATA_HOME", data.toUtf8());
+    const QString folder = data + "/teskal-firmware-updater/backups";
+    const Run failed = run({"flash", "--sim", "--sim-startup", "boot-loop", "--snapshot"});
+    QCOMPARE(failed.exitCode, 13);
+    const QRegularExpression named("run: teskal-flash restore-machine (\\S+machine-\\S+\\.bin)\n$");
+    const auto match = named.match(failed.err);
+    QVERIFY2(match.hasMatch(), qPrintable(failed.err));
+    const QString snapshot = match.captured(1);
+    QCOMPARE(QFileInfo(snapshot).absolutePath(), folder);
+    QCOMPARE(QFileInfo(snapshot).size(), 4 * 1024 * 1024);
+
+    const Run restored = run({"restore-machine", "--sim", "--json", snapshot});
+    QCOMPARE(restored.exitCode, 0);
+    QCOMPARE(jsonObjects(restored.out).last()["machine"], "running");
+
+    const Run undone = run({"flash", "--sim", "--sim-startup", "boot-loop", "--snapshot",
+                            "--undo-on-failure", "--json"});
+    QCOMPARE(undone.exitCode, 13);
+    const QList<QJsonObject> lines = jsonObjects(undone.out);
+    QCOMPARE(lines.last()["machine"], "boot-loop");
+    QCOMPARE(lines.last()["undone"], true);
+    QVERIFY(std::any_of(lines.begin(), lines.end(), [](const QJsonObject& line) {
+        return line["line"].toString().startsWith("Machine put back as it was on ");
+    }));
+
+    // What is not a whole-flash snapshot is refused with nothing sent; the backups
+    // list names each snapshot's reason.
+    const Run refused = run({"restore-machine", "--sim", "--verbose", file("text.bin")});
+    QCOMPARE(refused.exitCode, 11);
+    QVERIFY(!refused.out.contains("Opening port"));
+    const QJsonArray kept = jsonObjects(run({"backups", "--json"}).out).last()["backups"].toArray();
+    QCOMPARE(kept.size(), 2);
+    QCOMPARE(kept[0].toObject()["reason"], "before-update");
+    QVERIFY(run({"flash", "--help"}).out.contains("20 no snapshot of the whole flash"));
     qputenv("XDG_DATA_HOME", file("home-data").toUtf8());
 }
 

@@ -104,11 +104,13 @@ void AppDelegateTest::menuBarMatchesTheTableAndProductItemsUploadByTag() {
         "Version\u2026||\n  Firmware Catalogue\u2026||\n  ---\n"
         "  Save Log\u2026|Ctrl+S|\n"
         "Options||\n  Detailed Logging||checkable\n  ---\n  Write Boot Partitions||checkable\n"
-        "  Erase All Flash||checkable\n  ---\n  Back Up Machine Config Before Upload||checkable\n"
+        "  Erase All Flash||checkable\n  Snapshot Before Writing||checkable\n  ---\n"
+        "  Back Up Machine Config Before Upload||checkable\n"
         "Config||\n  Update Config||\n    Alpha||tag=0\n    Beta||tag=1\n  ---\n"
         "  Select from Disk...||\n  ---\n  Save Machine Config\u2026||\n"
         "  Compare With Machine\u2026||\n    Alpha||tag=0\n    Beta||tag=1\n    ---\n"
         "    Choose File\u2026||\n  Restore Machine Config\u2026||\n  ---\n"
+        "  Back Up Whole Machine\u2026||\n  Restore Whole Machine\u2026||\n  ---\n"
         "  Repair Machine\u2026||\n"
         "Help||\n  Connection Check\u2026||\n  ---\n  About Teskal Firmware Updater||");
     QCOMPARE(action("About Teskal Firmware Updater")->menuRole(), QAction::AboutRole);
@@ -127,12 +129,13 @@ void AppDelegateTest::menuBarMatchesTheTableAndProductItemsUploadByTag() {
 
     launch({});
     QCOMPARE(menus().mid(menus().indexOf("Config||")),
-             QStringList({"Config||", "  No products configured||disabled", "  ---",
-                          "  Select from Disk...||", "  ---", "  Save Machine Config\u2026||",
-                          "  Compare With Machine\u2026||", "    Choose File\u2026||",
-                          "  Restore Machine Config\u2026||", "  ---", "  Repair Machine\u2026||",
-                          "Help||", "  Connection Check\u2026||", "  ---",
-                          "  About Teskal Firmware Updater||"}));
+             QStringList(
+                 {"Config||", "  No products configured||disabled", "  ---",
+                  "  Select from Disk...||", "  ---", "  Save Machine Config\u2026||",
+                  "  Compare With Machine\u2026||", "    Choose File\u2026||",
+                  "  Restore Machine Config\u2026||", "  ---", "  Back Up Whole Machine\u2026||",
+                  "  Restore Whole Machine\u2026||", "  ---", "  Repair Machine\u2026||", "Help||",
+                  "  Connection Check\u2026||", "  ---", "  About Teskal Firmware Updater||"}));
 }
 
 void AppDelegateTest::togglesFlipTheFlagAndTheCheckMark() {
@@ -307,8 +310,8 @@ void AppDelegateTest::restoreWindowPutsThisMachineOnTopAndActsOnTheSelectedRow()
     const QDateTime time(QDate(2024, 5, 1), QTime(14, 3, 22));
     const auto keep = [&](const char* machine, int hours, BackupReason reason,
                           std::optional<QString> firmware) {
-        return std::get<Backup>(
-            index.keep("abc", {reason, machine, firmware, time.addSecs(3600 * hours)}));
+        return std::get<Backup>(index.keep(
+            "abc", {reason, machine, firmware, time.addSecs(3600 * hours), std::nullopt}));
     };
     const Backup oldest = keep("SN-A", 0, BackupReason::save, "v3.7.8");
     const Backup other = keep("SN-B", 1, BackupReason::beforeErase, std::nullopt);

@@ -1,6 +1,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
+#include <QTreeWidget>
 
 #include "../support/HoldingProcess.h"
 #include "UiTestSupport.h"
@@ -13,6 +14,7 @@
 #include "ui/LogPanel.h"
 #include "ui/LogView.h"
 #include "ui/RepairDialog.h"
+#include "ui/RestoreWindow.h"
 #include "ui/ResultBanner.h"
 #include "ui/UpdaterView.h"
 
@@ -27,6 +29,7 @@ class EndToEndTest : public QObject {
     void initTestCase() { QLocale::setDefault(QLocale::c()); }
     void updateButtonAndConfigMenuRunTheirJobs();
     void aMachineLeftRestartingInALoopIsRepairedInTwoClicks();
+    void anUpdateThatLeavesAMachineRestartingIsUndoneInOneClick();
     void theDemosConnectionCheckSeesItsPlotterAndWhoHoldsIt();
 };
 
@@ -221,6 +224,69 @@ void EndToEndTest::aMachineLeftRestartingInALoopIsRepairedInTwoClicks() {
         const auto stored = p.storedConfig().value_or(std::vector<uint8_t>{});
         QCOMPARE(QByteArray(reinterpret_cast<const char*>(stored.data()), stored.size()), settings);
     });
+}
+
+// The demo's road: Snapshot Before Writing, an update that leaves the machine
+// restarting in a loop, and "Undo Update" on the red banner puts back the flash it
+// ran from, byte for byte. Another machine's snapshot is only put back when the
+// owner says so.
+void EndToEndTest::anUpdateThatLeavesAMachineRestartingIsUndoneInOneClick() {
+    QTemporaryDir folder;
+    qputenv("XDG_DATA_HOME", folder.filePath("data").toUtf8());
+    const auto plotter =
+        startSimulatedPlotter(ResourceBundle(TFU_DEV_RESOURCES_DIR), SimulatedPace::instant);
+    const auto flash = [&plotter] {
+        std::vector<uint8_t> bytes;
+        plotter->inspect([&](const sim::Plotter& p) { bytes = p.flash(); });
+        return bytes;
+    };
+    const std::vector<uint8_t> before = flash();
+    QList<std::pair<QString, QString>> asked;
+    AppDelegate::Options options;
+    options.confirmOtherMachine = [&asked](QWidget*, const QString& owner, const QString& machine) {
+        asked.append({owner, machine});
+        return false;
+    };
+    const auto program = simulatedProgram(*plotter, std::move(options));
+    AppDelegate& delegate = *program;
+    const UpdateController& controller = delegate.updateController();
+    auto* view = qobject_cast<UpdaterView*>(delegate.window()->centralWidget());
+    menuItem(delegate.window(), "Snapshot Before Writing")->trigger();
+    plotter->modify([](sim::Plotter& p) { p.config().startup = sim::Startup::BootLoop; });
+
+    QTRY_VERIFY(view->updateButton()->isEnabled());
+    QTest::mouseClick(view->updateButton(), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning() && controller.result(), 60000);
+    QCOMPARE(controller.result()->kind, Outcome::Kind::notStarting);
+    const QList<QPushButton*> offers = view->resultBanner()->findChildren<QPushButton*>();
+    QVERIFY(offers.size() >= 2);
+    QCOMPARE(offers[0]->text(), QStringLiteral("Undo Update"));
+    QCOMPARE(offers[1]->text(), QStringLiteral("Repair…"));
+    QVERIFY(flash() != before);
+
+    QTest::mouseClick(offers[0], Qt::LeftButton);
+    QVERIFY(controller.jobRunning());
+    QTRY_VERIFY_WITH_TIMEOUT(!controller.jobRunning() && controller.result(), 60000);
+    QVERIFY2(controller.result()->kind == Outcome::Kind::succeeded,
+             qPrintable(controller.logMessages().join('\n')));
+    QVERIFY(controller.logMessages().last().startsWith("Machine put back as it was on "));
+    QVERIFY(flash() == before);
+    plotter->inspect([](const sim::Plotter& p) { QCOMPARE(p.startup(), sim::Startup::Healthy); });
+
+    // The list puts this machine's snapshot first; another machine's asks first.
+    const QString machine = DeviceQueries::machineIdentity(QString::fromStdString(plotter->path()));
+    const QString mine = BackupIndex().list(BackupIndex::Family::snapshots).first().path;
+    BackupIndex::Source other{BackupReason::snapshot, "SN-OTHER", std::nullopt,
+                              QDateTime::currentDateTime().addDays(1), SnapshotFacts{}};
+    QVERIFY(std::holds_alternative<Backup>(BackupIndex().keep(readFile(mine), other)));
+    menuItem(delegate.window(), "Restore Whole Machine…")->trigger();
+    RestoreWindow* window = delegate.restoreWindow();
+    QCOMPARE(window->backups().size(), 2);
+    QCOMPARE(window->backups()[0].path, mine);
+    window->list()->setCurrentItem(window->list()->topLevelItem(1));
+    QTest::mouseClick(window->restoreButton(), Qt::LeftButton);
+    QCOMPARE(asked, (QList<std::pair<QString, QString>>{{"SN-OTHER", machine}}));
+    QVERIFY(!controller.jobRunning());
 }
 
 // The demo's Connection Check, from the Help menu, sees the simulated plotter as

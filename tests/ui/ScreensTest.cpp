@@ -240,7 +240,7 @@ void ScreensTest::restoreWindowAndRepairDialog() {
     const auto backup = [&](int hours, BackupReason reason, const QString& machine,
                             std::optional<QString> firmware) {
         const QString path = folder + QStringLiteral("/config-%1.yaml").arg(hours);
-        return Backup{path, time.addSecs(3600 * hours), reason, machine, firmware, 2870, {}};
+        return Backup{path, time.addSecs(3600 * hours), reason, machine, firmware, 2870, {}, {}};
     };
     RestoreWindow restore({backup(0, BackupReason::save, "3C8A1F20B4E2", "v3.7.8"),
                            backup(3, BackupReason::beforeErase, "3C8A1F20B4E2", "v3.7.8"),
