@@ -2,6 +2,9 @@
 
 #include <QString>
 #include <functional>
+#include <optional>
+
+struct Outcome;
 
 /// The owner's answers when Erase All Flash would also erase the machine's
 /// settings. The window asks them in dialogs; an empty function gives the answer
@@ -19,4 +22,14 @@ struct SettingsQuestions {
     /// The catalogue's release `chosen` is older than the firmware `running` on
     /// the machine, and nothing was written: install it anyway? (false)
     std::function<bool(const QString& chosen, const QString& running)> installOlder;
+
+    /// A firmware write to run again after a question agreed to it.
+    struct Rewrite {
+        bool keepingSettings;  ///< Erase All Flash with Save and Restore, else a plain write
+        bool allowOlder;       ///< an older catalogue release is installed anyway
+    };
+    /// After a write (`keepingSettings`: one that saves the settings first) stopped
+    /// with nothing written: asks what its outcome calls for, and returns the write
+    /// the answers ask for; none when nothing follows.
+    std::optional<Rewrite> askAfter(const Outcome& outcome, bool keepingSettings) const;
 };

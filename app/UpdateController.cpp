@@ -138,7 +138,7 @@ void UpdateController::performFlash(const QString& port, Log log, bool allowOlde
     start(
         undoable(port, std::make_shared<FlashFirmware>(port, resources_, flashOptions(allowOlder)),
                  snapshotBeforeWriting_, BackupReason::beforeUpdate),
-        {}, [this](const Outcome& outcome) { askInstallOlder(outcome, false); }, log);
+        {}, [this](const Outcome& outcome) { askAfter(outcome, false); }, log);
 }
 
 std::shared_ptr<Operation> UpdateController::undoable(const QString& port,
@@ -153,18 +153,13 @@ std::shared_ptr<Operation> UpdateController::undoable(const QString& port,
 
 void UpdateController::performConfigUpload(const QString& port, const QString& configFile,
                                            const QString& productName) {
-    UploadConfig::Options options;
-    options.backUpFirst = backupBeforeUpload_;
-    start(std::make_shared<UploadConfig>(
-        port, resources_, ConfigChoice::ofProduct({productName, configFile}), options));
+    performUpload(port, ConfigChoice::ofProduct({productName, configFile}));
 }
 
-void UpdateController::performConfigUploadData(const QString& port, const QString& path,
-                                               const QByteArray& configData) {
+void UpdateController::performUpload(const QString& port, const ConfigChoice& choice) {
     UploadConfig::Options options;
     options.backUpFirst = backupBeforeUpload_;
-    start(std::make_shared<UploadConfig>(port, resources_, ConfigChoice::ofData(path, configData),
-                                         options));
+    start(std::make_shared<UploadConfig>(port, resources_, choice, options));
 }
 
 void UpdateController::performKeepingSettings(const QString& port, Log log, bool allowOlder) {
@@ -173,48 +168,17 @@ void UpdateController::performKeepingSettings(const QString& port, Log log, bool
     start(
         undoable(port, std::make_shared<EraseKeepingSettings>(port, resources_, options),
                  snapshotBeforeWriting_, BackupReason::beforeUpdate),
-        {}, [this](const Outcome& outcome) { askAfterStop(outcome); }, log);
+        {}, [this](const Outcome& outcome) { askAfter(outcome, true); }, log);
 }
 
-void UpdateController::askAfterStop(const Outcome& outcome) {
-    if (askInstallOlder(outcome, true)) {
-        return;
-    }
-    using Stop = SettingsCause::Stop;
-    using Answer = SettingsQuestions::AfterFailedRead;
-    const auto* settings = std::get_if<SettingsCause>(&outcome.cause);
-    const Stop stop = settings ? settings->stop : Stop::none;
-    Answer answer = Answer::cancel;
-    if (stop == Stop::firmwareSilent) {
-        const bool anyway = questions_.eraseAnyway && questions_.eraseAnyway();
-        answer = anyway ? Answer::eraseWithoutSaving : Answer::cancel;
-    } else if (stop == Stop::notSaved && questions_.afterFailedRead) {
-        answer = questions_.afterFailedRead(outcome.message);
-    }
-    if (answer == Answer::cancel) {
-        return;
-    }
-    if (const auto port = portForNewJob()) {
-        answer == Answer::retry ? performKeepingSettings(*port, Log::continued)
-                                : performFlash(*port, Log::continued);
-    }
-}
-
-// Nothing was written; agreed, the same job runs again and the log goes on.
-bool UpdateController::askInstallOlder(const Outcome& outcome, bool keepingSettings) {
-    const auto* older = std::get_if<OlderRelease>(&outcome.cause);
-    if (older == nullptr) {
-        return false;
-    }
-    const auto port =
-        questions_.installOlder && questions_.installOlder(older->chosen, older->running)
-            ? portForNewJob()
-            : std::nullopt;
+void UpdateController::askAfter(const Outcome& outcome, bool keepingSettings) {
+    const auto rewrite = questions_.askAfter(outcome, keepingSettings);
+    const auto port = rewrite ? portForNewJob() : std::nullopt;
     if (port) {
-        keepingSettings ? performKeepingSettings(*port, Log::continued, true)
-                        : performFlash(*port, Log::continued, true);
+        rewrite->keepingSettings
+            ? performKeepingSettings(*port, Log::continued, rewrite->allowOlder)
+            : performFlash(*port, Log::continued, rewrite->allowOlder);
     }
-    return true;
 }
 
 FlashFirmware::Options UpdateController::flashOptions(bool allowOlder) const {
@@ -246,7 +210,7 @@ void UpdateController::uploadConfigFromFile(const QString& path) {
     if (const auto* refused = std::get_if<Outcome>(&checked)) {
         return post(LogEntry::error(refused->message));
     }
-    performConfigUploadData(*port, path, std::get<QByteArray>(checked));
+    performUpload(*port, ConfigChoice::ofData(path, std::get<QByteArray>(checked)));
 }
 
 void UpdateController::uploadChoice(const ConfigChoice& choice) {

@@ -180,8 +180,7 @@ class UpdateController : public PublishedState {
     void performFlash(const QString& port, Log log = Log::fresh, bool allowOlder = false);
     void performConfigUpload(const QString& port, const QString& configFile,
                              const QString& productName);
-    void performConfigUploadData(const QString& port, const QString& path,
-                                 const QByteArray& configData);
+    void performUpload(const QString& port, const ConfigChoice& choice);
     void performKeepingSettings(const QString& port, Log log, bool allowOlder = false);
     std::shared_ptr<Operation> undoable(const QString& port, std::shared_ptr<Operation> write,
                                         bool snapshotFirst, BackupReason reason) const;
@@ -189,8 +188,7 @@ class UpdateController : public PublishedState {
     std::optional<QString> portForNewJob();
     void start(std::shared_ptr<Operation> operation, Then then = {}, Then otherwise = {},
                Log log = Log::fresh);
-    void askAfterStop(const Outcome& outcome);
-    bool askInstallOlder(const Outcome& outcome, bool keepingSettings);
+    void askAfter(const Outcome& outcome, bool keepingSettings);
     FlashFirmware::Options flashOptions(bool allowOlder = false) const;
     void showLibraryLine(const QString& line);
     void finish(const Outcome& outcome);

@@ -143,6 +143,21 @@ int writeToFile(void* file, const uint8_t* data, size_t length) {
     return std::fwrite(data, 1, length, static_cast<std::FILE*>(file)) == length ? 0 : 1;
 }
 
+// Waits for the child that took a snapshot and prints its peak resident set.
+int reportPeakRss(pid_t child, const char* what) {
+    int status = 0;
+    rusage usage{};
+    ::wait4(child, &status, 0, &usage);
+    std::printf("%s\n", what);
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
+        std::printf("  the snapshot failed\n");
+        return 1;
+    }
+    const double peakMiB = static_cast<double>(usage.ru_maxrss) / 1024.0;
+    std::printf("  peak resident set, simulator included %5.1f MiB   (goal < 64)\n", peakMiB);
+    return peakMiB < 64.0 ? 0 : 1;
+}
+
 // The child takes the snapshot through the shared library into an unlinked file. The
 // simulator runs in the child too (another process holding the pseudo-terminal would
 // make the library refuse the port), so its own 16 MiB of flash is counted as well.
@@ -159,17 +174,9 @@ int snapshotPeakRss() {
                                  file, nullptr, nullptr, &status, nullptr);
         ::_exit(code == 0 && status.received == 16 * kMiB ? 0 : 1);
     }
-    int status = 0;
-    rusage usage{};
-    ::wait4(child, &status, 0, &usage);
-    std::printf("16 MiB snapshot through esp_snapshot_machine into a file, in a child process\n");
-    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
-        std::printf("  the snapshot failed\n");
-        return 1;
-    }
-    const double peakMiB = static_cast<double>(usage.ru_maxrss) / 1024.0;
-    std::printf("  peak resident set, simulator included %5.1f MiB   (goal < 64)\n", peakMiB);
-    return peakMiB < 64.0 ? 0 : 1;
+    return reportPeakRss(child,
+                         "16 MiB snapshot through esp_snapshot_machine into a file, in a "
+                         "child process");
 }
 
 // The same snapshot through the application's operation, as the window and
@@ -195,17 +202,8 @@ int operationPeakRss() {
         const auto* kept = std::get_if<Backup>(&outcome.cause);
         ::_exit(kept != nullptr && kept->size == qint64(16 * kMiB) ? 0 : 1);
     }
-    int status = 0;
-    rusage usage{};
-    ::wait4(child, &status, 0, &usage);
-    std::printf("16 MiB snapshot through the operation into the backups folder, in a child\n");
-    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
-        std::printf("  the snapshot failed\n");
-        return 1;
-    }
-    const double peakMiB = static_cast<double>(usage.ru_maxrss) / 1024.0;
-    std::printf("  peak resident set, simulator included %5.1f MiB   (goal < 64)\n", peakMiB);
-    return peakMiB < 64.0 ? 0 : 1;
+    return reportPeakRss(
+        child, "16 MiB snapshot through the operation into the backups folder, in a child");
 }
 
 }  // namespace

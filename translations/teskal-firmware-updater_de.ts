@@ -300,114 +300,114 @@
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Komplettsicherung</translation>
     </message>
     <message>
         <source>Before update</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor der Aktualisierung</translation>
     </message>
     <message>
         <source>Before repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor der Reparatur</translation>
     </message>
 </context>
 <context>
     <name>CatalogueTexts</name>
     <message>
         <source>&quot;%1&quot; is not a firmware catalogue: give an http:// or https:// address, a catalogue.json file or a folder that holds one.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Firmware-Katalog: Geben Sie eine http://- oder https://-Adresse, eine catalogue.json-Datei oder einen Ordner an, der eine solche Datei enthält.</translation>
     </message>
     <message>
         <source>The catalogue key %1 is missing, so no firmware catalogue can be checked. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Katalogschlüssel %1 fehlt, daher kann kein Firmware-Katalog geprüft werden. Installieren Sie das Programm neu oder verwenden Sie die mitgelieferte Firmware.</translation>
     </message>
     <message>
         <source>The catalogue key %1 is not an Ed25519 public key, so no firmware catalogue can be checked. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Katalogschlüssel %1 ist kein öffentlicher Ed25519-Schlüssel, daher kann kein Firmware-Katalog geprüft werden. Installieren Sie das Programm neu oder verwenden Sie die mitgelieferte Firmware.</translation>
     </message>
     <message>
         <source>The catalogue key %1 is the development key, which only the simulated plotter trusts. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Katalogschlüssel %1 ist der Entwicklungsschlüssel, dem nur der simulierte Plotter vertraut. Installieren Sie das Programm neu oder verwenden Sie die mitgelieferte Firmware.</translation>
     </message>
     <message>
         <source>The firmware catalogue could not be read from %1 (%2). Check the address and the network connection and try again, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Firmware-Katalog konnte nicht von %1 gelesen werden (%2). Prüfen Sie die Adresse und die Netzwerkverbindung und versuchen Sie es erneut, oder verwenden Sie die mitgelieferte Firmware.</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 did not arrive within %2 s. Check the network connection and try again, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Firmware-Katalog von %1 ist nicht innerhalb von %2 s eingetroffen. Prüfen Sie die Netzwerkverbindung und versuchen Sie es erneut, oder verwenden Sie die mitgelieferte Firmware.</translation>
     </message>
     <message>
         <source>%1 is larger than a firmware catalogue can be (%2 bytes), so it was not read. Check the catalogue&apos;s address.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist größer, als ein Firmware-Katalog sein kann (%2 Bytes), und wurde daher nicht gelesen. Prüfen Sie die Adresse des Katalogs.</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 does not carry a valid signature of this updater&apos;s publisher, so it was not used. Ask its publisher for a signed catalogue, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Firmware-Katalog unter %1 trägt keine gültige Signatur des Herausgebers dieses Programms und wurde daher nicht verwendet. Bitten Sie seinen Herausgeber um einen signierten Katalog oder verwenden Sie die mitgelieferte Firmware.</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 cannot be used: %2. Ask its publisher to correct it, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Firmware-Katalog unter %1 kann nicht verwendet werden: %2. Bitten Sie seinen Herausgeber, ihn zu korrigieren, oder verwenden Sie die mitgelieferte Firmware.</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 was published %2, before the one already seen (%3), so it was not used: an old catalogue could bring back a withdrawn version. Use the current catalogue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Firmware-Katalog unter %1 wurde am %2 veröffentlicht, also vor dem bereits bekannten (%3), und wurde daher nicht verwendet: Ein alter Katalog könnte eine zurückgezogene Version zurückbringen. Verwenden Sie den aktuellen Katalog.</translation>
     </message>
     <message>
         <source>Offline: the firmware catalogue published %1, as last seen, is shown. Connect to the network to see newer versions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Offline: Angezeigt wird der zuletzt abgerufene Firmware-Katalog, veröffentlicht am %1. Stellen Sie eine Netzwerkverbindung her, um neuere Versionen zu sehen.</translation>
     </message>
     <message>
         <source>it is not JSON (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>er ist kein JSON (%1)</translation>
     </message>
     <message>
         <source>schema %1 is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>Schema %1 wird nicht unterstützt</translation>
     </message>
     <message>
         <source>%1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fehlt</translation>
     </message>
     <message>
         <source>%1 is not a field of a catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein Feld eines Katalogs</translation>
     </message>
     <message>
         <source>%1 is not valid</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist ungültig</translation>
     </message>
     <message>
         <source>firmware %1 is listed twice</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware %1 ist doppelt aufgeführt</translation>
     </message>
     <message>
         <source>Firmware %1 is not in the firmware catalogue. Choose one of the versions it lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware %1 ist nicht im Firmware-Katalog enthalten. Wählen Sie eine der dort aufgeführten Versionen.</translation>
     </message>
     <message>
         <source>Firmware %1 was withdrawn by its publisher and is not installed. Choose another version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware %1 wurde von ihrem Herausgeber zurückgezogen und wird nicht installiert. Wählen Sie eine andere Version.</translation>
     </message>
     <message>
         <source>The image of firmware %1 could not be read from %2 (%3). Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Abbild der Firmware %1 konnte nicht von %2 gelesen werden (%3). Prüfen Sie die Netzwerkverbindung und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The download of firmware %1 stopped: nothing arrived for %2 s. Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Herunterladen der Firmware %1 ist stehen geblieben: %2 s lang kam nichts an. Prüfen Sie die Netzwerkverbindung und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The image of firmware %1 is larger than the %2 bytes the catalogue declares, so it was not used. Choose another version, or try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Abbild der Firmware %1 ist größer als die %2 Bytes, die der Katalog angibt, und wurde daher nicht verwendet. Wählen Sie eine andere Version oder versuchen Sie es später erneut.</translation>
     </message>
     <message>
         <source>The image of firmware %1 ended after %2 of its %3 bytes. Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Abbild der Firmware %1 brach nach %2 von %3 Bytes ab. Prüfen Sie die Netzwerkverbindung und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The image of firmware %1 does not match the SHA-256 the catalogue declares, so it was not used. Choose another version, or try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Abbild der Firmware %1 stimmt nicht mit der SHA-256-Prüfsumme überein, die der Katalog angibt, und wurde daher nicht verwendet. Wählen Sie eine andere Version oder versuchen Sie es später erneut.</translation>
     </message>
 </context>
 <context>
@@ -1022,314 +1022,319 @@
     <name>ReleaseTexts</name>
     <message>
         <source>No firmware catalogue is configured. Choose one with File &gt; Firmware Catalogue…, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Firmware-Katalog eingerichtet. Wählen Sie einen über Datei &gt; Firmware-Katalog… oder verwenden Sie die mitgelieferte Firmware.</translation>
     </message>
     <message>
         <source>No firmware catalogue is configured. Name one with --catalogue URL|FILE|FOLDER, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Firmware-Katalog eingerichtet. Geben Sie einen mit --catalogue URL|FILE|FOLDER an oder verwenden Sie die mitgelieferte Firmware.</translation>
     </message>
     <message>
         <source>Fetching firmware %1 from the catalogue at %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware %1 wird aus dem Katalog unter %2 geholt…</translation>
     </message>
     <message>
         <source>Downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen</translation>
     </message>
     <message>
         <source>Updating firmware %1 from the catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware wird aus dem Katalog auf %1 aktualisiert…</translation>
     </message>
     <message>
         <source>Firmware %1 is older than the firmware %2 this machine runs, so nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware %1 ist älter als die Firmware %2, mit der diese Maschine läuft; daher wurde nichts geschrieben.</translation>
     </message>
     <message>
         <source>Firmware %1 is older than the firmware %2 this machine runs, so nothing was written. Add --allow-older to install it anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware %1 ist älter als die Firmware %2, mit der diese Maschine läuft; daher wurde nichts geschrieben. Fügen Sie --allow-older hinzu, um sie trotzdem zu installieren.</translation>
     </message>
     <message>
         <source>bundled</source>
-        <translation type="unfinished"></translation>
+        <translation>mitgeliefert</translation>
     </message>
     <message>
         <source>catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Katalog</translation>
     </message>
     <message>
         <source>stable</source>
-        <translation type="unfinished"></translation>
+        <translation>stabil</translation>
     </message>
     <message>
         <source>beta</source>
-        <translation type="unfinished"></translation>
+        <translation>Beta</translation>
     </message>
     <message>
         <source>1 firmware version can be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Firmware-Version kann installiert werden.</translation>
     </message>
     <message>
         <source>%1 firmware versions can be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Firmware-Versionen können installiert werden.</translation>
     </message>
     <message>
         <source>Firmware &amp;Catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware-&amp;Katalog…</translation>
     </message>
     <message>
         <source>Choose Firmware &amp;Version…</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware-&amp;Version wählen…</translation>
     </message>
     <message>
         <source>Firmware version %1 from the catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware-Version %1 aus dem Katalog</translation>
     </message>
     <message>
         <source>Firmware %1 is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware %1 ist verfügbar</translation>
     </message>
     <message>
         <source>Firmware Catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware-Katalog</translation>
     </message>
     <message>
         <source>Where the firmware catalogue is: an http:// or https:// address, a catalogue.json file, or a folder that holds one (for instance on a USB stick).</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo der Firmware-Katalog liegt: eine http://- oder https://-Adresse, eine catalogue.json-Datei oder ein Ordner, der eine solche Datei enthält (zum Beispiel auf einem USB-Stick).</translation>
     </message>
     <message>
         <source>Choose &amp;File…</source>
-        <translation type="unfinished">&amp;Datei wählen…</translation>
+        <translation>&amp;Datei wählen…</translation>
     </message>
     <message>
         <source>Choose F&amp;older…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner wählen…</translation>
     </message>
     <message>
         <source>Firmware catalogue: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware-Katalog: %1</translation>
     </message>
     <message>
         <source>Choose Firmware Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware-Version wählen</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanal</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweise</translation>
     </message>
     <message>
         <source>Show &amp;beta versions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beta-Versionen anzeigen</translation>
     </message>
     <message>
         <source>&amp;Use This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese &amp;Version verwenden</translation>
     </message>
     <message>
         <source>ran on this machine</source>
-        <translation type="unfinished"></translation>
+        <translation>lief auf dieser Maschine</translation>
     </message>
     <message>
         <source>Reading the firmware catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware-Katalog wird gelesen…</translation>
     </message>
     <message>
         <source>No firmware catalogue is configured: only the bundled firmware is listed. Choose a catalogue with File &gt; Firmware Catalogue….</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Firmware-Katalog eingerichtet: Nur die mitgelieferte Firmware wird aufgeführt. Wählen Sie einen Katalog über Datei &gt; Firmware-Katalog….</translation>
     </message>
     <message>
         <source>Firmware %1 from the catalogue will be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware %1 aus dem Katalog wird geschrieben.</translation>
     </message>
     <message>
         <source>Install an Older Version?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ältere Version installieren?</translation>
     </message>
     <message>
         <source>This machine runs firmware %1. Install the older firmware %2 in its place?</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dieser Maschine läuft Firmware %1. Stattdessen die ältere Firmware %2 installieren?</translation>
     </message>
     <message>
         <source>&amp;Install Older Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Ältere Version &amp;installieren</translation>
     </message>
 </context>
 <context>
     <name>SnapshotTexts</name>
     <message>
         <source>Taking a snapshot of the whole machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>Komplettsicherung der Maschine wird erstellt…</translation>
     </message>
     <message>
         <source>Snapshot of the whole machine saved to %1 (%2 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>Komplettsicherung der Maschine gespeichert unter %1 (%2 Bytes).</translation>
     </message>
     <message>
         <source>the machine&apos;s flash holds nothing worth keeping (no bootloader and no partition table)</source>
-        <translation type="unfinished"></translation>
+        <translation>der Flash der Maschine enthält nichts, was sich aufzubewahren lohnt (kein Bootloader und keine Partitionstabelle)</translation>
     </message>
     <message>
         <source>No snapshot of the whole machine could be taken: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es konnte keine Komplettsicherung der Maschine erstellt werden: %1</translation>
     </message>
     <message>
         <source>the flasher stub refused to read the flash</source>
-        <translation type="unfinished"></translation>
+        <translation>der Flash-Stub hat das Lesen des Flashs verweigert</translation>
     </message>
     <message>
         <source>the machine sent nothing for 5 s while its flash was read</source>
-        <translation type="unfinished"></translation>
+        <translation>die Maschine hat beim Lesen ihres Flashs 5 s lang nichts gesendet</translation>
     </message>
     <message>
         <source>what the machine sent of its flash arrived damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>die Flash-Daten, die die Maschine gesendet hat, kamen beschädigt an</translation>
     </message>
     <message>
         <source>the MD5 the machine computed differs from that of the bytes received</source>
-        <translation type="unfinished"></translation>
+        <translation>die von der Maschine berechnete MD5-Prüfsumme weicht von der der empfangenen Bytes ab</translation>
     </message>
     <message>
         <source>the snapshot could not be written on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>die Komplettsicherung konnte auf diesem Computer nicht geschrieben werden</translation>
     </message>
     <message>
         <source>the flash could not be read (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>der Flash konnte nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>the full stop that ends a sentence</comment>
+        <translation>.</translation>
     </message>
     <message>
         <source>%1 Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Es wurde nichts geschrieben.</translation>
     </message>
     <message>
         <source>The machine was left as it was. Check the USB cable and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Maschine wurde nicht verändert. Prüfen Sie das USB-Kabel und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>No snapshot is needed: the machine&apos;s flash holds nothing worth keeping.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Komplettsicherung nötig: Der Flash der Maschine enthält nichts, was sich aufzubewahren lohnt.</translation>
     </message>
     <message>
         <source>Whole machine backed up</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamte Maschine gesichert</translation>
     </message>
     <message>
         <source>application</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwendung</translation>
     </message>
     <message>
         <source>data</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten</translation>
     </message>
     <message>
         <source>Putting back the snapshot of the whole machine from %1 (%2)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Komplettsicherung der Maschine vom %1 (%2) wird zurückgespielt…</translation>
     </message>
     <message>
         <source>%1 cannot be used: %2</source>
-        <translation type="unfinished">%1 kann nicht verwendet werden: %2</translation>
+        <translation>%1 kann nicht verwendet werden: %2</translation>
     </message>
     <message>
         <source>Could not read the snapshot %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Komplettsicherung %1 konnte nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>No snapshot of the machine %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Komplettsicherung der Maschine %1 in %2</translation>
     </message>
     <message>
         <source>No snapshot %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Komplettsicherung %1 in %2</translation>
     </message>
     <message>
         <source>This snapshot was taken of the machine %1, not of %2; it carries that machine&apos;s settings and network credentials. Add --other-machine to put it on %2 anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Komplettsicherung stammt von der Maschine %1, nicht von %2; sie enthält die Einstellungen und Netzwerk-Zugangsdaten jener Maschine. Fügen Sie --other-machine hinzu, um sie trotzdem auf %2 zurückzuspielen.</translation>
     </message>
     <message>
         <source>This snapshot was taken of the machine %1. It carries that machine&apos;s settings and network credentials. Put it on this machine (%2) anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Komplettsicherung stammt von der Maschine %1. Sie enthält die Einstellungen und Netzwerk-Zugangsdaten jener Maschine. Trotzdem auf diese Maschine (%2) zurückspielen?</translation>
     </message>
     <message>
         <source>&amp;Restore Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trotzdem wiederherstellen</translation>
     </message>
     <message>
         <source>Machine put back as it was on %1: it runs firmware %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stand der Maschine vom %1 wiederhergestellt: Sie läuft mit Firmware %2.</translation>
     </message>
     <message>
         <source>Machine put back as it was on %1: it runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stand der Maschine vom %1 wiederhergestellt: Sie läuft.</translation>
     </message>
     <message>
         <source>Press Undo Update to put the machine back as it was before the update, or Repair… to erase it and install the firmware again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken Sie „Aktualisierung rückgängig machen“, um den Stand der Maschine vor der Aktualisierung wiederherzustellen, oder „Reparieren…“, um sie zu löschen und die Firmware neu zu installieren.</translation>
     </message>
     <message>
         <source>To put the machine back as it was before the update, run: teskal-flash restore-machine %1</source>
-        <translation type="unfinished"></translation>
+        <translation>So stellen Sie den Stand der Maschine vor der Aktualisierung wieder her: teskal-flash restore-machine %1</translation>
     </message>
     <message>
         <source>The machine was put back as it was before the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Stand der Maschine vor der Aktualisierung wurde wiederhergestellt.</translation>
     </message>
     <message>
         <source>Putting the machine back as it was before the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Stand der Maschine vor der Aktualisierung wird wiederhergestellt…</translation>
     </message>
     <message>
         <source>The machine could not be put back: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der frühere Stand der Maschine konnte nicht wiederhergestellt werden: %1</translation>
     </message>
     <message>
         <source>Back Up &amp;Whole Machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gesamte Maschine sichern…</translation>
     </message>
     <message>
         <source>Restore W&amp;hole Machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamte Maschine wieder&amp;herstellen…</translation>
     </message>
     <message>
         <source>&amp;Snapshot Before Writing</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Komplettsicherung vor dem Schreiben</translation>
     </message>
     <message>
-        <source>&amp;Undo Update</source>
-        <translation type="unfinished"></translation>
+        <source>Undo Update</source>
+        <translation>Aktualisierung rückgängig machen</translation>
     </message>
     <message>
         <source>Take a &amp;snapshot of the whole machine first</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst eine &amp;Komplettsicherung der Maschine erstellen</translation>
     </message>
     <message>
         <source>Restore Whole Machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamte Maschine wiederherstellen</translation>
     </message>
     <message>
         <source>Ran</source>
-        <translation type="unfinished"></translation>
+        <translation>Lief</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Every snapshot of a whole machine is kept in %1. The connected machine&apos;s are on top, newest first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Komplettsicherung einer Maschine wird in %1 aufbewahrt. Die der angeschlossenen Maschine stehen oben, die neueste zuerst.</translation>
     </message>
     <message>
         <source>No snapshot has been taken yet. Config &gt; Back Up Whole Machine… takes one, and so does every firmware write with Options &gt; Snapshot Before Writing; they are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde noch keine Komplettsicherung erstellt. Konfiguration &gt; Gesamte Maschine sichern… erstellt eine, ebenso jedes Schreiben der Firmware mit Optionen &gt; Komplettsicherung vor dem Schreiben; sie werden in %1 aufbewahrt.</translation>
     </message>
 </context>
 <context>

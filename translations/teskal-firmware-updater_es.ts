@@ -300,114 +300,114 @@
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia completa</translation>
     </message>
     <message>
         <source>Before update</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes de actualizar</translation>
     </message>
     <message>
         <source>Before repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes de reparar</translation>
     </message>
 </context>
 <context>
     <name>CatalogueTexts</name>
     <message>
         <source>&quot;%1&quot; is not a firmware catalogue: give an http:// or https:// address, a catalogue.json file or a folder that holds one.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un catálogo de firmware: indique una dirección http:// o https://, un archivo catalogue.json o una carpeta que lo contenga.</translation>
     </message>
     <message>
         <source>The catalogue key %1 is missing, so no firmware catalogue can be checked. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta la clave del catálogo %1, así que no se puede comprobar ningún catálogo de firmware. Vuelva a instalar el programa de actualización o use el firmware incluido.</translation>
     </message>
     <message>
         <source>The catalogue key %1 is not an Ed25519 public key, so no firmware catalogue can be checked. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>La clave del catálogo %1 no es una clave pública Ed25519, así que no se puede comprobar ningún catálogo de firmware. Vuelva a instalar el programa de actualización o use el firmware incluido.</translation>
     </message>
     <message>
         <source>The catalogue key %1 is the development key, which only the simulated plotter trusts. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>La clave del catálogo %1 es la clave de desarrollo, en la que solo confía el plóter simulado. Vuelva a instalar el programa de actualización o use el firmware incluido.</translation>
     </message>
     <message>
         <source>The firmware catalogue could not be read from %1 (%2). Check the address and the network connection and try again, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo leer el catálogo de firmware desde %1 (%2). Compruebe la dirección y la conexión de red e inténtelo de nuevo, o use el firmware incluido.</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 did not arrive within %2 s. Check the network connection and try again, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>El catálogo de firmware de %1 no llegó en un plazo de %2 s. Compruebe la conexión de red e inténtelo de nuevo, o use el firmware incluido.</translation>
     </message>
     <message>
         <source>%1 is larger than a firmware catalogue can be (%2 bytes), so it was not read. Check the catalogue&apos;s address.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es más grande de lo que puede ser un catálogo de firmware (%2 bytes), así que no se leyó. Compruebe la dirección del catálogo.</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 does not carry a valid signature of this updater&apos;s publisher, so it was not used. Ask its publisher for a signed catalogue, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>El catálogo de firmware de %1 no lleva una firma válida del editor de este programa, así que no se usó. Pida a su editor un catálogo firmado o use el firmware incluido.</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 cannot be used: %2. Ask its publisher to correct it, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>El catálogo de firmware de %1 no se puede usar: %2. Pida a su editor que lo corrija o use el firmware incluido.</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 was published %2, before the one already seen (%3), so it was not used: an old catalogue could bring back a withdrawn version. Use the current catalogue.</source>
-        <translation type="unfinished"></translation>
+        <translation>El catálogo de firmware de %1 se publicó el %2, antes que el ya visto (%3), así que no se usó: un catálogo antiguo podría traer de vuelta una versión retirada. Use el catálogo actual.</translation>
     </message>
     <message>
         <source>Offline: the firmware catalogue published %1, as last seen, is shown. Connect to the network to see newer versions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin conexión: se muestra el último catálogo de firmware recibido, publicado el %1. Conéctese a la red para ver versiones más recientes.</translation>
     </message>
     <message>
         <source>it is not JSON (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>no es JSON (%1)</translation>
     </message>
     <message>
         <source>schema %1 is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>el esquema %1 no es compatible</translation>
     </message>
     <message>
         <source>%1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta %1</translation>
     </message>
     <message>
         <source>%1 is not a field of a catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es un campo de un catálogo</translation>
     </message>
     <message>
         <source>%1 is not valid</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es válido</translation>
     </message>
     <message>
         <source>firmware %1 is listed twice</source>
-        <translation type="unfinished"></translation>
+        <translation>el firmware %1 aparece dos veces</translation>
     </message>
     <message>
         <source>Firmware %1 is not in the firmware catalogue. Choose one of the versions it lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>El firmware %1 no está en el catálogo de firmware. Elija una de las versiones que incluye.</translation>
     </message>
     <message>
         <source>Firmware %1 was withdrawn by its publisher and is not installed. Choose another version.</source>
-        <translation type="unfinished"></translation>
+        <translation>El firmware %1 fue retirado por su editor y no se instala. Elija otra versión.</translation>
     </message>
     <message>
         <source>The image of firmware %1 could not be read from %2 (%3). Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo leer la imagen del firmware %1 desde %2 (%3). Compruebe la conexión de red e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>The download of firmware %1 stopped: nothing arrived for %2 s. Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descarga del firmware %1 se detuvo: no llegó nada durante %2 s. Compruebe la conexión de red e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>The image of firmware %1 is larger than the %2 bytes the catalogue declares, so it was not used. Choose another version, or try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen del firmware %1 supera los %2 bytes que indica el catálogo, así que no se usó. Elija otra versión o inténtelo de nuevo más tarde.</translation>
     </message>
     <message>
         <source>The image of firmware %1 ended after %2 of its %3 bytes. Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen del firmware %1 se cortó tras %2 de sus %3 bytes. Compruebe la conexión de red e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>The image of firmware %1 does not match the SHA-256 the catalogue declares, so it was not used. Choose another version, or try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen del firmware %1 no coincide con el SHA-256 que indica el catálogo, así que no se usó. Elija otra versión o inténtelo de nuevo más tarde.</translation>
     </message>
 </context>
 <context>
@@ -1022,314 +1022,319 @@
     <name>ReleaseTexts</name>
     <message>
         <source>No firmware catalogue is configured. Choose one with File &gt; Firmware Catalogue…, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún catálogo de firmware configurado. Elija uno en Archivo &gt; Catálogo de firmware… o use el firmware incluido.</translation>
     </message>
     <message>
         <source>No firmware catalogue is configured. Name one with --catalogue URL|FILE|FOLDER, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún catálogo de firmware configurado. Indique uno con --catalogue URL|FILE|FOLDER o use el firmware incluido.</translation>
     </message>
     <message>
         <source>Fetching firmware %1 from the catalogue at %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>Obteniendo el firmware %1 del catálogo de %2…</translation>
     </message>
     <message>
         <source>Downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando</translation>
     </message>
     <message>
         <source>Updating firmware %1 from the catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizando el firmware a %1 desde el catálogo…</translation>
     </message>
     <message>
         <source>Firmware %1 is older than the firmware %2 this machine runs, so nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>El firmware %1 es más antiguo que el firmware %2 con el que funciona esta máquina, así que no se escribió nada.</translation>
     </message>
     <message>
         <source>Firmware %1 is older than the firmware %2 this machine runs, so nothing was written. Add --allow-older to install it anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>El firmware %1 es más antiguo que el firmware %2 con el que funciona esta máquina, así que no se escribió nada. Añada --allow-older para instalarlo de todos modos.</translation>
     </message>
     <message>
         <source>bundled</source>
-        <translation type="unfinished"></translation>
+        <translation>incluido</translation>
     </message>
     <message>
         <source>catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>catálogo</translation>
     </message>
     <message>
         <source>stable</source>
-        <translation type="unfinished"></translation>
+        <translation>estable</translation>
     </message>
     <message>
         <source>beta</source>
-        <translation type="unfinished"></translation>
+        <translation>beta</translation>
     </message>
     <message>
         <source>1 firmware version can be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se puede instalar 1 versión del firmware.</translation>
     </message>
     <message>
         <source>%1 firmware versions can be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se pueden instalar %1 versiones del firmware.</translation>
     </message>
     <message>
         <source>Firmware &amp;Catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Catálogo de firmware…</translation>
     </message>
     <message>
         <source>Choose Firmware &amp;Version…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir &amp;versión del firmware…</translation>
     </message>
     <message>
         <source>Firmware version %1 from the catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión del firmware %1 del catálogo</translation>
     </message>
     <message>
         <source>Firmware %1 is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware %1 disponible</translation>
     </message>
     <message>
         <source>Firmware Catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Catálogo de firmware</translation>
     </message>
     <message>
         <source>Where the firmware catalogue is: an http:// or https:// address, a catalogue.json file, or a folder that holds one (for instance on a USB stick).</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde está el catálogo de firmware: una dirección http:// o https://, un archivo catalogue.json o una carpeta que lo contenga (por ejemplo, en una memoria USB).</translation>
     </message>
     <message>
         <source>Choose &amp;File…</source>
-        <translation type="unfinished">Elegir &amp;archivo…</translation>
+        <translation>Elegir &amp;archivo…</translation>
     </message>
     <message>
         <source>Choose F&amp;older…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir &amp;carpeta…</translation>
     </message>
     <message>
         <source>Firmware catalogue: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Catálogo de firmware: %1</translation>
     </message>
     <message>
         <source>Choose Firmware Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir versión del firmware</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas</translation>
     </message>
     <message>
         <source>Show &amp;beta versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar versiones &amp;beta</translation>
     </message>
     <message>
         <source>&amp;Use This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usar esta versión</translation>
     </message>
     <message>
         <source>ran on this machine</source>
-        <translation type="unfinished"></translation>
+        <translation>funcionó en esta máquina</translation>
     </message>
     <message>
         <source>Reading the firmware catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo el catálogo de firmware…</translation>
     </message>
     <message>
         <source>No firmware catalogue is configured: only the bundled firmware is listed. Choose a catalogue with File &gt; Firmware Catalogue….</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún catálogo de firmware configurado: solo se muestra el firmware incluido. Elija un catálogo en Archivo &gt; Catálogo de firmware….</translation>
     </message>
     <message>
         <source>Firmware %1 from the catalogue will be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se escribirá el firmware %1 del catálogo.</translation>
     </message>
     <message>
         <source>Install an Older Version?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Instalar una versión anterior?</translation>
     </message>
     <message>
         <source>This machine runs firmware %1. Install the older firmware %2 in its place?</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta máquina funciona con el firmware %1. ¿Instalar en su lugar el firmware anterior %2?</translation>
     </message>
     <message>
         <source>&amp;Install Older Version</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Instalar versión anterior</translation>
     </message>
 </context>
 <context>
     <name>SnapshotTexts</name>
     <message>
         <source>Taking a snapshot of the whole machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>Haciendo una copia completa de la máquina…</translation>
     </message>
     <message>
         <source>Snapshot of the whole machine saved to %1 (%2 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia completa de la máquina guardada en %1 (%2 bytes).</translation>
     </message>
     <message>
         <source>the machine&apos;s flash holds nothing worth keeping (no bootloader and no partition table)</source>
-        <translation type="unfinished"></translation>
+        <translation>la flash de la máquina no contiene nada que merezca la pena conservar (ni cargador de arranque ni tabla de particiones)</translation>
     </message>
     <message>
         <source>No snapshot of the whole machine could be taken: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo hacer una copia completa de la máquina: %1</translation>
     </message>
     <message>
         <source>the flasher stub refused to read the flash</source>
-        <translation type="unfinished"></translation>
+        <translation>el programa de escritura flash se negó a leer la flash</translation>
     </message>
     <message>
         <source>the machine sent nothing for 5 s while its flash was read</source>
-        <translation type="unfinished"></translation>
+        <translation>la máquina no envió nada durante 5 s mientras se leía su flash</translation>
     </message>
     <message>
         <source>what the machine sent of its flash arrived damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que la máquina envió de su flash llegó dañado</translation>
     </message>
     <message>
         <source>the MD5 the machine computed differs from that of the bytes received</source>
-        <translation type="unfinished"></translation>
+        <translation>el MD5 calculado por la máquina no coincide con el de los bytes recibidos</translation>
     </message>
     <message>
         <source>the snapshot could not be written on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pudo escribir la copia completa en este ordenador</translation>
     </message>
     <message>
         <source>the flash could not be read (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pudo leer la flash (%1)</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>the full stop that ends a sentence</comment>
+        <translation>.</translation>
     </message>
     <message>
         <source>%1 Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 No se escribió nada.</translation>
     </message>
     <message>
         <source>The machine was left as it was. Check the USB cable and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La máquina se ha dejado como estaba. Compruebe el cable USB e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>No snapshot is needed: the machine&apos;s flash holds nothing worth keeping.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hace falta una copia completa: la flash de la máquina no contiene nada que merezca la pena conservar.</translation>
     </message>
     <message>
         <source>Whole machine backed up</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia completa de la máquina guardada</translation>
     </message>
     <message>
         <source>application</source>
-        <translation type="unfinished"></translation>
+        <translation>aplicación</translation>
     </message>
     <message>
         <source>data</source>
-        <translation type="unfinished"></translation>
+        <translation>datos</translation>
     </message>
     <message>
         <source>Putting back the snapshot of the whole machine from %1 (%2)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurando la copia completa de la máquina del %1 (%2)…</translation>
     </message>
     <message>
         <source>%1 cannot be used: %2</source>
-        <translation type="unfinished">No se puede usar %1: %2</translation>
+        <translation>No se puede usar %1: %2</translation>
     </message>
     <message>
         <source>Could not read the snapshot %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo leer la copia completa %1: %2</translation>
     </message>
     <message>
         <source>No snapshot of the machine %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna copia completa de la máquina %1 en %2</translation>
     </message>
     <message>
         <source>No snapshot %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna copia completa %1 en %2</translation>
     </message>
     <message>
         <source>This snapshot was taken of the machine %1, not of %2; it carries that machine&apos;s settings and network credentials. Add --other-machine to put it on %2 anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta copia completa se hizo de la máquina %1, no de %2; contiene los ajustes y las credenciales de red de esa máquina. Añada --other-machine para ponerla en %2 de todos modos.</translation>
     </message>
     <message>
         <source>This snapshot was taken of the machine %1. It carries that machine&apos;s settings and network credentials. Put it on this machine (%2) anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta copia completa se hizo de la máquina %1. Contiene los ajustes y las credenciales de red de esa máquina. ¿Ponerla de todos modos en esta máquina (%2)?</translation>
     </message>
     <message>
         <source>&amp;Restore Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restaurar de todos modos</translation>
     </message>
     <message>
         <source>Machine put back as it was on %1: it runs firmware %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Máquina restaurada tal como estaba el %1: funciona con el firmware %2.</translation>
     </message>
     <message>
         <source>Machine put back as it was on %1: it runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Máquina restaurada tal como estaba el %1: funciona.</translation>
     </message>
     <message>
         <source>Press Undo Update to put the machine back as it was before the update, or Repair… to erase it and install the firmware again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulse «Deshacer la actualización» para dejar la máquina como estaba antes de la actualización, o «Reparar…» para borrarla y volver a instalar el firmware.</translation>
     </message>
     <message>
         <source>To put the machine back as it was before the update, run: teskal-flash restore-machine %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Para dejar la máquina como estaba antes de la actualización, ejecute: teskal-flash restore-machine %1</translation>
     </message>
     <message>
         <source>The machine was put back as it was before the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>La máquina ha vuelto a quedar como estaba antes de la actualización.</translation>
     </message>
     <message>
         <source>Putting the machine back as it was before the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Devolviendo la máquina al estado anterior a la actualización…</translation>
     </message>
     <message>
         <source>The machine could not be put back: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo devolver la máquina a su estado anterior: %1</translation>
     </message>
     <message>
         <source>Back Up &amp;Whole Machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hacer una copia completa de la máquina…</translation>
     </message>
     <message>
         <source>Restore W&amp;hole Machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar &amp;toda la máquina…</translation>
     </message>
     <message>
         <source>&amp;Snapshot Before Writing</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia completa antes de &amp;escribir</translation>
     </message>
     <message>
-        <source>&amp;Undo Update</source>
-        <translation type="unfinished"></translation>
+        <source>Undo Update</source>
+        <translation>Deshacer la actualización</translation>
     </message>
     <message>
         <source>Take a &amp;snapshot of the whole machine first</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hacer antes una copia completa de la máquina</translation>
     </message>
     <message>
         <source>Restore Whole Machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar toda la máquina</translation>
     </message>
     <message>
         <source>Ran</source>
-        <translation type="unfinished"></translation>
+        <translation>Funcionaba</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Every snapshot of a whole machine is kept in %1. The connected machine&apos;s are on top, newest first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada copia completa de una máquina se conserva en %1. Las de la máquina conectada aparecen arriba, las más recientes primero.</translation>
     </message>
     <message>
         <source>No snapshot has been taken yet. Config &gt; Back Up Whole Machine… takes one, and so does every firmware write with Options &gt; Snapshot Before Writing; they are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía no se ha hecho ninguna copia completa. Configuración &gt; Hacer una copia completa de la máquina… crea una, igual que cada escritura del firmware con Opciones &gt; Copia completa antes de escribir; se conservan en %1.</translation>
     </message>
 </context>
 <context>

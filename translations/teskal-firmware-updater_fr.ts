@@ -300,114 +300,114 @@
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauvegarde complète</translation>
     </message>
     <message>
         <source>Before update</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant une mise à jour</translation>
     </message>
     <message>
         <source>Before repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant une réparation</translation>
     </message>
 </context>
 <context>
     <name>CatalogueTexts</name>
     <message>
         <source>&quot;%1&quot; is not a firmware catalogue: give an http:// or https:// address, a catalogue.json file or a folder that holds one.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas un catalogue de firmwares&#xa0;: indiquez une adresse http:// ou https://, un fichier catalogue.json ou un dossier qui en contient un.</translation>
     </message>
     <message>
         <source>The catalogue key %1 is missing, so no firmware catalogue can be checked. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>La clé de catalogue %1 est introuvable&#xa0;: aucun catalogue de firmwares ne peut donc être vérifié. Réinstallez le programme de mise à jour, ou utilisez le firmware fourni.</translation>
     </message>
     <message>
         <source>The catalogue key %1 is not an Ed25519 public key, so no firmware catalogue can be checked. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>La clé de catalogue %1 n&apos;est pas une clé publique Ed25519&#xa0;: aucun catalogue de firmwares ne peut donc être vérifié. Réinstallez le programme de mise à jour, ou utilisez le firmware fourni.</translation>
     </message>
     <message>
         <source>The catalogue key %1 is the development key, which only the simulated plotter trusts. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>La clé de catalogue %1 est la clé de développement, à laquelle seul le traceur simulé fait confiance. Réinstallez le programme de mise à jour, ou utilisez le firmware fourni.</translation>
     </message>
     <message>
         <source>The firmware catalogue could not be read from %1 (%2). Check the address and the network connection and try again, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le catalogue de firmwares depuis %1 (%2). Vérifiez l&apos;adresse et la connexion réseau, puis réessayez, ou utilisez le firmware fourni.</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 did not arrive within %2 s. Check the network connection and try again, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le catalogue de firmwares situé à %1 n&apos;est pas arrivé dans un délai de %2 s. Vérifiez la connexion réseau, puis réessayez, ou utilisez le firmware fourni.</translation>
     </message>
     <message>
         <source>%1 is larger than a firmware catalogue can be (%2 bytes), so it was not read. Check the catalogue&apos;s address.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est plus grand qu&apos;un catalogue de firmwares ne peut l&apos;être (%2 octets)&#xa0;: il n&apos;a donc pas été lu. Vérifiez l&apos;adresse du catalogue.</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 does not carry a valid signature of this updater&apos;s publisher, so it was not used. Ask its publisher for a signed catalogue, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le catalogue de firmwares situé à %1 ne porte pas de signature valide de l&apos;éditeur de ce programme&#xa0;: il n&apos;a donc pas été utilisé. Demandez un catalogue signé à son éditeur, ou utilisez le firmware fourni.</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 cannot be used: %2. Ask its publisher to correct it, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le catalogue de firmwares situé à %1 ne peut pas être utilisé&#xa0;: %2. Demandez à son éditeur de le corriger, ou utilisez le firmware fourni.</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 was published %2, before the one already seen (%3), so it was not used: an old catalogue could bring back a withdrawn version. Use the current catalogue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le catalogue de firmwares situé à %1 a été publié le %2, avant celui déjà vu (%3)&#xa0;: il n&apos;a donc pas été utilisé, car un ancien catalogue pourrait faire revenir une version retirée. Utilisez le catalogue actuel.</translation>
     </message>
     <message>
         <source>Offline: the firmware catalogue published %1, as last seen, is shown. Connect to the network to see newer versions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hors ligne&#xa0;: voici le dernier catalogue de firmwares reçu, publié le %1. Connectez-vous au réseau pour voir les versions plus récentes.</translation>
     </message>
     <message>
         <source>it is not JSON (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas du JSON (%1)</translation>
     </message>
     <message>
         <source>schema %1 is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>le schéma %1 n&apos;est pas pris en charge</translation>
     </message>
     <message>
         <source>%1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est absent</translation>
     </message>
     <message>
         <source>%1 is not a field of a catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;est pas un champ de catalogue</translation>
     </message>
     <message>
         <source>%1 is not valid</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;est pas valide</translation>
     </message>
     <message>
         <source>firmware %1 is listed twice</source>
-        <translation type="unfinished"></translation>
+        <translation>le firmware %1 figure deux fois</translation>
     </message>
     <message>
         <source>Firmware %1 is not in the firmware catalogue. Choose one of the versions it lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le firmware %1 ne figure pas dans le catalogue de firmwares. Choisissez l&apos;une des versions qu&apos;il propose.</translation>
     </message>
     <message>
         <source>Firmware %1 was withdrawn by its publisher and is not installed. Choose another version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le firmware %1 a été retiré par son éditeur et n&apos;est pas installé. Choisissez une autre version.</translation>
     </message>
     <message>
         <source>The image of firmware %1 could not be read from %2 (%3). Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire l&apos;image du firmware %1 depuis %2 (%3). Vérifiez la connexion réseau, puis réessayez.</translation>
     </message>
     <message>
         <source>The download of firmware %1 stopped: nothing arrived for %2 s. Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le téléchargement du firmware %1 s&apos;est arrêté&#xa0;: rien n&apos;est arrivé pendant %2 s. Vérifiez la connexion réseau, puis réessayez.</translation>
     </message>
     <message>
         <source>The image of firmware %1 is larger than the %2 bytes the catalogue declares, so it was not used. Choose another version, or try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image du firmware %1 dépasse les %2 octets annoncés par le catalogue&#xa0;: elle n&apos;a donc pas été utilisée. Choisissez une autre version, ou réessayez plus tard.</translation>
     </message>
     <message>
         <source>The image of firmware %1 ended after %2 of its %3 bytes. Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image du firmware %1 s&apos;est interrompue après %2 de ses %3 octets. Vérifiez la connexion réseau, puis réessayez.</translation>
     </message>
     <message>
         <source>The image of firmware %1 does not match the SHA-256 the catalogue declares, so it was not used. Choose another version, or try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image du firmware %1 ne correspond pas à l&apos;empreinte SHA-256 annoncée par le catalogue&#xa0;: elle n&apos;a donc pas été utilisée. Choisissez une autre version, ou réessayez plus tard.</translation>
     </message>
 </context>
 <context>
@@ -1022,314 +1022,319 @@
     <name>ReleaseTexts</name>
     <message>
         <source>No firmware catalogue is configured. Choose one with File &gt; Firmware Catalogue…, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun catalogue de firmwares n&apos;est configuré. Choisissez-en un avec Fichier &gt; Catalogue de firmwares…, ou utilisez le firmware fourni.</translation>
     </message>
     <message>
         <source>No firmware catalogue is configured. Name one with --catalogue URL|FILE|FOLDER, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun catalogue de firmwares n&apos;est configuré. Indiquez-en un avec --catalogue URL|FILE|FOLDER, ou utilisez le firmware fourni.</translation>
     </message>
     <message>
         <source>Fetching firmware %1 from the catalogue at %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupération du firmware %1 depuis le catalogue situé à %2…</translation>
     </message>
     <message>
         <source>Downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement</translation>
     </message>
     <message>
         <source>Updating firmware %1 from the catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise à jour du firmware %1 depuis le catalogue…</translation>
     </message>
     <message>
         <source>Firmware %1 is older than the firmware %2 this machine runs, so nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le firmware %1 est plus ancien que le firmware %2 avec lequel fonctionne cette machine&#xa0;: rien n&apos;a donc été écrit.</translation>
     </message>
     <message>
         <source>Firmware %1 is older than the firmware %2 this machine runs, so nothing was written. Add --allow-older to install it anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le firmware %1 est plus ancien que le firmware %2 avec lequel fonctionne cette machine&#xa0;: rien n&apos;a donc été écrit. Ajoutez --allow-older pour l&apos;installer quand même.</translation>
     </message>
     <message>
         <source>bundled</source>
-        <translation type="unfinished"></translation>
+        <translation>fourni</translation>
     </message>
     <message>
         <source>catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>catalogue</translation>
     </message>
     <message>
         <source>stable</source>
-        <translation type="unfinished"></translation>
+        <translation>stable</translation>
     </message>
     <message>
         <source>beta</source>
-        <translation type="unfinished"></translation>
+        <translation>bêta</translation>
     </message>
     <message>
         <source>1 firmware version can be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 version du firmware peut être installée.</translation>
     </message>
     <message>
         <source>%1 firmware versions can be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 versions du firmware peuvent être installées.</translation>
     </message>
     <message>
         <source>Firmware &amp;Catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Catalogue de firmwares…</translation>
     </message>
     <message>
         <source>Choose Firmware &amp;Version…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la &amp;version du firmware…</translation>
     </message>
     <message>
         <source>Firmware version %1 from the catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Version du firmware %1, issue du catalogue</translation>
     </message>
     <message>
         <source>Firmware %1 is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Le firmware %1 est disponible</translation>
     </message>
     <message>
         <source>Firmware Catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>Catalogue de firmwares</translation>
     </message>
     <message>
         <source>Where the firmware catalogue is: an http:// or https:// address, a catalogue.json file, or a folder that holds one (for instance on a USB stick).</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement du catalogue de firmwares&#xa0;: une adresse http:// ou https://, un fichier catalogue.json, ou un dossier qui en contient un (par exemple sur une clé USB).</translation>
     </message>
     <message>
         <source>Choose &amp;File…</source>
-        <translation type="unfinished">Choisir un &amp;fichier…</translation>
+        <translation>Choisir un &amp;fichier…</translation>
     </message>
     <message>
         <source>Choose F&amp;older…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un &amp;dossier…</translation>
     </message>
     <message>
         <source>Firmware catalogue: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Catalogue de firmwares&#xa0;: %1</translation>
     </message>
     <message>
         <source>Choose Firmware Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la version du firmware</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes</translation>
     </message>
     <message>
         <source>Show &amp;beta versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les versions &amp;bêta</translation>
     </message>
     <message>
         <source>&amp;Use This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Utiliser cette version</translation>
     </message>
     <message>
         <source>ran on this machine</source>
-        <translation type="unfinished"></translation>
+        <translation>a fonctionné sur cette machine</translation>
     </message>
     <message>
         <source>Reading the firmware catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture du catalogue de firmwares…</translation>
     </message>
     <message>
         <source>No firmware catalogue is configured: only the bundled firmware is listed. Choose a catalogue with File &gt; Firmware Catalogue….</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun catalogue de firmwares n&apos;est configuré&#xa0;: seul le firmware fourni est proposé. Choisissez un catalogue avec Fichier &gt; Catalogue de firmwares….</translation>
     </message>
     <message>
         <source>Firmware %1 from the catalogue will be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le firmware %1 du catalogue sera écrit.</translation>
     </message>
     <message>
         <source>Install an Older Version?</source>
-        <translation type="unfinished"></translation>
+        <translation>Installer une version plus ancienne&#xa0;?</translation>
     </message>
     <message>
         <source>This machine runs firmware %1. Install the older firmware %2 in its place?</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette machine fonctionne avec le firmware %1. Installer à sa place le firmware plus ancien %2&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Install Older Version</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Installer la version plus ancienne</translation>
     </message>
 </context>
 <context>
     <name>SnapshotTexts</name>
     <message>
         <source>Taking a snapshot of the whole machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauvegarde complète de la machine en cours…</translation>
     </message>
     <message>
         <source>Snapshot of the whole machine saved to %1 (%2 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauvegarde complète de la machine enregistrée dans %1 (%2 octets).</translation>
     </message>
     <message>
         <source>the machine&apos;s flash holds nothing worth keeping (no bootloader and no partition table)</source>
-        <translation type="unfinished"></translation>
+        <translation>la mémoire flash de la machine ne contient rien qui vaille la peine d&apos;être conservé (ni chargeur de démarrage ni table de partitions)</translation>
     </message>
     <message>
         <source>No snapshot of the whole machine could be taken: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune sauvegarde complète de la machine n&apos;a pu être faite&#xa0;: %1</translation>
     </message>
     <message>
         <source>the flasher stub refused to read the flash</source>
-        <translation type="unfinished"></translation>
+        <translation>le programme d&apos;écriture flash (stub) a refusé de lire la mémoire flash</translation>
     </message>
     <message>
         <source>the machine sent nothing for 5 s while its flash was read</source>
-        <translation type="unfinished"></translation>
+        <translation>la machine n&apos;a rien envoyé pendant 5 s lors de la lecture de sa mémoire flash</translation>
     </message>
     <message>
         <source>what the machine sent of its flash arrived damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>les données de mémoire flash envoyées par la machine sont arrivées endommagées</translation>
     </message>
     <message>
         <source>the MD5 the machine computed differs from that of the bytes received</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;empreinte MD5 calculée par la machine diffère de celle des octets reçus</translation>
     </message>
     <message>
         <source>the snapshot could not be written on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>la sauvegarde complète n&apos;a pas pu être écrite sur cet ordinateur</translation>
     </message>
     <message>
         <source>the flash could not be read (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>la mémoire flash n&apos;a pas pu être lue (%1)</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>the full stop that ends a sentence</comment>
+        <translation>.</translation>
     </message>
     <message>
         <source>%1 Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Rien n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>The machine was left as it was. Check the USB cable and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La machine a été laissée telle quelle. Vérifiez le câble USB, puis réessayez.</translation>
     </message>
     <message>
         <source>No snapshot is needed: the machine&apos;s flash holds nothing worth keeping.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune sauvegarde complète n&apos;est nécessaire&#xa0;: la mémoire flash de la machine ne contient rien qui vaille la peine d&apos;être conservé.</translation>
     </message>
     <message>
         <source>Whole machine backed up</source>
-        <translation type="unfinished"></translation>
+        <translation>Machine entière sauvegardée</translation>
     </message>
     <message>
         <source>application</source>
-        <translation type="unfinished"></translation>
+        <translation>application</translation>
     </message>
     <message>
         <source>data</source>
-        <translation type="unfinished"></translation>
+        <translation>données</translation>
     </message>
     <message>
         <source>Putting back the snapshot of the whole machine from %1 (%2)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Remise en place de la sauvegarde complète de la machine du %1 (%2)…</translation>
     </message>
     <message>
         <source>%1 cannot be used: %2</source>
-        <translation type="unfinished">%1 ne peut pas être utilisé&#xa0;: %2</translation>
+        <translation>%1 ne peut pas être utilisé&#xa0;: %2</translation>
     </message>
     <message>
         <source>Could not read the snapshot %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire la sauvegarde complète %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>No snapshot of the machine %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune sauvegarde complète de la machine %1 dans %2</translation>
     </message>
     <message>
         <source>No snapshot %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune sauvegarde complète %1 dans %2</translation>
     </message>
     <message>
         <source>This snapshot was taken of the machine %1, not of %2; it carries that machine&apos;s settings and network credentials. Add --other-machine to put it on %2 anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette sauvegarde complète a été faite sur la machine %1, pas sur %2&#xa0;; elle contient les réglages et les identifiants réseau de cette machine-là. Ajoutez --other-machine pour la mettre quand même sur %2.</translation>
     </message>
     <message>
         <source>This snapshot was taken of the machine %1. It carries that machine&apos;s settings and network credentials. Put it on this machine (%2) anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette sauvegarde complète a été faite sur la machine %1. Elle contient les réglages et les identifiants réseau de cette machine-là. La mettre quand même sur cette machine (%2)&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Restore Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restaurer quand même</translation>
     </message>
     <message>
         <source>Machine put back as it was on %1: it runs firmware %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Machine remise dans l&apos;état où elle était le %1&#xa0;: elle fonctionne avec le firmware %2.</translation>
     </message>
     <message>
         <source>Machine put back as it was on %1: it runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Machine remise dans l&apos;état où elle était le %1&#xa0;: elle fonctionne.</translation>
     </message>
     <message>
         <source>Press Undo Update to put the machine back as it was before the update, or Repair… to erase it and install the firmware again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez sur «&#xa0;Annuler la mise à jour&#xa0;» pour remettre la machine dans l&apos;état où elle était avant la mise à jour, ou sur «&#xa0;Réparer…&#xa0;» pour l&apos;effacer et réinstaller le firmware.</translation>
     </message>
     <message>
         <source>To put the machine back as it was before the update, run: teskal-flash restore-machine %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour remettre la machine dans l&apos;état où elle était avant la mise à jour, lancez&#xa0;: teskal-flash restore-machine %1</translation>
     </message>
     <message>
         <source>The machine was put back as it was before the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>La machine a été remise dans l&apos;état où elle était avant la mise à jour.</translation>
     </message>
     <message>
         <source>Putting the machine back as it was before the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>Remise de la machine dans l&apos;état où elle était avant la mise à jour…</translation>
     </message>
     <message>
         <source>The machine could not be put back: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La machine n&apos;a pas pu être remise dans son état précédent&#xa0;: %1</translation>
     </message>
     <message>
         <source>Back Up &amp;Whole Machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sauvegarder toute la machine…</translation>
     </message>
     <message>
         <source>Restore W&amp;hole Machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurer &amp;toute la machine…</translation>
     </message>
     <message>
         <source>&amp;Snapshot Before Writing</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauvegarde &amp;complète avant l&apos;écriture</translation>
     </message>
     <message>
-        <source>&amp;Undo Update</source>
-        <translation type="unfinished"></translation>
+        <source>Undo Update</source>
+        <translation>Annuler la mise à jour</translation>
     </message>
     <message>
         <source>Take a &amp;snapshot of the whole machine first</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire d&apos;abord une &amp;sauvegarde complète de la machine</translation>
     </message>
     <message>
         <source>Restore Whole Machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurer toute la machine</translation>
     </message>
     <message>
         <source>Ran</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonctionnait</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>Every snapshot of a whole machine is kept in %1. The connected machine&apos;s are on top, newest first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque sauvegarde complète d&apos;une machine est conservée dans %1. Celles de la machine connectée sont en haut, les plus récentes d&apos;abord.</translation>
     </message>
     <message>
         <source>No snapshot has been taken yet. Config &gt; Back Up Whole Machine… takes one, and so does every firmware write with Options &gt; Snapshot Before Writing; they are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune sauvegarde complète n&apos;a encore été faite. Configuration &gt; Sauvegarder toute la machine… en fait une, tout comme chaque écriture du firmware avec Options &gt; Sauvegarde complète avant l&apos;écriture&#xa0;; elles sont conservées dans %1.</translation>
     </message>
 </context>
 <context>

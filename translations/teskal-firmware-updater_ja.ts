@@ -300,114 +300,114 @@
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショット</translation>
     </message>
     <message>
         <source>Before update</source>
-        <translation type="unfinished"></translation>
+        <translation>更新前</translation>
     </message>
     <message>
         <source>Before repair</source>
-        <translation type="unfinished"></translation>
+        <translation>修復前</translation>
     </message>
 </context>
 <context>
     <name>CatalogueTexts</name>
     <message>
         <source>&quot;%1&quot; is not a firmware catalogue: give an http:// or https:// address, a catalogue.json file or a folder that holds one.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はファームウェアカタログではありません: http:// または https:// のアドレス、catalogue.json ファイル、またはそれを含むフォルダーを指定してください。</translation>
     </message>
     <message>
         <source>The catalogue key %1 is missing, so no firmware catalogue can be checked. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>カタログの鍵 %1 が見つからないため、ファームウェアカタログを検証できません。アップデーターを再インストールするか、同梱のファームウェアを使用してください。</translation>
     </message>
     <message>
         <source>The catalogue key %1 is not an Ed25519 public key, so no firmware catalogue can be checked. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>カタログの鍵 %1 は Ed25519 の公開鍵ではないため、ファームウェアカタログを検証できません。アップデーターを再インストールするか、同梱のファームウェアを使用してください。</translation>
     </message>
     <message>
         <source>The catalogue key %1 is the development key, which only the simulated plotter trusts. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>カタログの鍵 %1 は開発用の鍵で、シミュレーションのプロッターでしか信頼されません。アップデーターを再インストールするか、同梱のファームウェアを使用してください。</translation>
     </message>
     <message>
         <source>The firmware catalogue could not be read from %1 (%2). Check the address and the network connection and try again, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 からファームウェアカタログを読み込めませんでした（%2）。アドレスとネットワーク接続を確認してからもう一度試すか、同梱のファームウェアを使用してください。</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 did not arrive within %2 s. Check the network connection and try again, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のファームウェアカタログが %2 秒以内に届きませんでした。ネットワーク接続を確認してからもう一度試すか、同梱のファームウェアを使用してください。</translation>
     </message>
     <message>
         <source>%1 is larger than a firmware catalogue can be (%2 bytes), so it was not read. Check the catalogue&apos;s address.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 はファームウェアカタログの上限（%2 バイト）より大きいため、読み込みませんでした。カタログのアドレスを確認してください。</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 does not carry a valid signature of this updater&apos;s publisher, so it was not used. Ask its publisher for a signed catalogue, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のファームウェアカタログには、このアップデーターの発行元による有効な署名がないため、使用しませんでした。カタログの発行元に署名付きのカタログを依頼するか、同梱のファームウェアを使用してください。</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 cannot be used: %2. Ask its publisher to correct it, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のファームウェアカタログは使用できません: %2。カタログの発行元に修正を依頼するか、同梱のファームウェアを使用してください。</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 was published %2, before the one already seen (%3), so it was not used: an old catalogue could bring back a withdrawn version. Use the current catalogue.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のファームウェアカタログは %2 に公開されたもので、以前に確認したカタログ（%3）より古いため、使用しませんでした: 古いカタログでは、取り下げられたバージョンが再び使えるようになるおそれがあります。最新のカタログを使用してください。</translation>
     </message>
     <message>
         <source>Offline: the firmware catalogue published %1, as last seen, is shown. Connect to the network to see newer versions.</source>
-        <translation type="unfinished"></translation>
+        <translation>オフライン: 前回確認した、%1 に公開されたファームウェアカタログを表示しています。新しいバージョンを確認するには、ネットワークに接続してください。</translation>
     </message>
     <message>
         <source>it is not JSON (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON ではありません（%1）</translation>
     </message>
     <message>
         <source>schema %1 is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>スキーマ %1 には対応していません</translation>
     </message>
     <message>
         <source>%1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 がありません</translation>
     </message>
     <message>
         <source>%1 is not a field of a catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 はカタログの項目ではありません</translation>
     </message>
     <message>
         <source>%1 is not valid</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 が正しくありません</translation>
     </message>
     <message>
         <source>firmware %1 is listed twice</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア %1 が 2 回記載されています</translation>
     </message>
     <message>
         <source>Firmware %1 is not in the firmware catalogue. Choose one of the versions it lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア %1 はファームウェアカタログにありません。カタログに記載されているバージョンから選んでください。</translation>
     </message>
     <message>
         <source>Firmware %1 was withdrawn by its publisher and is not installed. Choose another version.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア %1 は発行元によって取り下げられたため、インストールしません。別のバージョンを選んでください。</translation>
     </message>
     <message>
         <source>The image of firmware %1 could not be read from %2 (%3). Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 からファームウェア %1 のイメージを読み込めませんでした（%3）。ネットワーク接続を確認して、もう一度お試しください。</translation>
     </message>
     <message>
         <source>The download of firmware %1 stopped: nothing arrived for %2 s. Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア %1 のダウンロードが止まりました: %2 秒間何も届きませんでした。ネットワーク接続を確認して、もう一度お試しください。</translation>
     </message>
     <message>
         <source>The image of firmware %1 is larger than the %2 bytes the catalogue declares, so it was not used. Choose another version, or try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア %1 のイメージがカタログに記載された %2 バイトより大きいため、使用しませんでした。別のバージョンを選ぶか、しばらくしてからもう一度お試しください。</translation>
     </message>
     <message>
         <source>The image of firmware %1 ended after %2 of its %3 bytes. Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア %1 のイメージが、%3 バイト中 %2 バイトで途切れました。ネットワーク接続を確認して、もう一度お試しください。</translation>
     </message>
     <message>
         <source>The image of firmware %1 does not match the SHA-256 the catalogue declares, so it was not used. Choose another version, or try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア %1 のイメージがカタログに記載された SHA-256 と一致しないため、使用しませんでした。別のバージョンを選ぶか、しばらくしてからもう一度お試しください。</translation>
     </message>
 </context>
 <context>
@@ -1022,314 +1022,319 @@
     <name>ReleaseTexts</name>
     <message>
         <source>No firmware catalogue is configured. Choose one with File &gt; Firmware Catalogue…, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアカタログが設定されていません。ファイル &gt; ファームウェアカタログ… で選ぶか、同梱のファームウェアを使用してください。</translation>
     </message>
     <message>
         <source>No firmware catalogue is configured. Name one with --catalogue URL|FILE|FOLDER, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアカタログが設定されていません。--catalogue URL|FILE|FOLDER で指定するか、同梱のファームウェアを使用してください。</translation>
     </message>
     <message>
         <source>Fetching firmware %1 from the catalogue at %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 のカタログからファームウェア %1 を取得しています…</translation>
     </message>
     <message>
         <source>Downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>ダウンロード中</translation>
     </message>
     <message>
         <source>Updating firmware %1 from the catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>カタログのファームウェア %1 に更新しています…</translation>
     </message>
     <message>
         <source>Firmware %1 is older than the firmware %2 this machine runs, so nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア %1 はこのマシンで動作中のファームウェア %2 より古いため、何も書き込んでいません。</translation>
     </message>
     <message>
         <source>Firmware %1 is older than the firmware %2 this machine runs, so nothing was written. Add --allow-older to install it anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア %1 はこのマシンで動作中のファームウェア %2 より古いため、何も書き込んでいません。それでもインストールするには --allow-older を付けてください。</translation>
     </message>
     <message>
         <source>bundled</source>
-        <translation type="unfinished"></translation>
+        <translation>同梱</translation>
     </message>
     <message>
         <source>catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>カタログ</translation>
     </message>
     <message>
         <source>stable</source>
-        <translation type="unfinished"></translation>
+        <translation>安定版</translation>
     </message>
     <message>
         <source>beta</source>
-        <translation type="unfinished"></translation>
+        <translation>ベータ版</translation>
     </message>
     <message>
         <source>1 firmware version can be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>インストールできるファームウェアのバージョンが 1 件あります。</translation>
     </message>
     <message>
         <source>%1 firmware versions can be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>インストールできるファームウェアのバージョンが %1 件あります。</translation>
     </message>
     <message>
         <source>Firmware &amp;Catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアカタログ(&amp;C)…</translation>
     </message>
     <message>
         <source>Choose Firmware &amp;Version…</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアのバージョンを選択(&amp;V)…</translation>
     </message>
     <message>
         <source>Firmware version %1 from the catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>カタログのファームウェア バージョン %1</translation>
     </message>
     <message>
         <source>Firmware %1 is available</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア %1 が利用できます</translation>
     </message>
     <message>
         <source>Firmware Catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアカタログ</translation>
     </message>
     <message>
         <source>Where the firmware catalogue is: an http:// or https:// address, a catalogue.json file, or a folder that holds one (for instance on a USB stick).</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアカタログの場所: http:// または https:// のアドレス、catalogue.json ファイル、またはそれを含むフォルダー（USB メモリー上のフォルダーなど）。</translation>
     </message>
     <message>
         <source>Choose &amp;File…</source>
-        <translation type="unfinished">ファイルを選択(&amp;F)…</translation>
+        <translation>ファイルを選択(&amp;F)…</translation>
     </message>
     <message>
         <source>Choose F&amp;older…</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーを選択(&amp;O)…</translation>
     </message>
     <message>
         <source>Firmware catalogue: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアカタログ: %1</translation>
     </message>
     <message>
         <source>Choose Firmware Version</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアのバージョンを選択</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation>チャンネル</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>説明</translation>
     </message>
     <message>
         <source>Show &amp;beta versions</source>
-        <translation type="unfinished"></translation>
+        <translation>ベータ版を表示(&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Use This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>このバージョンを使用(&amp;U)</translation>
     </message>
     <message>
         <source>ran on this machine</source>
-        <translation type="unfinished"></translation>
+        <translation>このマシンで動作実績あり</translation>
     </message>
     <message>
         <source>Reading the firmware catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアカタログを読み込んでいます…</translation>
     </message>
     <message>
         <source>No firmware catalogue is configured: only the bundled firmware is listed. Choose a catalogue with File &gt; Firmware Catalogue….</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアカタログが設定されていません: 同梱のファームウェアのみを表示しています。ファイル &gt; ファームウェアカタログ… でカタログを選んでください。</translation>
     </message>
     <message>
         <source>Firmware %1 from the catalogue will be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>カタログのファームウェア %1 を書き込みます。</translation>
     </message>
     <message>
         <source>Install an Older Version?</source>
-        <translation type="unfinished"></translation>
+        <translation>古いバージョンをインストールしますか?</translation>
     </message>
     <message>
         <source>This machine runs firmware %1. Install the older firmware %2 in its place?</source>
-        <translation type="unfinished"></translation>
+        <translation>このマシンではファームウェア %1 が動作しています。代わりに古いファームウェア %2 をインストールしますか?</translation>
     </message>
     <message>
         <source>&amp;Install Older Version</source>
-        <translation type="unfinished"></translation>
+        <translation>古いバージョンをインストール(&amp;I)</translation>
     </message>
 </context>
 <context>
     <name>SnapshotTexts</name>
     <message>
         <source>Taking a snapshot of the whole machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>マシン全体のスナップショットを作成しています…</translation>
     </message>
     <message>
         <source>Snapshot of the whole machine saved to %1 (%2 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>マシン全体のスナップショットを %1 に保存しました（%2 バイト）。</translation>
     </message>
     <message>
         <source>the machine&apos;s flash holds nothing worth keeping (no bootloader and no partition table)</source>
-        <translation type="unfinished"></translation>
+        <translation>マシンのフラッシュには残しておくべきものがありません（ブートローダーもパーティションテーブルもありません）</translation>
     </message>
     <message>
         <source>No snapshot of the whole machine could be taken: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>マシン全体のスナップショットを作成できませんでした: %1</translation>
     </message>
     <message>
         <source>the flasher stub refused to read the flash</source>
-        <translation type="unfinished"></translation>
+        <translation>フラッシュ書き込み用スタブがフラッシュの読み込みを拒否しました</translation>
     </message>
     <message>
         <source>the machine sent nothing for 5 s while its flash was read</source>
-        <translation type="unfinished"></translation>
+        <translation>フラッシュの読み込み中、マシンから 5 秒間何も送られてきませんでした</translation>
     </message>
     <message>
         <source>what the machine sent of its flash arrived damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>マシンから送られてきたフラッシュの内容が壊れていました</translation>
     </message>
     <message>
         <source>the MD5 the machine computed differs from that of the bytes received</source>
-        <translation type="unfinished"></translation>
+        <translation>マシンが計算した MD5 が、受信したデータの MD5 と異なります</translation>
     </message>
     <message>
         <source>the snapshot could not be written on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピューターにスナップショットを書き込めませんでした</translation>
     </message>
     <message>
         <source>the flash could not be read (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>フラッシュを読み込めませんでした（%1）</translation>
     </message>
     <message>
         <source>%1 Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 何も書き込んでいません。</translation>
     </message>
     <message>
         <source>The machine was left as it was. Check the USB cable and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>マシンは元の状態のままです。USB ケーブルを確認して、もう一度お試しください。</translation>
     </message>
     <message>
         <source>No snapshot is needed: the machine&apos;s flash holds nothing worth keeping.</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショットは不要です: マシンのフラッシュには残しておくべきものがありません。</translation>
     </message>
     <message>
         <source>Whole machine backed up</source>
-        <translation type="unfinished"></translation>
+        <translation>マシン全体をバックアップしました</translation>
     </message>
     <message>
         <source>application</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーション</translation>
     </message>
     <message>
         <source>data</source>
-        <translation type="unfinished"></translation>
+        <translation>データ</translation>
     </message>
     <message>
         <source>Putting back the snapshot of the whole machine from %1 (%2)…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 時点のマシン全体のスナップショットを戻しています（%2）…</translation>
     </message>
     <message>
         <source>%1 cannot be used: %2</source>
-        <translation type="unfinished">%1 は使用できません: %2</translation>
+        <translation>%1 は使用できません: %2</translation>
     </message>
     <message>
         <source>Could not read the snapshot %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>スナップショット %1 を読み込めませんでした: %2</translation>
     </message>
     <message>
         <source>No snapshot of the machine %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 にマシン %1 のスナップショットはありません</translation>
     </message>
     <message>
         <source>No snapshot %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 にスナップショット %1 はありません</translation>
     </message>
     <message>
         <source>This snapshot was taken of the machine %1, not of %2; it carries that machine&apos;s settings and network credentials. Add --other-machine to put it on %2 anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>このスナップショットは %2 ではなく、マシン %1 で作成されたものです。そのマシンの設定とネットワークの認証情報が含まれています。それでも %2 に復元するには --other-machine を付けてください。</translation>
     </message>
     <message>
         <source>This snapshot was taken of the machine %1. It carries that machine&apos;s settings and network credentials. Put it on this machine (%2) anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>このスナップショットはマシン %1 で作成されたものです。そのマシンの設定とネットワークの認証情報が含まれています。それでもこのマシン（%2）に復元しますか?</translation>
     </message>
     <message>
         <source>&amp;Restore Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>それでも復元(&amp;R)</translation>
     </message>
     <message>
         <source>Machine put back as it was on %1: it runs firmware %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>マシンを %1 時点の状態に戻しました: ファームウェア %2 で動作しています。</translation>
     </message>
     <message>
         <source>Machine put back as it was on %1: it runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>マシンを %1 時点の状態に戻しました: 動作しています。</translation>
     </message>
     <message>
         <source>Press Undo Update to put the machine back as it was before the update, or Repair… to erase it and install the firmware again.</source>
-        <translation type="unfinished"></translation>
+        <translation>「更新を元に戻す」を押すと、マシンを更新前の状態に戻します。「修復…」を押すと、マシンを消去してファームウェアを再インストールします。</translation>
     </message>
     <message>
         <source>To put the machine back as it was before the update, run: teskal-flash restore-machine %1</source>
-        <translation type="unfinished"></translation>
+        <translation>マシンを更新前の状態に戻すには、次のコマンドを実行してください: teskal-flash restore-machine %1</translation>
     </message>
     <message>
         <source>The machine was put back as it was before the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>マシンを更新前の状態に戻しました。</translation>
     </message>
     <message>
         <source>Putting the machine back as it was before the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>マシンを更新前の状態に戻しています…</translation>
     </message>
     <message>
         <source>The machine could not be put back: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>マシンを元に戻せませんでした: %1</translation>
     </message>
     <message>
         <source>Back Up &amp;Whole Machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>マシン全体をバックアップ(&amp;W)…</translation>
     </message>
     <message>
         <source>Restore W&amp;hole Machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>マシン全体を復元(&amp;H)…</translation>
     </message>
     <message>
         <source>&amp;Snapshot Before Writing</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込み前にスナップショットを作成(&amp;S)</translation>
     </message>
     <message>
-        <source>&amp;Undo Update</source>
-        <translation type="unfinished"></translation>
+        <source>Undo Update</source>
+        <translation>更新を元に戻す</translation>
     </message>
     <message>
         <source>Take a &amp;snapshot of the whole machine first</source>
-        <translation type="unfinished"></translation>
+        <translation>先にマシン全体のスナップショットを作成する(&amp;S)</translation>
     </message>
     <message>
         <source>Restore Whole Machine</source>
-        <translation type="unfinished"></translation>
+        <translation>マシン全体を復元</translation>
     </message>
     <message>
         <source>Ran</source>
-        <translation type="unfinished"></translation>
+        <translation>動作中</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>はい</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>いいえ</translation>
     </message>
     <message>
         <source>Every snapshot of a whole machine is kept in %1. The connected machine&apos;s are on top, newest first.</source>
-        <translation type="unfinished"></translation>
+        <translation>マシン全体のスナップショットはすべて %1 に保存されます。接続中のマシンのスナップショットが上に、新しいものから順に表示されます。</translation>
     </message>
     <message>
         <source>No snapshot has been taken yet. Config &gt; Back Up Whole Machine… takes one, and so does every firmware write with Options &gt; Snapshot Before Writing; they are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>まだスナップショットは作成されていません。設定 &gt; マシン全体をバックアップ… で作成できるほか、オプション &gt; 書き込み前にスナップショットを作成 がオンのときは、ファームウェアを書き込むたびに作成されます。スナップショットは %1 に保存されます。</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>the full stop that ends a sentence</comment>
+        <translation>。</translation>
     </message>
 </context>
 <context>

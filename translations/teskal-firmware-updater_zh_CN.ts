@@ -300,114 +300,114 @@
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>快照</translation>
     </message>
     <message>
         <source>Before update</source>
-        <translation type="unfinished"></translation>
+        <translation>更新前</translation>
     </message>
     <message>
         <source>Before repair</source>
-        <translation type="unfinished"></translation>
+        <translation>修复前</translation>
     </message>
 </context>
 <context>
     <name>CatalogueTexts</name>
     <message>
         <source>&quot;%1&quot; is not a firmware catalogue: give an http:// or https:// address, a catalogue.json file or a folder that holds one.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是固件目录：请提供 http:// 或 https:// 地址、catalogue.json 文件，或包含该文件的文件夹。</translation>
     </message>
     <message>
         <source>The catalogue key %1 is missing, so no firmware catalogue can be checked. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>找不到目录密钥 %1，因此无法校验任何固件目录。请重新安装更新程序，或使用随附的固件。</translation>
     </message>
     <message>
         <source>The catalogue key %1 is not an Ed25519 public key, so no firmware catalogue can be checked. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>目录密钥 %1 不是 Ed25519 公钥，因此无法校验任何固件目录。请重新安装更新程序，或使用随附的固件。</translation>
     </message>
     <message>
         <source>The catalogue key %1 is the development key, which only the simulated plotter trusts. Reinstall the updater, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>目录密钥 %1 是开发用密钥，只有模拟绘图仪信任它。请重新安装更新程序，或使用随附的固件。</translation>
     </message>
     <message>
         <source>The firmware catalogue could not be read from %1 (%2). Check the address and the network connection and try again, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法从 %1 读取固件目录（%2）。请检查地址和网络连接后重试，或使用随附的固件。</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 did not arrive within %2 s. Check the network connection and try again, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 的固件目录未在 %2 秒内收到。请检查网络连接后重试，或使用随附的固件。</translation>
     </message>
     <message>
         <source>%1 is larger than a firmware catalogue can be (%2 bytes), so it was not read. Check the catalogue&apos;s address.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 超过了固件目录的大小上限（%2 字节），因此未读取。请检查目录的地址。</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 does not carry a valid signature of this updater&apos;s publisher, so it was not used. Ask its publisher for a signed catalogue, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 的固件目录没有本更新程序发布者的有效签名，因此未使用。请向该目录的发布者索取已签名的目录，或使用随附的固件。</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 cannot be used: %2. Ask its publisher to correct it, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法使用 %1 的固件目录：%2。请让该目录的发布者更正，或使用随附的固件。</translation>
     </message>
     <message>
         <source>The firmware catalogue at %1 was published %2, before the one already seen (%3), so it was not used: an old catalogue could bring back a withdrawn version. Use the current catalogue.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 的固件目录发布于 %2，早于之前已读取的目录（%3），因此未使用：旧目录可能会让已撤回的版本重新出现。请使用当前的目录。</translation>
     </message>
     <message>
         <source>Offline: the firmware catalogue published %1, as last seen, is shown. Connect to the network to see newer versions.</source>
-        <translation type="unfinished"></translation>
+        <translation>离线：显示的是上次读取的、发布于 %1 的固件目录。请连接网络以查看更新的版本。</translation>
     </message>
     <message>
         <source>it is not JSON (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>它不是 JSON（%1）</translation>
     </message>
     <message>
         <source>schema %1 is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持架构 %1</translation>
     </message>
     <message>
         <source>%1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少 %1</translation>
     </message>
     <message>
         <source>%1 is not a field of a catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是目录的字段</translation>
     </message>
     <message>
         <source>%1 is not valid</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 无效</translation>
     </message>
     <message>
         <source>firmware %1 is listed twice</source>
-        <translation type="unfinished"></translation>
+        <translation>固件 %1 被列出了两次</translation>
     </message>
     <message>
         <source>Firmware %1 is not in the firmware catalogue. Choose one of the versions it lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>固件 %1 不在固件目录中。请从目录列出的版本中选择一个。</translation>
     </message>
     <message>
         <source>Firmware %1 was withdrawn by its publisher and is not installed. Choose another version.</source>
-        <translation type="unfinished"></translation>
+        <translation>固件 %1 已被其发布者撤回，不会安装。请选择其他版本。</translation>
     </message>
     <message>
         <source>The image of firmware %1 could not be read from %2 (%3). Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法从 %2 读取固件 %1 的映像（%3）。请检查网络连接后重试。</translation>
     </message>
     <message>
         <source>The download of firmware %1 stopped: nothing arrived for %2 s. Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>固件 %1 的下载已停止：%2 秒内没有收到任何数据。请检查网络连接后重试。</translation>
     </message>
     <message>
         <source>The image of firmware %1 is larger than the %2 bytes the catalogue declares, so it was not used. Choose another version, or try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>固件 %1 的映像大于目录声明的 %2 字节，因此未使用。请选择其他版本，或稍后重试。</translation>
     </message>
     <message>
         <source>The image of firmware %1 ended after %2 of its %3 bytes. Check the network connection and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>固件 %1 的映像共 %3 字节，只收到 %2 字节就中断了。请检查网络连接后重试。</translation>
     </message>
     <message>
         <source>The image of firmware %1 does not match the SHA-256 the catalogue declares, so it was not used. Choose another version, or try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>固件 %1 的映像与目录声明的 SHA-256 不符，因此未使用。请选择其他版本，或稍后重试。</translation>
     </message>
 </context>
 <context>
@@ -1022,314 +1022,319 @@
     <name>ReleaseTexts</name>
     <message>
         <source>No firmware catalogue is configured. Choose one with File &gt; Firmware Catalogue…, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>未配置固件目录。请通过“文件 &gt; 固件目录…”选择一个，或使用随附的固件。</translation>
     </message>
     <message>
         <source>No firmware catalogue is configured. Name one with --catalogue URL|FILE|FOLDER, or use the bundled firmware.</source>
-        <translation type="unfinished"></translation>
+        <translation>未配置固件目录。请用 --catalogue URL|FILE|FOLDER 指定一个，或使用随附的固件。</translation>
     </message>
     <message>
         <source>Fetching firmware %1 from the catalogue at %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在从 %2 的目录获取固件 %1…</translation>
     </message>
     <message>
         <source>Downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>正在下载</translation>
     </message>
     <message>
         <source>Updating firmware %1 from the catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在将固件更新到目录中的 %1…</translation>
     </message>
     <message>
         <source>Firmware %1 is older than the firmware %2 this machine runs, so nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>固件 %1 比这台机器正在运行的固件 %2 旧，因此未写入任何内容。</translation>
     </message>
     <message>
         <source>Firmware %1 is older than the firmware %2 this machine runs, so nothing was written. Add --allow-older to install it anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>固件 %1 比这台机器正在运行的固件 %2 旧，因此未写入任何内容。如仍要安装，请加上 --allow-older。</translation>
     </message>
     <message>
         <source>bundled</source>
-        <translation type="unfinished"></translation>
+        <translation>随附</translation>
     </message>
     <message>
         <source>catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>目录</translation>
     </message>
     <message>
         <source>stable</source>
-        <translation type="unfinished"></translation>
+        <translation>稳定版</translation>
     </message>
     <message>
         <source>beta</source>
-        <translation type="unfinished"></translation>
+        <translation>测试版</translation>
     </message>
     <message>
         <source>1 firmware version can be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>有 1 个固件版本可以安装。</translation>
     </message>
     <message>
         <source>%1 firmware versions can be installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>有 %1 个固件版本可以安装。</translation>
     </message>
     <message>
         <source>Firmware &amp;Catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>固件目录(&amp;C)…</translation>
     </message>
     <message>
         <source>Choose Firmware &amp;Version…</source>
-        <translation type="unfinished"></translation>
+        <translation>选择固件版本(&amp;V)…</translation>
     </message>
     <message>
         <source>Firmware version %1 from the catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>目录中的固件版本 %1</translation>
     </message>
     <message>
         <source>Firmware %1 is available</source>
-        <translation type="unfinished"></translation>
+        <translation>固件 %1 现已可用</translation>
     </message>
     <message>
         <source>Firmware Catalogue</source>
-        <translation type="unfinished"></translation>
+        <translation>固件目录</translation>
     </message>
     <message>
         <source>Where the firmware catalogue is: an http:// or https:// address, a catalogue.json file, or a folder that holds one (for instance on a USB stick).</source>
-        <translation type="unfinished"></translation>
+        <translation>固件目录所在的位置：http:// 或 https:// 地址、catalogue.json 文件，或包含该文件的文件夹（例如 U 盘上的文件夹）。</translation>
     </message>
     <message>
         <source>Choose &amp;File…</source>
-        <translation type="unfinished">选择文件(&amp;F)…</translation>
+        <translation>选择文件(&amp;F)…</translation>
     </message>
     <message>
         <source>Choose F&amp;older…</source>
-        <translation type="unfinished"></translation>
+        <translation>选择文件夹(&amp;O)…</translation>
     </message>
     <message>
         <source>Firmware catalogue: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>固件目录：%1</translation>
     </message>
     <message>
         <source>Choose Firmware Version</source>
-        <translation type="unfinished"></translation>
+        <translation>选择固件版本</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>版本</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation>通道</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>说明</translation>
     </message>
     <message>
         <source>Show &amp;beta versions</source>
-        <translation type="unfinished"></translation>
+        <translation>显示测试版(&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Use This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>使用此版本(&amp;U)</translation>
     </message>
     <message>
         <source>ran on this machine</source>
-        <translation type="unfinished"></translation>
+        <translation>曾在这台机器上运行</translation>
     </message>
     <message>
         <source>Reading the firmware catalogue…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在读取固件目录…</translation>
     </message>
     <message>
         <source>No firmware catalogue is configured: only the bundled firmware is listed. Choose a catalogue with File &gt; Firmware Catalogue….</source>
-        <translation type="unfinished"></translation>
+        <translation>未配置固件目录：仅列出随附的固件。请通过“文件 &gt; 固件目录…”选择一个目录。</translation>
     </message>
     <message>
         <source>Firmware %1 from the catalogue will be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>将写入目录中的固件 %1。</translation>
     </message>
     <message>
         <source>Install an Older Version?</source>
-        <translation type="unfinished"></translation>
+        <translation>要安装旧版本吗？</translation>
     </message>
     <message>
         <source>This machine runs firmware %1. Install the older firmware %2 in its place?</source>
-        <translation type="unfinished"></translation>
+        <translation>这台机器正在运行固件 %1。要改为安装较旧的固件 %2 吗？</translation>
     </message>
     <message>
         <source>&amp;Install Older Version</source>
-        <translation type="unfinished"></translation>
+        <translation>安装旧版本(&amp;I)</translation>
     </message>
 </context>
 <context>
     <name>SnapshotTexts</name>
     <message>
         <source>Taking a snapshot of the whole machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在为整台机器创建快照…</translation>
     </message>
     <message>
         <source>Snapshot of the whole machine saved to %1 (%2 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>整台机器的快照已保存到 %1（%2 字节）。</translation>
     </message>
     <message>
         <source>the machine&apos;s flash holds nothing worth keeping (no bootloader and no partition table)</source>
-        <translation type="unfinished"></translation>
+        <translation>机器的闪存中没有值得保留的内容（既没有引导程序，也没有分区表）</translation>
     </message>
     <message>
         <source>No snapshot of the whole machine could be taken: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法为整台机器创建快照：%1</translation>
     </message>
     <message>
         <source>the flasher stub refused to read the flash</source>
-        <translation type="unfinished"></translation>
+        <translation>闪存写入桩程序拒绝读取闪存</translation>
     </message>
     <message>
         <source>the machine sent nothing for 5 s while its flash was read</source>
-        <translation type="unfinished"></translation>
+        <translation>读取闪存时，机器 5 秒内没有发送任何数据</translation>
     </message>
     <message>
         <source>what the machine sent of its flash arrived damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>机器发来的闪存数据到达时已损坏</translation>
     </message>
     <message>
         <source>the MD5 the machine computed differs from that of the bytes received</source>
-        <translation type="unfinished"></translation>
+        <translation>机器计算出的 MD5 与收到的数据的 MD5 不同</translation>
     </message>
     <message>
         <source>the snapshot could not be written on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>无法在这台电脑上写入快照</translation>
     </message>
     <message>
         <source>the flash could not be read (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取闪存（%1）</translation>
     </message>
     <message>
         <source>%1 Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 未写入任何内容。</translation>
     </message>
     <message>
         <source>The machine was left as it was. Check the USB cable and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>机器保持原样，未作改动。请检查 USB 线后重试。</translation>
     </message>
     <message>
         <source>No snapshot is needed: the machine&apos;s flash holds nothing worth keeping.</source>
-        <translation type="unfinished"></translation>
+        <translation>无需快照：机器的闪存中没有值得保留的内容。</translation>
     </message>
     <message>
         <source>Whole machine backed up</source>
-        <translation type="unfinished"></translation>
+        <translation>整台机器已备份</translation>
     </message>
     <message>
         <source>application</source>
-        <translation type="unfinished"></translation>
+        <translation>应用</translation>
     </message>
     <message>
         <source>data</source>
-        <translation type="unfinished"></translation>
+        <translation>数据</translation>
     </message>
     <message>
         <source>Putting back the snapshot of the whole machine from %1 (%2)…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在恢复整台机器在 %1 的快照（%2）…</translation>
     </message>
     <message>
         <source>%1 cannot be used: %2</source>
-        <translation type="unfinished">无法使用 %1：%2</translation>
+        <translation>无法使用 %1：%2</translation>
     </message>
     <message>
         <source>Could not read the snapshot %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取快照 %1：%2</translation>
     </message>
     <message>
         <source>No snapshot of the machine %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 中没有机器 %1 的快照</translation>
     </message>
     <message>
         <source>No snapshot %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 中没有快照 %1</translation>
     </message>
     <message>
         <source>This snapshot was taken of the machine %1, not of %2; it carries that machine&apos;s settings and network credentials. Add --other-machine to put it on %2 anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>此快照取自机器 %1，而不是 %2；其中包含那台机器的设置和网络凭据。如仍要将它恢复到 %2 上，请加上 --other-machine。</translation>
     </message>
     <message>
         <source>This snapshot was taken of the machine %1. It carries that machine&apos;s settings and network credentials. Put it on this machine (%2) anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>此快照取自机器 %1，其中包含那台机器的设置和网络凭据。仍要将它恢复到这台机器（%2）上吗？</translation>
     </message>
     <message>
         <source>&amp;Restore Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>仍然恢复(&amp;R)</translation>
     </message>
     <message>
         <source>Machine put back as it was on %1: it runs firmware %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>机器已恢复到 %1 时的状态：正在运行固件 %2。</translation>
     </message>
     <message>
         <source>Machine put back as it was on %1: it runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>机器已恢复到 %1 时的状态：正在运行。</translation>
     </message>
     <message>
         <source>Press Undo Update to put the machine back as it was before the update, or Repair… to erase it and install the firmware again.</source>
-        <translation type="unfinished"></translation>
+        <translation>按“撤销更新”可将机器恢复到更新前的状态，按“修复…”可擦除机器并重新安装固件。</translation>
     </message>
     <message>
         <source>To put the machine back as it was before the update, run: teskal-flash restore-machine %1</source>
-        <translation type="unfinished"></translation>
+        <translation>要将机器恢复到更新前的状态，请运行：teskal-flash restore-machine %1</translation>
     </message>
     <message>
         <source>The machine was put back as it was before the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>机器已恢复到更新前的状态。</translation>
     </message>
     <message>
         <source>Putting the machine back as it was before the update…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在将机器恢复到更新前的状态…</translation>
     </message>
     <message>
         <source>The machine could not be put back: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法恢复机器：%1</translation>
     </message>
     <message>
         <source>Back Up &amp;Whole Machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>备份整台机器(&amp;W)…</translation>
     </message>
     <message>
         <source>Restore W&amp;hole Machine…</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复整台机器(&amp;H)…</translation>
     </message>
     <message>
         <source>&amp;Snapshot Before Writing</source>
-        <translation type="unfinished"></translation>
+        <translation>写入前创建快照(&amp;S)</translation>
     </message>
     <message>
-        <source>&amp;Undo Update</source>
-        <translation type="unfinished"></translation>
+        <source>Undo Update</source>
+        <translation>撤销更新</translation>
     </message>
     <message>
         <source>Take a &amp;snapshot of the whole machine first</source>
-        <translation type="unfinished"></translation>
+        <translation>先为整台机器创建快照(&amp;S)</translation>
     </message>
     <message>
         <source>Restore Whole Machine</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复整台机器</translation>
     </message>
     <message>
         <source>Ran</source>
-        <translation type="unfinished"></translation>
+        <translation>运行中</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>是</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>否</translation>
     </message>
     <message>
         <source>Every snapshot of a whole machine is kept in %1. The connected machine&apos;s are on top, newest first.</source>
-        <translation type="unfinished"></translation>
+        <translation>每个整台机器的快照都保存在 %1 中。已连接机器的快照在最上面，最新的在前。</translation>
     </message>
     <message>
         <source>No snapshot has been taken yet. Config &gt; Back Up Whole Machine… takes one, and so does every firmware write with Options &gt; Snapshot Before Writing; they are kept in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未创建任何快照。“配置 &gt; 备份整台机器…”会创建快照；启用“选项 &gt; 写入前创建快照”后，每次写入固件时也会创建。快照保存在 %1 中。</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <comment>the full stop that ends a sentence</comment>
+        <translation>。</translation>
     </message>
 </context>
 <context>

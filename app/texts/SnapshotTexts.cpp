@@ -56,7 +56,10 @@ QString snapshotEnd(int end) {
 }
 
 QString nothingWrittenWithoutSnapshot(const QString& failure) {
-    const QString sentence = failure.endsWith(QLatin1Char('.')) ? failure : failure + '.';
+    // The reason is a clause; its sentence ends in the full stop of the owner's script.
+    const QString stop = SnapshotTexts::tr(".", "the full stop that ends a sentence");
+    const bool ended = failure.endsWith(QLatin1Char('.')) || failure.endsWith(stop);
+    const QString sentence = ended ? failure : failure + stop;
     return SnapshotTexts::tr("%1 Nothing was written.").arg(sentence);
 }
 
@@ -167,7 +170,7 @@ QString snapshotBeforeWritingItem() {
 }
 
 QString undoUpdateButton() {
-    return SnapshotTexts::tr("&Undo Update");
+    return SnapshotTexts::tr("Undo Update");
 }
 
 QString snapshotFirstCheckBox() {

@@ -7,22 +7,13 @@
 #include "app/operations/FlashFirmware.h"
 #include "app/operations/ListFirmware.h"
 #include "tests/support/CataloguePublisher.h"
+#include "tests/support/SimTranscript.h"
 
 Q_DECLARE_METATYPE(CatalogueProblem)
 
 namespace {
 
 constexpr int kJobTimeoutMs = 60000;
-
-QStringList transcript(const sim::PtyPlotter& plotter) {
-    QStringList entries;
-    plotter.inspect([&](const sim::Plotter& p) {
-        for (const std::string& entry : p.transcript()) {
-            entries << QString::fromStdString(entry);
-        }
-    });
-    return entries;
-}
 
 bool wroteFlash(const sim::PtyPlotter& plotter) {
     return transcript(plotter).filter(QStringLiteral("FLASH_BEGIN")).size() > 0;

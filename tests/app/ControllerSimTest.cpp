@@ -14,6 +14,7 @@
 #include "app/operations/MachineConfigFile.h"
 #include "app/operations/Repair.h"
 #include "tests/support/Descriptors.h"
+#include "tests/support/SimTranscript.h"
 
 namespace {
 
@@ -41,16 +42,6 @@ QByteArray storedConfig(const sim::PtyPlotter& plotter) {
         bytes = QByteArray(reinterpret_cast<const char*>(stored.data()), stored.size());
     });
     return bytes;
-}
-
-QStringList transcript(const sim::PtyPlotter& plotter) {
-    QStringList entries;
-    plotter.inspect([&](const sim::Plotter& p) {
-        for (const std::string& entry : p.transcript()) {
-            entries << QString::fromStdString(entry);
-        }
-    });
-    return entries;
 }
 
 /// The Halcot configuration as its owner tuned it on the machine.

@@ -11,6 +11,7 @@
 #include "app/operations/RestoreMachine.h"
 #include "app/operations/SnapshotFirst.h"
 #include "app/operations/TakeSnapshot.h"
+#include "tests/support/SimTranscript.h"
 
 namespace {
 
@@ -30,16 +31,6 @@ QByteArray flashImage(qsizetype size) {
     flash.replace(0, bootloader.size(), bootloader);
     flash.replace(0x8000, table.size(), table);
     return flash;
-}
-
-QStringList transcript(const sim::PtyPlotter& plotter) {
-    QStringList entries;
-    plotter.inspect([&](const sim::Plotter& p) {
-        for (const std::string& entry : p.transcript()) {
-            entries << QString::fromStdString(entry);
-        }
-    });
-    return entries;
 }
 
 bool wroteFlash(const QStringList& entries) {
