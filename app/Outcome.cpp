@@ -34,7 +34,8 @@ const char* const kKindNames[] = {"succeeded",
                                   "not-ready",
                                   "no-backup",
                                   "nothing-to-restore",
-                                  "catalogue-unusable", "snapshot-failed"};
+                                  "catalogue-unusable",
+                                  "snapshot-failed"};
 static_assert(std::size(kKindNames) == static_cast<size_t>(Outcome::Kind::snapshotFailed) + 1);
 
 }  // namespace

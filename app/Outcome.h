@@ -154,7 +154,7 @@ struct Outcome {
         noBackup,           ///< the backup to restore was not found
         nothingToRestore,   ///< a repair knows no configuration to put back; nothing was erased
         catalogueUnusable,  ///< the firmware catalogue cannot be used; `cause` says why
-        snapshotFailed,  ///< no snapshot of the whole flash could be taken; nothing was written
+        snapshotFailed,     ///< no snapshot of the whole flash could be taken; nothing was written
     };
 
     Kind kind = Kind::succeeded;
