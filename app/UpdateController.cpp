@@ -15,7 +15,6 @@
 #include "app/operations/RestoreMachine.h"
 #include "app/operations/SaveLog.h"
 #include "app/operations/SaveMachineConfig.h"
-#include "app/operations/SnapshotFirst.h"
 #include "app/operations/TakeSnapshot.h"
 #include "app/operations/UploadConfig.h"
 
@@ -136,45 +135,46 @@ void UpdateController::updateFirmware() {
 
 void UpdateController::performFlash(const QString& port, Log log, bool allowOlder) {
     start(
-        undoable(port, std::make_shared<FlashFirmware>(port, resources_, flashOptions(allowOlder)),
-                 snapshotBeforeWriting_, BackupReason::beforeUpdate),
+        SnapshotFirst::around(
+            snapshotBeforeWriting_, port, resources_,
+            std::make_shared<FlashFirmware>(port, resources_, flashOptions(allowOlder)),
+            snapshotOptions(BackupReason::beforeUpdate)),
         {}, [this](const Outcome& outcome) { askAfter(outcome, false); }, log);
 }
 
-std::shared_ptr<Operation> UpdateController::undoable(const QString& port,
-                                                      std::shared_ptr<Operation> write,
-                                                      bool snapshotFirst,
-                                                      BackupReason reason) const {
-    const SnapshotFirst::Options options{reason, QString(), false, developmentImages_};
-    return snapshotFirst
-               ? std::make_shared<SnapshotFirst>(port, resources_, std::move(write), options)
-               : write;
+SnapshotFirst::Options UpdateController::snapshotOptions(BackupReason reason) const {
+    return {reason, QString(), false, developmentImages_};
 }
 
 void UpdateController::performConfigUpload(const QString& port, const QString& configFile,
                                            const QString& productName) {
-    performUpload(port, ConfigChoice::ofProduct({productName, configFile}));
-}
-
-void UpdateController::performUpload(const QString& port, const ConfigChoice& choice) {
     UploadConfig::Options options;
     options.backUpFirst = backupBeforeUpload_;
-    start(std::make_shared<UploadConfig>(port, resources_, choice, options));
+    start(std::make_shared<UploadConfig>(
+        port, resources_, ConfigChoice::ofProduct({productName, configFile}), options));
+}
+
+void UpdateController::performConfigUploadData(const QString& port, const QString& path,
+                                               const QByteArray& configData) {
+    UploadConfig::Options options;
+    options.backUpFirst = backupBeforeUpload_;
+    start(std::make_shared<UploadConfig>(port, resources_, ConfigChoice::ofData(path, configData),
+                                         options));
 }
 
 void UpdateController::performKeepingSettings(const QString& port, Log log, bool allowOlder) {
     EraseKeepingSettings::Options options;
     options.flash = flashOptions(allowOlder);
     start(
-        undoable(port, std::make_shared<EraseKeepingSettings>(port, resources_, options),
-                 snapshotBeforeWriting_, BackupReason::beforeUpdate),
+        SnapshotFirst::around(snapshotBeforeWriting_, port, resources_,
+                              std::make_shared<EraseKeepingSettings>(port, resources_, options),
+                              snapshotOptions(BackupReason::beforeUpdate)),
         {}, [this](const Outcome& outcome) { askAfter(outcome, true); }, log);
 }
 
 void UpdateController::askAfter(const Outcome& outcome, bool keepingSettings) {
     const auto rewrite = questions_.askAfter(outcome, keepingSettings);
-    const auto port = rewrite ? portForNewJob() : std::nullopt;
-    if (port) {
+    if (const auto port = rewrite ? portForNewJob() : std::nullopt) {
         rewrite->keepingSettings
             ? performKeepingSettings(*port, Log::continued, rewrite->allowOlder)
             : performFlash(*port, Log::continued, rewrite->allowOlder);
@@ -210,7 +210,7 @@ void UpdateController::uploadConfigFromFile(const QString& path) {
     if (const auto* refused = std::get_if<Outcome>(&checked)) {
         return post(LogEntry::error(refused->message));
     }
-    performUpload(*port, ConfigChoice::ofData(path, std::get<QByteArray>(checked)));
+    performConfigUploadData(*port, path, std::get<QByteArray>(checked));
 }
 
 void UpdateController::uploadChoice(const ConfigChoice& choice) {
@@ -236,8 +236,8 @@ void UpdateController::compareWithMachine(const ConfigChoice& choice) {
 }
 
 void UpdateController::saveLog(const QString& path) {
-    SaveLog save(path, logMessages(), monitor_->port(), QDateTime::currentDateTime());
-    const Outcome saved = save.run({});
+    const Outcome saved =
+        SaveLog(path, logMessages(), monitor_->port(), QDateTime::currentDateTime()).run({});
     if (saved.isFailure()) {
         post(LogEntry::error(saved.message));
     }
@@ -263,8 +263,9 @@ void UpdateController::repairMachine(const Repair::PutBack& putBack, bool snapsh
         Repair::Options options;
         options.flash = flashOptions();
         options.putBack = putBack;
-        start(undoable(*port, std::make_shared<Repair>(*port, resources_, options), snapshotFirst,
-                       BackupReason::beforeRepair));
+        start(SnapshotFirst::around(snapshotFirst, *port, resources_,
+                                    std::make_shared<Repair>(*port, resources_, options),
+                                    snapshotOptions(BackupReason::beforeRepair)));
     }
 }
 

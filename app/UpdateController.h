@@ -22,6 +22,7 @@
 #include "app/operations/FlashFirmware.h"
 #include "app/operations/OperationRunner.h"
 #include "app/operations/Repair.h"
+#include "app/operations/SnapshotFirst.h"
 
 /// The application's one controller: owns the device monitor, publishes what the
 /// main window shows (see `PublishedState`), holds the menus' options, and starts
@@ -180,10 +181,10 @@ class UpdateController : public PublishedState {
     void performFlash(const QString& port, Log log = Log::fresh, bool allowOlder = false);
     void performConfigUpload(const QString& port, const QString& configFile,
                              const QString& productName);
-    void performUpload(const QString& port, const ConfigChoice& choice);
+    void performConfigUploadData(const QString& port, const QString& path,
+                                 const QByteArray& configData);
     void performKeepingSettings(const QString& port, Log log, bool allowOlder = false);
-    std::shared_ptr<Operation> undoable(const QString& port, std::shared_ptr<Operation> write,
-                                        bool snapshotFirst, BackupReason reason) const;
+    SnapshotFirst::Options snapshotOptions(BackupReason reason) const;
 
     std::optional<QString> portForNewJob();
     void start(std::shared_ptr<Operation> operation, Then then = {}, Then otherwise = {},

@@ -109,15 +109,12 @@ class FlashCommand : public Command {
 
     std::shared_ptr<Operation> undoable(const CommandContext& context,
                                         std::shared_ptr<Operation> write) const {
-        if (!snapshot_) {
-            return write;
-        }
         SnapshotFirst::Options options;
         options.machine = context.machine;
         options.undoOnFailure = undoOnFailure_;
         options.developmentImages = context.developmentImages();
-        return std::make_shared<SnapshotFirst>(context.portPath, context.resources,
-                                               std::move(write), options);
+        return SnapshotFirst::around(snapshot_, context.portPath, context.resources,
+                                     std::move(write), options);
     }
 
     std::string firmware_;

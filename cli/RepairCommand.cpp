@@ -55,15 +55,12 @@ class RepairCommand : public Command {
         options.machine = context.machine;
         options.developmentConfigsRefused = context.developmentSet && !context.simulated;
         auto repair = std::make_shared<Repair>(context.portPath, context.resources, options);
-        if (noSnapshot_) {
-            return repair;
-        }
         SnapshotFirst::Options snapshot;
         snapshot.reason = BackupReason::beforeRepair;
         snapshot.machine = context.machine;
         snapshot.developmentImages = context.developmentImages();
-        return std::make_shared<SnapshotFirst>(context.portPath, context.resources,
-                                               std::move(repair), snapshot);
+        return SnapshotFirst::around(!noSnapshot_, context.portPath, context.resources,
+                                     std::move(repair), snapshot);
     }
 
   private:

@@ -16,6 +16,17 @@ SnapshotFirst::SnapshotFirst(QString port, ResourceBundle resources,
     }
 }
 
+std::shared_ptr<Operation> SnapshotFirst::around(bool wanted, QString port,
+                                                 ResourceBundle resources,
+                                                 std::shared_ptr<Operation> write,
+                                                 Options options) {
+    if (!wanted) {
+        return write;
+    }
+    return std::make_shared<SnapshotFirst>(std::move(port), std::move(resources), std::move(write),
+                                           std::move(options));
+}
+
 std::optional<Outcome> SnapshotFirst::refusal() {
     return write_->refusal();
 }

@@ -31,6 +31,10 @@ class SnapshotFirst : public Operation {
     SnapshotFirst(QString port, ResourceBundle resources, std::shared_ptr<Operation> write,
                   Options options);
 
+    /// `write` with a snapshot first when one is `wanted`, else `write` as it is.
+    static std::shared_ptr<Operation> around(bool wanted, QString port, ResourceBundle resources,
+                                             std::shared_ptr<Operation> write, Options options);
+
     /// The write's own refusal.
     std::optional<Outcome> refusal() override;
 
