@@ -16,6 +16,11 @@ python3 -m http.server --bind 127.0.0.1 --directory build/dev-catalogue "$port" 
 server=$!
 trap 'kill "$server" 2>/dev/null || true' EXIT
 catalogue="http://127.0.0.1:$port/catalogue.json"
+# The window reads the catalogue as it opens; let the server listen first.
+for _ in $(seq 50); do
+    (exec 3<>"/dev/tcp/127.0.0.1/$port") 2>/dev/null && break
+    sleep 0.1
+done
 echo "Serving the development firmware catalogue at $catalogue"
 
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
